@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+namespace application {
+
+/// Tells the windows what core changed, so that core knows no window.
+class Signaux : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+Q_SIGNALS:
+    /// The list of doctors, or its selection, has changed.
+    void MedecinsChanges();
+    /// Another doctor is current, his settings are read.
+    void MedecinChange();
+    /// A settings variable changed: menus, ruler, height entries follow.
+    void ReglagesChanges();
+    /// The sheet of the preview was painted or cleared.
+    void ApercuChange();
+    /// The face of the main window has to be painted again.
+    void FaceChange();
+    /// The prescription in hand was reset or given other check boxes.
+    void OrdonnanceChange();
+    /// The table of patients changed from outside its window.
+    void PatientsChanges();
+};
+
+} // namespace application

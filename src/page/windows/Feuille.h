@@ -1,0 +1,45 @@
+#pragma once
+
+#include "page/Dessin.h"
+
+#include <QWidget>
+
+class QPainter;
+
+namespace page {
+
+/// Replays a drawing with a painter. `unitesParMm` is the painter's resolution; texts are scaled from
+/// points by it, unhinted and unkerned, so that every target shows what was measured.
+void Rejoue(const Dessin& dessin, QPainter& peintre, double unitesParMm);
+
+/// Shows a `Dessin` at any zoom. It owns a copy of what it shows.
+class Feuille : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Feuille(QWidget* parent = nullptr);
+
+    void Montre(const Dessin& dessin);
+    const Dessin& Montree() const { return dessin_; }
+
+    /// White sheet with edge and light shadow, or transparent on the window's own ground.
+    void AvecPapier(bool oui);
+    /// Marks the sheet's bottom at that Y in millimetres: text below is lost on paper. 0 for no mark.
+    void MarqueBas(double y);
+    /// Screen pixels for one millimetre; the sheet's size follows.
+    void Zoom(double pixelsParMm);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override;
+
+private:
+    Dessin dessin_;
+    double zoom_;
+    double bas_ = 0;
+    bool papier_ = true;
+};
+
+} // namespace page

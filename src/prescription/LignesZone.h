@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QAbstractListModel>
+
+namespace prescription {
+
+/// One row of a zone: its text (two blanks, title, run of blanks, identifier) and its item data,
+/// the index of its entry in the zone's array.
+struct Ligne
+{
+    QString Texte;
+    int Indice = 0;
+    bool operator==(const Ligne&) const = default;
+};
+
+/// The rows of one zone, in the order of the page. `LstChoix1` and `LstChoix2` show it.
+/// Qt::DisplayRole gives the text, Qt::UserRole the item data.
+class LignesZone : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    const QList<Ligne>& Lignes() const { return lignes_; }
+    bool Vide() const { return lignes_.isEmpty(); }
+    void Ajoute(const Ligne& ligne);
+    void Retire(int rang);
+    /// Moves a row one place: `vers` is `rang` - 1 or `rang` + 1. A place outside the list changes nothing.
+    void Deplace(int rang, int vers);
+    void Efface();
+
+private:
+    QList<Ligne> lignes_;
+};
+
+/// The identifier at the end of a row: its last ten characters, trimmed.
+QString IdentifiantDeLigne(const QString& texte);
+/// The title in a row: what stays without the last thirty characters, trimmed.
+QString TitreDeLigne(const QString& texte);
+
+} // namespace prescription

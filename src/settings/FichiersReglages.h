@@ -1,0 +1,27 @@
+#pragma once
+
+#include "drugbank/Banque.h"
+#include "settings/Reglages.h"
+#include "storage/Base.h"
+
+namespace settings {
+
+/// Reads `Options.cfg`, `Marges.cfg` and `Dupli.cfg` of a directory over the variables. A file that is
+/// missing, short or damaged raises nothing: the fields not reached keep what they had.
+void ChargeReglages(Reglages& reglages, const QString& chemin);
+
+/// Write the whole record into the directory `chemin`; a damaged former file is kept beside as
+/// "NAME.abime". Throw `Erreur`.
+void EcritOptions(const Options& options, const QString& chemin);
+void EcritMarges(const Marges& marges, const QString& chemin);
+void EcritDupli(const Dupli& dupli, const QString& chemin);
+
+/// "Base.cfg": `TypeBase`, `NiveauInteraction`, `ProduitBanque`. Reading gives false when there is no file.
+bool LitBaseCfg(drugbank::Banque& banque, const QString& chemin);
+void EcritBaseCfg(const drugbank::Banque& banque, const QString& chemin);
+
+/// Reads the doctor's look (`Entete` row 23, `CouleurPET`, `Misenpage`, `Certificat`) into the variables.
+/// A table without rows leaves them as they are, but for the colour, which becomes black. Throws `Erreur`.
+void ChargeLook(Look& look, storage::Base& ordo);
+
+} // namespace settings

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "page/Police.h"
+
+#include <QString>
+
+namespace settings {
+
+/// `Options.cfg`: fields in file order.
+struct Options
+{
+    quint8 LanceDemarrage = 0;
+    quint8 AffichePoids = 1;
+    quint8 AfficheAge = 1;
+    quint8 SouligneNom = 1;
+    quint8 ReduitLancement = 0;
+    quint8 MinimiseImpression = 0;
+    quint8 IconeHorloge = 1;
+    quint8 SautsPrescription = 2; ///< blank lines between two entries, 1 to 4
+    quint8 PositionLogo = 1; ///< 1 left, 2 right
+    quint8 SautTitrePoso = 0;
+    quint8 BarreMenu = 0;
+    quint8 ModeEntete = 0; ///< 0 address before practitioner, 1 practitioner first
+    quint8 AfficheRegle = 0;
+    QString Imprimante;
+    quint8 IncrementeMedicaments = 0;
+    quint8 TotalMedicaments = 0;
+    QString FichierLogo;
+    quint8 LogoActif = 0;
+    qint16 LogoHauteur = 0; ///< millimetres, as the three below
+    qint16 LogoLargeur = 0;
+    qint16 LogoX = 0;
+    qint16 LogoY = 0;
+    quint8 SautPersonnalise = 0;
+    quint8 ReliefMedUtilises = 0;
+    quint8 TenirJournal = 0;
+    quint8 AfficheDDN = 1;
+    quint8 ImprimeDate = 1;
+    quint8 EtatChkMono = 1;
+    quint8 FormatA4 = 1; ///< 1 A4, 0 A5
+    bool operator==(const Options&) const = default;
+};
+
+/// `Marges.cfg`: fields in file order, in millimetres.
+struct Marges
+{
+    float MargeGaucheEntete = 10;
+    float MargeHauteEntete = 4;
+    float MargeBasEntete = 10;
+    float MargeGaucheOrdo = 20;
+    float MargeHauteOrdo = 100;
+    float LongueurLigne = 170;
+    qint16 MargeHautePatient = 70;
+    qint16 MargeGauchePatient = 100;
+    float HauteurSaut = 0;
+    qint16 MargeHauteDate = 0;
+    qint16 MargeGaucheDate = 0;
+    qint16 MargeHauteDDN = 0;
+    qint16 MargeGaucheDDN = 0;
+    bool operator==(const Marges&) const = default;
+};
+
+/// `Dupli.cfg`: fields in file order. The word that marks a copy.
+struct Dupli
+{
+    QString DupliPolice = QStringLiteral("Arial");
+    qint16 DupliTaille = 48;
+    quint8 DupliItalique = 0;
+    quint8 DupliGras = 0;
+    qint32 DupliCouleur = 0;
+    qint16 DupliX = 35;
+    qint16 DupliY = 140;
+    quint8 DupliActif = 1;
+    QString DupliTexte = QStringLiteral("DUPLICATA");
+    bool operator==(const Dupli&) const = default;
+};
+
+/// The look kept in the doctor's database.
+struct Look
+{
+    page::Police Titre; ///< `PoliceTitre`, `TailleTitre`, ...: row 0 of `Misenpage`
+    page::Police Poso; ///< `PolicePoso`, ...: row 1
+    page::Police Certif; ///< `PoliceCertif`, ...: `Certificat`
+    page::Couleur CouleurEntete = page::kNoir;
+    QString NomSignature;
+};
+
+/// One variable per settings field. Whatever prints or draws reads these, never the files.
+struct Reglages
+{
+    settings::Options Options;
+    settings::Marges Marges;
+    settings::Dupli Dupli;
+    settings::Look Look;
+};
+
+} // namespace settings
