@@ -23,7 +23,7 @@ public:
     /// A surface of the given size in millimetres.
     explicit Surface(Cible cible, double largeur = 210, double hauteur = 297);
 
-    page::Cible Cible() const { return cible_; }
+    page::Cible Genre() const { return cible_; }
 
     /// Removes what was drawn and puts pen and origin back on the corner; scale mode and font stay.
     void Cls();
