@@ -27,6 +27,8 @@ Q_SIGNALS:
     void OrdonnanceChange();
     /// The table of patients changed from outside its window.
     void PatientsChanges();
+    /// A window asks for the end of the program: session closed, tray icon removed, windows unloaded.
+    void FinDemandee();
 };
 
 } // namespace application
