@@ -7,7 +7,8 @@ namespace prescription {
 /// What the editor shows.
 struct Apercu
 {
-    quint8 ModeApercu = 0; ///< 0 a prescription, 1 a certificate, 2 back from the certificate to the medications
+    quint8 ModeApercu =
+        0; ///< 0 a prescription, 1 a certificate, 2 back from the certificate to the medications
     page::Dessin PctOrdo; ///< the sheet on the screen
 };
 
@@ -15,7 +16,7 @@ struct Apercu
 struct Impression
 {
     quint8 EtatImprimante = 0; ///< 0 not confirmed, 1 confirmed just now, 2 first job thrown away
-    quint8 NbCopies = 1; ///< sheets of the job
+    quint8 NbCopies = 1;       ///< sheets of the job
 };
 
 } // namespace prescription

@@ -1,0 +1,60 @@
+#include "prescription/Feuillets.h"
+
+#include <algorithm>
+
+namespace prescription {
+
+namespace {
+
+constexpr page::Couleur kToutesCouleurs = 0xFFFFFF;
+
+page::Police PoliceDeLaMarque(const settings::Dupli& dupli)
+{
+    return {.Nom = dupli.DupliPolice,
+            .Taille = static_cast<float>(std::max<qint16>(dupli.DupliTaille, 1)),
+            .Gras = dupli.DupliGras != 0,
+            .Italique = dupli.DupliItalique != 0};
+}
+
+void MarqueCopie(page::Surface& cible, const settings::Dupli& dupli)
+{
+    cible.ScaleMode(page::Echelle::Millimetres);
+    cible.ForeColor(static_cast<page::Couleur>(dupli.DupliCouleur) & kToutesCouleurs);
+    cible.Font(PoliceDeLaMarque(dupli));
+    cible.CurrentX(dupli.DupliX);
+    cible.CurrentY(dupli.DupliY);
+    cible.Print(dupli.DupliTexte);
+}
+
+} // namespace
+
+quint8 NombreDeCopies(const Ordonnance& ordonnance, quint8 modeApercu)
+{
+    if (modeApercu == 1) {
+        return 1;
+    }
+    if (ordonnance.ChkDup == 1) {
+        return 2;
+    }
+    return ordonnance.ChkTri == 1 ? 3 : 1;
+}
+
+QList<page::Dessin> PeintFeuillets(page::Modele& modele, const QImage& logo, int nombre,
+                                   outside::Boites& boites)
+{
+    QList<page::Dessin> feuillets;
+    for (int feuillet = 1; feuillet <= nombre; ++feuillet) {
+        page::Surface cible(page::Cible::Imprimante);
+        cible.ForeColor(modele.Reglages.Look.CouleurEntete);
+        if (feuillet > 1 && modele.Reglages.Dupli.DupliActif == 1) {
+            MarqueCopie(cible, modele.Reglages.Dupli);
+        }
+        page::PeintEntete(cible, modele, logo);
+        page::PeintPatient(cible, modele, boites);
+        page::PeintOrdo(cible, modele);
+        feuillets.append(cible.Resultat());
+    }
+    return feuillets;
+}
+
+} // namespace prescription

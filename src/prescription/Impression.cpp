@@ -1,0 +1,127 @@
+#include "prescription/Impression.h"
+
+#include "common/Erreur.h"
+#include "common/Fichiers.h"
+#include "outside/Boites.h"
+#include "outside/Horloge.h"
+#include "outside/Imprimantes.h"
+#include "patients/Patient.h"
+#include "prescription/Apercu.h"
+#include "prescription/Editeur.h"
+#include "prescription/Feuillets.h"
+#include "prescription/Journal.h"
+#include "prescription/messages.h"
+#include "startup/Chemins.h"
+#include "startup/Medecins.h"
+
+namespace prescription {
+
+namespace {
+
+/// What one run of the command works with.
+struct Tirage
+{
+    application::Contexte& Contexte;
+    page::Modele& Modele;
+    QImage Logo;
+    QString Imprimante;
+    outside::Travail Travail;
+};
+
+QString TitreDuTravail(const patients::Patient& patient)
+{
+    const QString nom = patient.NomSeul.simplified();
+    return nom.isEmpty() ? QStringLiteral("Ordonnance") : nom;
+}
+
+QString ImprimanteEnUsage(application::Contexte& contexte)
+{
+    const QString choisie = contexte.Reglages.Options.Imprimante;
+    if (contexte.Dehors.Imprimantes.Noms().contains(choisie)) {
+        return choisie;
+    }
+    const QString utilisee = contexte.Dehors.Imprimantes.ParDefaut();
+    if (!choisie.isEmpty()) {
+        contexte.Dehors.Boites.Information(messages::ImprimanteIntrouvable(choisie, utilisee));
+    }
+    return utilisee;
+}
+
+void Peint(Tirage& tirage)
+{
+    tirage.Travail.Pages = PeintFeuillets(tirage.Modele, tirage.Logo, tirage.Contexte.Impression.NbCopies,
+                                          tirage.Contexte.Dehors.Boites);
+}
+
+bool AccepteLaPerte(const Tirage& tirage)
+{
+    const int perdues = page::LignesPerdues(tirage.Travail.Pages.constFirst(), tirage.Modele.Reglages);
+    return perdues == 0 || tirage.Contexte.Dehors.Boites.Question(messages::LignesHorsDeLaFeuille(perdues),
+                                                                  outside::Bouton::Non);
+}
+
+void AbandonneLePremier(Tirage& tirage)
+{
+    if (tirage.Contexte.Impression.EtatImprimante != 1) {
+        return;
+    }
+    tirage.Contexte.Impression.EtatImprimante = 2;
+    tirage.Contexte.Dehors.Imprimantes.Abandonne(tirage.Travail);
+    Peint(tirage);
+}
+
+bool Envoie(Tirage& tirage)
+{
+    try {
+        if (tirage.Imprimante == outside::NomFichierPdf()) {
+            common::CreeDossier(tirage.Travail.CheminPdf);
+        }
+        tirage.Contexte.Dehors.Imprimantes.Imprime(tirage.Imprimante, tirage.Travail);
+        return true;
+    } catch (const common::Erreur& erreur) {
+        tirage.Contexte.Dehors.Boites.Stop(messages::ImpressionEchouee(tirage.Imprimante, erreur.Phrase()));
+        return false;
+    }
+}
+
+void InscritAuJournal(application::Contexte& contexte)
+{
+    if (contexte.Apercu.ModeApercu == 1 || contexte.Reglages.Options.TenirJournal != 1) {
+        return;
+    }
+    try {
+        TientJournal(CheminJournal(contexte.Chemins.CheminMedecin, contexte.Medecins.NomMedecinSignature),
+                     contexte.Ordonnance.LigneJournal);
+    } catch (const common::Erreur& erreur) {
+        contexte.Dehors.Boites.Stop(messages::JournalNonEcrit(erreur.Phrase()));
+    }
+}
+
+} // namespace
+
+bool ImprimeDocument(application::Contexte& contexte)
+{
+    const QString imprimante = ImprimanteEnUsage(contexte);
+    contexte.Impression.NbCopies = NombreDeCopies(contexte.Ordonnance, contexte.Apercu.ModeApercu);
+    QList<page::LigneEntete> entete;
+    page::Modele modele = ModelePage(contexte, entete);
+    Tirage tirage{contexte,
+                  modele,
+                  ChargeLogo(contexte.Reglages.Options),
+                  imprimante,
+                  {.Titre = TitreDuTravail(contexte.Patient),
+                   .Pages = {},
+                   .CheminPdf = common::Joint(contexte.Chemins.CheminTravail, QStringLiteral("PDF"))}};
+    Peint(tirage);
+    if (!AccepteLaPerte(tirage)) {
+        return false;
+    }
+    AbandonneLePremier(tirage);
+    if (!Envoie(tirage)) {
+        return false;
+    }
+    InscritAuJournal(contexte);
+    return true;
+}
+
+} // namespace prescription
