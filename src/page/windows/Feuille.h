@@ -1,6 +1,7 @@
 #pragma once
 
 #include "page/Dessin.h"
+#include "page/windows/PorteDessin.h"
 
 #include <QWidget>
 
@@ -13,7 +14,7 @@ namespace page {
 void Rejoue(const Dessin& dessin, QPainter& peintre, double unitesParMm);
 
 /// Shows a `Dessin` at any zoom. It owns a copy of what it shows.
-class Feuille : public QWidget
+class Feuille : public QWidget, public PorteDessin
 {
     Q_OBJECT
 
@@ -22,6 +23,7 @@ public:
 
     void Montre(const Dessin& dessin);
     const Dessin& Montree() const { return dessin_; }
+    const Dessin& DessinMontre() const override { return dessin_; }
 
     /// White sheet with edge and light shadow, or transparent on the window's own ground.
     void AvecPapier(bool oui);
