@@ -10,4 +10,10 @@ FrmPatient::FrmPatient(application::Contexte& contexte, application::Fenetres& f
     Q_UNUSED(fenetres_)
 }
 
+void FrmPatient::Ouvre(bool ouvreMedocApres)
+{
+    ouvreMedocApres_ = ouvreMedocApres;
+    exec();
+}
+
 } // namespace patients
