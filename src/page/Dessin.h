@@ -61,6 +61,8 @@ struct Dessin
     double Largeur = 210;
     double Hauteur = 297;
     QList<Item> Items;
+    qsizetype DebutCorps = 0; ///< index of the prescription's first item, and of the one behind its last
+    qsizetype FinCorps = 0;
 };
 
 } // namespace page

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "page/Dessin.h"
+#include "page/Mesure.h"
 
-#include <QRectF>
+#include <QImage>
 
 namespace page {
 
@@ -64,7 +65,7 @@ public:
     double TextHeight() const;
 
     /// Prints at the pen and ends the line: the pen goes to X 0, one line lower.
-    /// A line feed inside the text does the same between its parts.
+    /// A line feed inside the text does the same between its parts. Blanks leave no item, unless underlined.
     void Print(const QString& texte = QString());
     /// Prints at the pen, which stays on the line, behind the text.
     void PrintSuite(const QString& texte);
@@ -73,6 +74,10 @@ public:
     void Box(double x1, double y1, double x2, double y2);
     void PaintPicture(const QImage& image, double x, double y, double largeur, double hauteur);
 
+    /// What is drawn between the two is the prescription itself, as against letterhead and footer.
+    void DebuteCorps() { dessin_.DebutCorps = dessin_.FinCorps = dessin_.Items.size(); }
+    void TermineCorps() { dessin_.FinCorps = dessin_.Items.size(); }
+
     const Dessin& Resultat() const { return dessin_; }
 
 private:
@@ -80,6 +85,7 @@ private:
     double VersX(double valeur) const;
     double VersY(double valeur) const;
     void Ecrit(const QString& texte);
+    void EcritPartie(const QString& partie);
     void PasseALaLigne();
 
     page::Cible cible_;
@@ -93,10 +99,5 @@ private:
     int epaisseur_ = 1;
     Dessin dessin_;
 };
-
-/// Width in millimetres that every surface measures for a text in a font; the widest of its lines.
-double MesureLargeur(const QString& texte, const Police& police);
-/// Height in millimetres of a line in a font: ascent and descent.
-double MesureHauteur(const Police& police);
 
 } // namespace page

@@ -9,10 +9,6 @@ class QPainter;
 
 namespace page {
 
-/// Replays a drawing with a painter. `unitesParMm` is the painter's resolution; texts are scaled from
-/// points by it, unhinted and unkerned, so that every target shows what was measured.
-void Rejoue(const Dessin& dessin, QPainter& peintre, double unitesParMm);
-
 /// Shows a `Dessin` at any zoom. It owns a copy of what it shows.
 class Feuille : public QWidget, public PorteDessin
 {
@@ -38,6 +34,11 @@ protected:
     void paintEvent(QPaintEvent* evenement) override;
 
 private:
+    void ReprendTaille();
+    QSizeF TailleDeLaFeuille() const;
+    void PeintPapier(QPainter& peintre) const;
+    void PeintMarque(QPainter& peintre) const;
+
     Dessin dessin_;
     double zoom_;
     double bas_ = 0;

@@ -1,0 +1,176 @@
+#include "page/Rejeu.h"
+
+#include "page/Caracteres.h"
+#include "page/Mesure.h"
+
+#include <QColor>
+#include <QGlyphRun>
+#include <QPaintDevice>
+#include <QPainter>
+#include <QRawFont>
+#include <algorithm>
+#include <vector>
+
+namespace page {
+
+namespace {
+
+constexpr double kMillimetresParPointTypo = 25.4 / 72;
+
+QColor CouleurQt(Couleur couleur)
+{
+    return QColor(couleur & 0xFF, couleur >> 8 & 0xFF, couleur >> 16 & 0xFF);
+}
+
+struct PoliceRejouee
+{
+    page::Police Police;
+    QRawFont Brute;
+    double Ascendante = 0;
+};
+
+class Rejeu
+{
+public:
+    Rejeu(QPainter& peintre, double unitesParMm) : peintre_(peintre), unites_(unitesParMm) {}
+
+    void operator()(const ItemTexte& item);
+    void operator()(const ItemTrait& item);
+    void operator()(const ItemCadre& item);
+    void operator()(const ItemImage& item);
+
+private:
+    const PoliceRejouee& PolicePour(const page::Police& police);
+    bool PlaceGlyphes(const ItemTexte& item, const PoliceRejouee& police);
+    void EcritUnAUn(const ItemTexte& item, double base);
+    void Souligne(const ItemTexte& item, double base);
+    double EpaisseurDeTrait(int epaisseur) const;
+
+    QPainter& peintre_;
+    double unites_;
+    std::vector<PoliceRejouee> polices_;
+    std::vector<quint32> glyphes_;
+    std::vector<QPointF> places_;
+};
+
+const PoliceRejouee& Rejeu::PolicePour(const page::Police& police)
+{
+    const auto connue = std::ranges::find(polices_, police, &PoliceRejouee::Police);
+    if (connue != polices_.end()) {
+        return *connue;
+    }
+    const QFont font = PoliceQt(police);
+    QRawFont brute = QRawFont::fromFont(font);
+    brute.setPixelSize(font.pointSizeF() * kMillimetresParPointTypo * unites_);
+    return polices_.emplace_back(PoliceRejouee{police, brute, MesureAscendante(police)});
+}
+
+// False when the font lacks a character: another font has to stand in for it.
+bool Rejeu::PlaceGlyphes(const ItemTexte& item, const PoliceRejouee& police)
+{
+    int nombre = static_cast<int>(item.Texte.size());
+    glyphes_.resize(item.Texte.size());
+    places_.resize(item.Texte.size());
+    if (!police.Brute.glyphIndexesForChars(item.Texte.constData(), nombre, glyphes_.data(), &nombre)) {
+        return false;
+    }
+    glyphes_.resize(nombre);
+    places_.resize(nombre);
+    double x = 0;
+    qsizetype lu = 0;
+    for (QPointF& place : places_) {
+        place = QPointF(x, 0);
+        x += MesureAvance(LitCaractere(item.Texte, lu), item.Police) * unites_;
+    }
+    return std::ranges::find(glyphes_, 0U) == glyphes_.end();
+}
+
+void Rejeu::operator()(const ItemTexte& item)
+{
+    const PoliceRejouee& police = PolicePour(item.Police);
+    const double base = (item.Y + police.Ascendante) * unites_;
+    peintre_.setPen(CouleurQt(item.Encre));
+    if (PlaceGlyphes(item, police)) {
+        QGlyphRun suite;
+        suite.setRawFont(police.Brute);
+        suite.setRawData(glyphes_.data(), places_.data(), static_cast<int>(glyphes_.size()));
+        peintre_.drawGlyphRun(QPointF(item.X * unites_, base), suite);
+    } else {
+        EcritUnAUn(item, base);
+    }
+    if (item.Police.Souligne) {
+        Souligne(item, base);
+    }
+}
+
+void Rejeu::EcritUnAUn(const ItemTexte& item, double base)
+{
+    const double pointsParUnite = 72.0 / peintre_.device()->logicalDpiY();
+    peintre_.setFont(PoliceQt(item.Police, kMillimetresParPointTypo * unites_ * pointsParUnite));
+    double x = item.X;
+    for (qsizetype place = 0; place < item.Texte.size();) {
+        const char32_t caractere = LitCaractere(item.Texte, place);
+        if (caractere > U' ') {
+            peintre_.drawText(QPointF(x * unites_, base), QString::fromUcs4(&caractere, 1));
+        }
+        x += MesureAvance(caractere, item.Police);
+    }
+}
+
+void Rejeu::Souligne(const ItemTexte& item, double base)
+{
+    const Soulignement trait = MesureSoulignement(item.Police);
+    const double haut = base + (trait.Distance - trait.Epaisseur / 2) * unites_;
+    peintre_.fillRect(QRectF(item.X * unites_, haut, item.Largeur * unites_, trait.Epaisseur * unites_),
+                      CouleurQt(item.Encre));
+}
+
+// Never thinner than a unit: a line of the screen is at least one pixel.
+double Rejeu::EpaisseurDeTrait(int epaisseur) const
+{
+    return std::max(1.0, epaisseur * kMillimetresParTrait * unites_);
+}
+
+void Rejeu::operator()(const ItemTrait& item)
+{
+    const double epaisseur = EpaisseurDeTrait(item.Epaisseur);
+    const QPointF debut(item.X * unites_, item.Y * unites_);
+    const QPointF fin(item.X2 * unites_, item.Y2 * unites_);
+    const QPointF demi(0, epaisseur / 2);
+    if (item.Y == item.Y2) {
+        peintre_.fillRect(QRectF(debut - demi, fin + demi).normalized(), CouleurQt(item.Encre));
+        return;
+    }
+    peintre_.setPen(QPen(CouleurQt(item.Encre), epaisseur, Qt::SolidLine, Qt::FlatCap));
+    peintre_.drawLine(debut, fin);
+}
+
+void Rejeu::operator()(const ItemCadre& item)
+{
+    peintre_.setPen(QPen(CouleurQt(item.Encre), EpaisseurDeTrait(item.Epaisseur), Qt::SolidLine,
+                         Qt::SquareCap, Qt::MiterJoin));
+    peintre_.setBrush(Qt::NoBrush);
+    const QRectF cadre(QPointF(item.X, item.Y) * unites_, QPointF(item.X2, item.Y2) * unites_);
+    peintre_.drawRect(cadre.normalized());
+}
+
+void Rejeu::operator()(const ItemImage& item)
+{
+    const QRectF place(item.X * unites_, item.Y * unites_, item.Largeur * unites_, item.Hauteur * unites_);
+    peintre_.drawImage(place, item.Image);
+}
+
+} // namespace
+
+void Rejoue(const Dessin& dessin, QPainter& peintre, double unitesParMm)
+{
+    peintre.save();
+    peintre.setRenderHints(QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    Rejeu rejeu(peintre, unitesParMm);
+    for (const Item& item : dessin.Items) {
+        std::visit(rejeu, item);
+    }
+    peintre.restore();
+}
+
+} // namespace page

@@ -1,0 +1,107 @@
+#include "page/windows/Feuille.h"
+
+#include "application/windows/Style.h"
+#include "application/windows/StyleFeuille.h"
+#include "page/Rejeu.h"
+#include "page/Surface.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace page {
+
+namespace style = application::style;
+
+Feuille::Feuille(QWidget* parent) : QWidget(parent), zoom_(kPixelsParMillimetre)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    resize(sizeHint());
+}
+
+void Feuille::Montre(const Dessin& dessin)
+{
+    dessin_ = dessin;
+    ReprendTaille();
+}
+
+void Feuille::AvecPapier(bool oui)
+{
+    papier_ = oui;
+    ReprendTaille();
+}
+
+void Feuille::MarqueBas(double y)
+{
+    bas_ = y;
+    update();
+}
+
+void Feuille::Zoom(double pixelsParMm)
+{
+    zoom_ = pixelsParMm;
+    ReprendTaille();
+}
+
+void Feuille::ReprendTaille()
+{
+    updateGeometry();
+    resize(sizeHint());
+    update();
+}
+
+QSizeF Feuille::TailleDeLaFeuille() const
+{
+    return QSizeF(dessin_.Largeur, dessin_.Hauteur) * zoom_;
+}
+
+QSize Feuille::sizeHint() const
+{
+    const QSizeF feuille = TailleDeLaFeuille();
+    const int bord = papier_ ? 2 * style::kBordFeuille : 0;
+    return QSize(qCeil(feuille.width()) + bord, qCeil(feuille.height()) + bord);
+}
+
+void Feuille::paintEvent(QPaintEvent* evenement)
+{
+    QPainter peintre(this);
+    peintre.setClipRect(evenement->rect());
+    if (papier_) {
+        peintre.translate(style::kBordFeuille, style::kBordFeuille);
+        PeintPapier(peintre);
+    }
+    peintre.setClipRect(QRectF(QPointF(), TailleDeLaFeuille()), Qt::IntersectClip);
+    Rejoue(dessin_, peintre, zoom_);
+    if (bas_ > 0) {
+        PeintMarque(peintre);
+    }
+}
+
+void Feuille::PeintPapier(QPainter& peintre) const
+{
+    const QRectF feuille(QPointF(), TailleDeLaFeuille());
+    for (int ombre = style::kBordFeuille - 1; ombre > 0; --ombre) {
+        peintre.setPen(Qt::NoPen);
+        peintre.setBrush(QColor(0, 0, 0, style::kOpaciteOmbre));
+        peintre.drawRoundedRect(feuille.adjusted(-ombre, style::kDescenteOmbre - ombre, ombre, ombre), ombre,
+                                ombre);
+    }
+    peintre.fillRect(feuille, QColor(style::kPapier));
+    peintre.setPen(QPen(QColor(style::kBordDuPapier), 1));
+    peintre.setBrush(Qt::NoBrush);
+    peintre.drawRect(feuille.adjusted(-0.5, -0.5, 0.5, 0.5));
+}
+
+void Feuille::PeintMarque(QPainter& peintre) const
+{
+    const double y = bas_ * zoom_;
+    const QColor couleur(style::kMarqueInterdit);
+    peintre.setPen(QPen(couleur, 1, Qt::DashLine));
+    peintre.drawLine(QPointF(0, y), QPointF(TailleDeLaFeuille().width(), y));
+    QFont police = font();
+    police.setPointSizeF(style::kPoliceMarque);
+    peintre.setFont(police);
+    peintre.drawText(QRectF(style::kDansGroupe, y, TailleDeLaFeuille().width(), style::kHauteurRangee),
+                     Qt::AlignLeft | Qt::AlignTop, QStringLiteral("Bas de la feuille"));
+}
+
+} // namespace page
