@@ -1,43 +1,78 @@
 #pragma once
 
+#include <QColor>
 #include <QIcon>
 #include <QPushButton>
 #include <QString>
 
 class QApplication;
 class QLabel;
+class QToolButton;
+class QVBoxLayout;
 class QWidget;
 
 /// The one place for colours, sizes, fonts and icons of every window.
 namespace application::style {
 
 constexpr int kMarge = 14; ///< of a window, in pixels at 100 %, as all below
+constexpr int kMargeCarte = 14;
 constexpr int kEntreGroupes = 12;
 constexpr int kDansGroupe = 6;
 constexpr int kHauteurBouton = 34;
 constexpr int kHauteurRangee = 26;
 constexpr int kTailleIcone = 18;
 
-/// Font, palette, style sheet, French translations of Qt and the window icon for the whole program.
+/// The colours in use, by what they stand for.
+enum class Ton {
+    Page,  ///< page blue 222, 235, 250
+    Fond,  ///< its lighter tint, the ground of windows
+    Encre, ///< what acts: primary button, focus, headings, links, selection
+    Jaune, ///< medications used before
+    Texte,
+    Discret, ///< captions beside a control, contrast 4.5 to 1 on white
+    Filet,   ///< hairlines
+    Eteint,  ///< what is disabled
+    Rouge,   ///< what forbids or destroys, nothing else
+    Blanc
+};
+
+QColor Teinte(Ton ton);
+
+/// Style, font, palette, style sheet, French texts of Qt and the window icon for the whole program.
 void Installe(QApplication& application);
 
-/// An icon of the set by its name, tinted ("plus", "trash", "printer"); `clair` for a primary button.
+/// An icon of `cmake/icones.txt` by its name ("plus-lg", "trash3", "printer"), in ink blue, or white for a
+/// primary button. It is tinted when first painted, at any size and pixel density.
 QIcon Icone(const QString& nom, bool clair = false);
+QIcon Icone(const QString& nom, Ton ton);
 
 /// A push button: object name, caption with its Alt letter ("&Ajouter"), icon name or empty.
 QPushButton* Bouton(const QString& nomObjet, const QString& texte, const QString& icone, QWidget* parent);
-/// The window's one primary button: Enter presses it.
+/// The window's one primary button: in a dialogue Enter presses it.
 QPushButton* BoutonPrincipal(const QString& nomObjet, const QString& texte, const QString& icone,
                              QWidget* parent);
 /// A button that destroys something.
 QPushButton* BoutonDestructeur(const QString& nomObjet, const QString& texte, const QString& icone,
                                QWidget* parent);
+/// A text that acts as a link: underlined under the mouse and in focus.
+QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent);
+/// A square button with an icon alone; the caption is its accessible name and tool tip.
+QToolButton* BoutonIcone(const QString& nomObjet, const QString& texte, const QString& icone,
+                         QWidget* parent);
 
 /// A heading in ink blue; `compagnon` takes its Alt letter.
 QLabel* Titre(const QString& nomObjet, const QString& texte, QWidget* parent, QWidget* compagnon = nullptr);
+/// A text in the quiet colour: a caption, a unit, a hint; `compagnon` takes its Alt letter.
+QLabel* Legende(const QString& nomObjet, const QString& texte, QWidget* parent, QWidget* compagnon = nullptr);
 
-/// A white card with rounded corners; lay the group out in it.
+/// A white card with rounded corners; lay the group out in it (margins `kMargeCarte`).
 QWidget* Carte(QWidget* parent);
+
+/// The window's vertical layout with its margins and the space between groups.
+QVBoxLayout* Fenetre(QWidget* fenetre);
+
+/// First size of a window, held within the screen that it appears on.
+void Dimensionne(QWidget* fenetre, int largeur, int hauteur);
 
 /// Accessible name and tool tip in one call; `touche` ("F5") is shown in the tip.
 void Nomme(QWidget* controle, const QString& nom, const QString& touche = {});

@@ -1,0 +1,134 @@
+#include "application/windows/Style.h"
+
+#include <QFrame>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace application::style {
+
+namespace {
+
+constexpr int kEntreIconeEtMot = 5; // added to the style's own gap
+
+QString SansLettre(QString texte)
+{
+    return texte.remove(QLatin1Char('&'));
+}
+
+QPushButton* BoutonDuGenre(const char* genre, const QString& nomObjet, const QString& texte,
+                           const QIcon& icone, QWidget* parent)
+{
+    auto* bouton = new QPushButton(icone, texte, parent);
+    bouton->setObjectName(nomObjet);
+    bouton->setProperty("genre", QLatin1String(genre));
+    bouton->setIconSize({kTailleIcone + (texte.isEmpty() ? 0 : kEntreIconeEtMot), kTailleIcone});
+    bouton->setAutoDefault(false);
+    bouton->setAccessibleName(SansLettre(texte));
+    bouton->setCursor(Qt::PointingHandCursor);
+    return bouton;
+}
+
+QIcon IconeOuRien(const QString& nom, Ton ton)
+{
+    return nom.isEmpty() ? QIcon() : Icone(nom, ton);
+}
+
+QLabel* Etiquette(const char* genre, const QString& nomObjet, const QString& texte, QWidget* parent,
+                  QWidget* compagnon)
+{
+    auto* etiquette = new QLabel(texte, parent);
+    etiquette->setObjectName(nomObjet);
+    etiquette->setProperty("genre", QLatin1String(genre));
+    etiquette->setTextFormat(Qt::PlainText);
+    if (compagnon) {
+        etiquette->setBuddy(compagnon);
+        compagnon->setAccessibleName(SansLettre(texte));
+    }
+    return etiquette;
+}
+
+} // namespace
+
+QPushButton* Bouton(const QString& nomObjet, const QString& texte, const QString& icone, QWidget* parent)
+{
+    return BoutonDuGenre("simple", nomObjet, texte, IconeOuRien(icone, Ton::Encre), parent);
+}
+
+QPushButton* BoutonPrincipal(const QString& nomObjet, const QString& texte, const QString& icone,
+                             QWidget* parent)
+{
+    auto* bouton = BoutonDuGenre("principal", nomObjet, texte, IconeOuRien(icone, Ton::Blanc), parent);
+    bouton->setAutoDefault(true);
+    bouton->setDefault(true);
+    return bouton;
+}
+
+QPushButton* BoutonDestructeur(const QString& nomObjet, const QString& texte, const QString& icone,
+                               QWidget* parent)
+{
+    return BoutonDuGenre("destructeur", nomObjet, texte, IconeOuRien(icone, Ton::Rouge), parent);
+}
+
+QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent)
+{
+    auto* lien = BoutonDuGenre("lien", nomObjet, texte, QIcon(), parent);
+    lien->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    return lien;
+}
+
+QToolButton* BoutonIcone(const QString& nomObjet, const QString& texte, const QString& icone, QWidget* parent)
+{
+    auto* bouton = new QToolButton(parent);
+    bouton->setObjectName(nomObjet);
+    bouton->setText(texte);
+    bouton->setIcon(Icone(icone));
+    bouton->setIconSize({kTailleIcone, kTailleIcone});
+    bouton->setFixedSize(kHauteurBouton, kHauteurBouton);
+    bouton->setFocusPolicy(Qt::StrongFocus);
+    Nomme(bouton, SansLettre(texte));
+    return bouton;
+}
+
+QLabel* Titre(const QString& nomObjet, const QString& texte, QWidget* parent, QWidget* compagnon)
+{
+    return Etiquette("titre", nomObjet, texte, parent, compagnon);
+}
+
+QLabel* Legende(const QString& nomObjet, const QString& texte, QWidget* parent, QWidget* compagnon)
+{
+    return Etiquette("legende", nomObjet, texte, parent, compagnon);
+}
+
+QWidget* Carte(QWidget* parent)
+{
+    auto* carte = new QFrame(parent);
+    carte->setProperty("genre", QStringLiteral("carte"));
+    return carte;
+}
+
+QVBoxLayout* Fenetre(QWidget* fenetre)
+{
+    auto* disposition = new QVBoxLayout(fenetre);
+    disposition->setContentsMargins(kMarge, kMarge, kMarge, kMarge);
+    disposition->setSpacing(kEntreGroupes);
+    return disposition;
+}
+
+void Dimensionne(QWidget* fenetre, int largeur, int hauteur)
+{
+    constexpr QSize kBordures(16, 48);
+    const QScreen* ecran =
+        fenetre->parentWidget() ? fenetre->parentWidget()->screen() : QGuiApplication::primaryScreen();
+    fenetre->resize(QSize(largeur, hauteur).boundedTo(ecran->availableSize() - kBordures));
+}
+
+void Nomme(QWidget* controle, const QString& nom, const QString& touche)
+{
+    controle->setAccessibleName(nom);
+    controle->setToolTip(touche.isEmpty() ? nom : QStringLiteral("%1 (%2)").arg(nom, touche));
+}
+
+} // namespace application::style

@@ -1,0 +1,78 @@
+#include "application/windows/Style.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFontInfo>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QTest>
+#include <QToolButton>
+
+using namespace application;
+
+class TestStyle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ThePoliceIsInter() { QCOMPARE(QFontInfo(QApplication::font()).family(), QStringLiteral("Inter")); }
+
+    void QtSpeaksFrench()
+    {
+        QCOMPARE(QLocale().toString(QDate(2026, 11, 20), QStringLiteral("MMMM")), QStringLiteral("novembre"));
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
+    }
+
+    void AnIconIsTinted()
+    {
+        const QImage encre = style::Icone(QStringLiteral("plus-lg")).pixmap(18, 18).toImage();
+        const QImage clair = style::Icone(QStringLiteral("plus-lg"), true).pixmap(18, 18).toImage();
+        QCOMPARE(encre.pixelColor(9, 9), style::Teinte(style::Ton::Encre));
+        QCOMPARE(clair.pixelColor(9, 9), QColor(Qt::white));
+    }
+
+    void AnIconFollowsThePixelDensity()
+    {
+        QCOMPARE(style::Icone(QStringLiteral("plus-lg")).pixmap(QSize(18, 18), 2.0).size(), QSize(36, 36));
+    }
+
+    void EveryIconOfTheSourcesExists()
+    {
+        static const QRegularExpression nom(
+            QStringLiteral("(?:Bouton|BoutonPrincipal|BoutonDestructeur|BoutonIcone|Icone)\\((?:[^;]*?)"
+                           "QStringLiteral\\(\"([a-z0-9]+(?:-[a-z0-9]+)*)\"\\)"));
+        QDirIterator fichiers(QStringLiteral(RACINE_PROJET "/src"), {QStringLiteral("*.cpp")}, QDir::Files,
+                              QDirIterator::Subdirectories);
+        while (fichiers.hasNext()) {
+            QFile fichier(fichiers.next());
+            QVERIFY(fichier.open(QIODevice::ReadOnly));
+            auto icones = nom.globalMatch(QString::fromUtf8(fichier.readAll()));
+            while (icones.hasNext()) {
+                const QString icone = icones.next().captured(1);
+                QVERIFY2(QFile::exists(QStringLiteral(":/icones/%1-18.png").arg(icone)),
+                         qPrintable(fichier.fileName() + QStringLiteral(": ") + icone));
+            }
+        }
+    }
+
+    void AButtonIs34High()
+    {
+        const std::unique_ptr<QPushButton> bouton(
+            style::Bouton(QStringLiteral("CmdX"), QStringLiteral("&Ajouter"), {}, nullptr));
+        bouton->ensurePolished();
+        QCOMPARE(bouton->sizeHint().height(), style::kHauteurBouton);
+        QCOMPARE(bouton->accessibleName(), QStringLiteral("Ajouter"));
+        QVERIFY(!bouton->isDefault());
+    }
+};
+
+int main(int nombre, char** arguments)
+{
+    QApplication application(nombre, arguments);
+    style::Installe(application);
+    TestStyle test;
+    return QTest::qExec(&test, nombre, arguments);
+}
+
+#include "test_style.moc"
