@@ -5,20 +5,21 @@
 namespace medication {
 
 /// No tree node is selected. A selected node number 100 reads the same.
-constexpr qint16 kAucunNoeud = 100;
+constexpr int kAucunNoeud = 100;
 
 /// What the picker has in hand.
 struct Choix
 {
-    qint16 NoeudChoisi = kAucunNoeud; ///< 1-based index of the selected node
+    int NoeudChoisi = kAucunNoeud; ///< 1-based index of the selected node
     quint8 ArbreChoisi = 0;
     quint8 OrigineEdition = 0; ///< 0 tree, 1 line taken back, 2 line only shown
-    quint8 ListeSource = 0; ///< 1 or 2, the list last pressed
-    int IndexEdition1 = 0; ///< array index of the line taken back
+    quint8 ListeSource = 0;    ///< 1 or 2, the list last pressed
+    int IndexEdition1 = 0;     ///< array index of the line taken back
     int IndexEdition2 = 0;
     QString IdentifiantRepris; ///< identifier of the line taken back
-    QStringList InfoPack; ///< CIP, pack id, product id, price of the pack last clicked
-    quint8 BaseChangee = 0; ///< 0 or 1: the tree is to be filled again; 2: it is filled
+    QStringList InfoPack;      ///< CIP, pack id, product id, price of the pack last clicked
+    QString EtiquetteLue;      ///< tag of the stored medication that the last click read; empty for none
+    quint8 BaseChangee = 0;    ///< 0 or 1: the tree is to be filled again; 2: it is filled
 };
 
 } // namespace medication

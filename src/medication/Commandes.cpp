@@ -1,0 +1,120 @@
+#include "medication/Commandes.h"
+
+#include "medication/messages.h"
+#include "outside/Boites.h"
+#include "prescription/Apercu.h"
+#include "prescription/Editeur.h"
+
+namespace medication {
+
+namespace {
+
+constexpr int kBlancsF4 = 30;
+
+std::optional<Zone> ZoneDuSaut(application::Contexte& contexte)
+{
+    using outside::Bouton;
+    if (contexte.Ordonnance.ChkALD == 0) {
+        return Zone::Un;
+    }
+    const Bouton reponse =
+        contexte.Dehors.Boites.Montre({.Genre = outside::Genre::Question,
+                                       .Texte = MessageZoneDuSaut(),
+                                       .Boutons = {Bouton::Oui, Bouton::Non, Bouton::Annuler},
+                                       .Defaut = Bouton::Oui});
+    if (reponse == Bouton::Annuler) {
+        return std::nullopt;
+    }
+    return reponse == Bouton::Oui ? Zone::Un : Zone::Deux;
+}
+
+} // namespace
+
+Suite Ajoute(application::Contexte& contexte, const Pharmacie& pharmacie, Zone zone, const Saisie& saisie,
+             const Noeud* noeud)
+{
+    Choix& choix = contexte.Choix;
+    if (saisie.TxtMedoc.isEmpty() || choix.OrigineEdition == 2) {
+        return Suite::Recherche;
+    }
+    // A line taken back is no longer one when its slot went with the whole document.
+    const bool deCetteZone = choix.OrigineEdition == 1 && choix.ListeSource == static_cast<quint8>(zone);
+    if (RepriseDe(contexte.Ordonnance, choix, zone)) {
+        RemetLigne(contexte.Ordonnance, choix, zone, saisie);
+    } else if (choix.OrigineEdition == 0 || deCetteZone) {
+        if (zone == Zone::Un && !noeud) {
+            return Suite::SansNoeud;
+        }
+        AjouteLigne(contexte.Ordonnance, zone, saisie, pharmacie.Identifiant(noeud));
+    }
+    choix.NoeudChoisi = kAucunNoeud;
+    return Suite::Termine;
+}
+
+bool SauteLigne(application::Contexte& contexte)
+{
+    const std::optional<Zone> zone = ZoneDuSaut(contexte);
+    if (zone) {
+        AjouteSaut(contexte.Ordonnance, *zone);
+    }
+    return zone.has_value();
+}
+
+void EffaceTout(application::Contexte& contexte)
+{
+    prescription::Ordonnance& ordonnance = contexte.Ordonnance;
+    for (const Zone zone : {Zone::Un, Zone::Deux}) {
+        Entrees(ordonnance, zone).clear();
+        Lignes(ordonnance, zone).Efface();
+    }
+    ordonnance.NbMedZone1 = 0;
+    ordonnance.NbMedZone2 = 0;
+    contexte.Choix.NoeudChoisi = kAucunNoeud;
+    prescription::EffaceApercu(contexte);
+}
+
+void PrepareOrdonnance(application::Contexte& contexte)
+{
+    prescription::Ordonnance& ordonnance = contexte.Ordonnance;
+    if (ordonnance.LstChoix1.Vide() && ordonnance.LstChoix2.Vide()) {
+        contexte.Dehors.Boites.Information(MessageAucunMedicament());
+    }
+    CompteMedicaments(ordonnance);
+}
+
+void MontreOrdonnance(application::Contexte& contexte)
+{
+    contexte.Apercu.ModeApercu = 0;
+    prescription::Repeint(contexte);
+}
+
+std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noeud* noeud, int rang)
+{
+    if (!noeud) {
+        return std::nullopt;
+    }
+    choix.OrigineEdition = 0;
+    choix.ArbreChoisi = 1;
+    choix.NoeudChoisi = rang + 1;
+    const std::optional<Saisie> lue = pharmacie.Lit(*noeud);
+    choix.EtiquetteLue = noeud->Etiquette;
+    return lue.value_or(Saisie{noeud->Texte, QString()});
+}
+
+bool PresseRecherche(Choix& choix)
+{
+    choix.ArbreChoisi = choix.ArbreChoisi == 1 ? 0 : 1;
+    return choix.ArbreChoisi == 1;
+}
+
+QString BasculeBlancs(const QString& texte)
+{
+    return texte.endsWith(u' ') ? texte.trimmed() : texte.trimmed() + QString(kBlancsF4, u' ');
+}
+
+bool RienEnMain(const prescription::Ordonnance& ordonnance, const Saisie& saisie)
+{
+    return ordonnance.LstChoix1.Vide() && ordonnance.LstChoix2.Vide() && saisie.TxtMedoc.isEmpty();
+}
+
+} // namespace medication

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "application/Contexte.h"
+#include "medication/Lignes.h"
+#include "medication/Pharmacie.h"
+
+namespace medication {
+
+/// What an adding button leaves to do in the window.
+enum class Suite {
+    Recherche, ///< the focus goes to the search box, nothing else
+    SansNoeud, ///< no node is selected: the box of the name is emptied
+    Termine    ///< the boxes are emptied and the focus goes to the search box
+};
+
+/// `CmdAjouter1` and `CmdAjouter2`. `noeud`: the selected node, null for none.
+Suite Ajoute(application::Contexte& contexte, const Pharmacie& pharmacie, Zone zone, const Saisie& saisie,
+             const Noeud* noeud);
+
+/// `CmdSaut`: asks for the zone when there are two. False when nothing was added.
+bool SauteLigne(application::Contexte& contexte);
+
+/// `CmdClear`: the lines, the counts, the preview and the selected node are reset.
+void EffaceTout(application::Contexte& contexte);
+
+/// `CmdOrdo` before the window hides: the message on empty lists, the counts.
+void PrepareOrdonnance(application::Contexte& contexte);
+/// `CmdOrdo` after it: the document becomes a prescription and is painted on the preview.
+void MontreOrdonnance(application::Contexte& contexte);
+
+/// A click on the node of a row: what the boxes show. A row outside the tree changes nothing.
+std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noeud* noeud, int rang);
+
+/// A press in the search box. True when its whole text is to be selected.
+bool PresseRecherche(Choix& choix);
+
+/// F4 in the name: 30 blanks behind a trimmed text that has none, otherwise the trimmed text.
+QString BasculeBlancs(const QString& texte);
+
+/// True when leaving loses nothing: no line in either zone, no medication in the boxes.
+bool RienEnMain(const prescription::Ordonnance& ordonnance, const Saisie& saisie);
+
+} // namespace medication

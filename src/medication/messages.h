@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QString>
+
+namespace medication {
+
+inline QString MessageModifie()
+{
+    return QStringLiteral("Modifications enregistrées.");
+}
+
+inline QString MessageSansNom()
+{
+    return QStringLiteral("Aucune indication de nom de médicament !");
+}
+
+inline QString MessageDisparu()
+{
+    return QStringLiteral("Ce médicament n'est plus dans la base de données : rien n'a été enregistré.");
+}
+
+inline QString MessageRetire(const QString& nom)
+{
+    return QStringLiteral("Supprimer ") + nom + QStringLiteral(" de la base de données ?");
+}
+
+inline QString MessageZoneDuSaut()
+{
+    return QStringLiteral("Zone ALD, tapez oui.\n\nZone non ALD, tapez non.");
+}
+
+inline QString MessageAucunMedicament()
+{
+    return QStringLiteral("Aucun médicament n'a été choisi !");
+}
+
+inline QString MessageAbandon()
+{
+    return QStringLiteral(
+        "Tout effacer et quitter la pharmacie ?\n\nLes lignes de l'ordonnance seront perdues.");
+}
+
+inline QString MessagePlusTard()
+{
+    return QStringLiteral("Disponible dans une prochaine version");
+}
+
+inline QString MessageAide()
+{
+    return QStringLiteral(
+        "L 'inscription, après un mot, et sans espace, de l'un des caractères suivants\n"
+        "(*, $, £)\n"
+        "permet le formatage du mot concerné :\n"
+        "-     *        en gras\n"
+        "-     $        en souligné\n"
+        "-     £        en italique\n"
+        "Ces caractères de formatage peuvent être associés, sans espace entre eux.\n"
+        "Par contre, seuls ou associés, un espace doit suivre obligatoirement.\n"
+        "Dans la zone de saisie des titres, le caractère # (dièse) peut être inséré, sans espace :\n"
+        "- AVANT le titre : cela permet de justifier au centre le titre, et le texte des posologies.\n"
+        "- APRES le titre : le texte ne sera pas reconnu comme un médicament.\n"
+        "Ainsi, si vous enregistrez un texte du type 'A renouveler 2 fois', 'QSP 3 mois', "
+        "-A domicile par IDE', etc..., l'option de comptabilisation des médicaments, si elle est choisie, "
+        "ignorera ces lignes.");
+}
+
+} // namespace medication
