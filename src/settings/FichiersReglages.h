@@ -10,6 +10,9 @@ namespace settings {
 /// missing, short or damaged raises nothing: the fields not reached keep what they had.
 void ChargeReglages(Reglages& reglages, const QString& chemin);
 
+/// `Options.cfg` of a directory over the variables, as above. False when there is no file.
+bool LitOptions(Options& options, const QString& chemin);
+
 /// Write the whole record into the directory `chemin`; a damaged former file is kept beside as
 /// "NAME.abime". Throw `Erreur`.
 void EcritOptions(const Options& options, const QString& chemin);

@@ -17,7 +17,7 @@ struct Options
     quint8 MinimiseImpression = 0;
     quint8 IconeHorloge = 1;
     quint8 SautsPrescription = 2; ///< blank lines between two entries, 1 to 4
-    quint8 PositionLogo = 1; ///< 1 left, 2 right
+    quint8 PositionLogo = 1;      ///< 1 left, 2 right
     quint8 SautTitrePoso = 0;
     quint8 BarreMenu = 0;
     quint8 ModeEntete = 0; ///< 0 address before practitioner, 1 practitioner first
@@ -78,8 +78,8 @@ struct Dupli
 /// The look kept in the doctor's database.
 struct Look
 {
-    page::Police Titre; ///< `PoliceTitre`, `TailleTitre`, ...: row 0 of `Misenpage`
-    page::Police Poso; ///< `PolicePoso`, ...: row 1
+    page::Police Titre;  ///< `PoliceTitre`, `TailleTitre`, ...: row 0 of `Misenpage`
+    page::Police Poso;   ///< `PolicePoso`, ...: row 1
     page::Police Certif; ///< `PoliceCertif`, ...: `Certificat`
     page::Couleur CouleurEntete = page::kNoir;
     QString NomSignature;

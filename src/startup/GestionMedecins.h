@@ -6,14 +6,33 @@
 
 namespace startup {
 
-/// Reads "Medecin.ini" of `CheminData` into the list. A missing file leaves it empty.
+struct Medecins;
+
+/// Reads "Medecin.ini" of `CheminData` into the list; once per run, at the start. A missing file leaves
+/// the list as it is.
 void LitMedecins(application::Contexte& contexte);
 
+/// The row of the doctor with that number, -1 without one.
+int RangMedecin(const Medecins& medecins, int numero);
+
 /// Makes the doctor of that row of the list the current one, with his settings and database. Every
-/// change of doctor of the program comes here. -1, or an empty list, changes nothing.
+/// change of doctor of the program comes here. A row outside the list changes nothing. A database
+/// that cannot be read is told in a box.
 void ChangeMedecin(application::Contexte& contexte, int rang);
 
 /// True with a current doctor; otherwise shows "Choisissez d'abord un médecin utilisateur.".
 bool ExigeMedecin(application::Contexte& contexte);
+
+/// `CmdNouveau`: asks for a name, inscribes the doctor and switches to him.
+void InscritMedecin(application::Contexte& contexte);
+
+/// `CmdSupprime`: deletes the selected doctor after a question. Throws `Erreur`.
+void SupprimeMedecin(application::Contexte& contexte);
+
+/// `CmdDefaut`: the selected doctor is the one selected at the next start. Throws `Erreur`.
+void PoseMedecinParDefaut(application::Contexte& contexte);
+
+/// `CmdQuitter`: true when the window may unload.
+bool QuitteMedecins(application::Contexte& contexte);
 
 } // namespace startup

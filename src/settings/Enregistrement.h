@@ -1,0 +1,119 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <tuple>
+#include <type_traits>
+
+namespace settings {
+
+/// How a record was read.
+enum class Lecture {
+    Absente, ///< no file
+    Complete,
+    Courte, ///< fewer fields than asked, as an older version writes them
+    Abimee  ///< empty, binary, an open quote, no number or one out of range
+};
+
+/// Reads the fields of a text record in order. Once something is damaged or the end is reached, every
+/// further field is left as it is.
+class Lecteur
+{
+public:
+    explicit Lecteur(QByteArrayView octets);
+
+    void Lit(QString& champ);
+    void Lit(float& champ);
+    template <typename Entier>
+    requires std::is_integral_v<Entier>
+    void Lit(Entier& champ)
+    {
+        LitNombre(champ, std::numeric_limits<Entier>::min(), std::numeric_limits<Entier>::max());
+    }
+
+    Lecture Etat() const;
+
+private:
+    bool Suivant();
+    void PrendEntreGuillemets();
+    void PrendJusquaVirgule();
+    bool NombreSuivant(double& nombre);
+    template <typename Entier> void LitNombre(Entier& champ, double minimum, double maximum)
+    {
+        double nombre = 0;
+        if (NombreSuivant(nombre)) {
+            const double entier = Arrondi(nombre);
+            if (entier < minimum || entier > maximum) {
+                abime_ = true;
+            } else {
+                champ = static_cast<Entier>(entier);
+            }
+        }
+    }
+    static double Arrondi(double nombre);
+
+    QByteArrayView octets_;
+    qsizetype place_ = 0;
+    QByteArray morceau_; ///< the field last taken
+    bool abime_ = false;
+    bool court_ = false;
+};
+
+/// The text form of a field.
+QByteArray TexteChamp(const QString& champ);
+QByteArray TexteChamp(float champ);
+template <typename Entier>
+requires std::is_integral_v<Entier> QByteArray TexteChamp(Entier champ)
+{
+    return QByteArray::number(static_cast<qlonglong>(champ));
+}
+
+/// True when a text comes back as it is from a record: no double quote, no line end, all of Windows-1252.
+bool TientDansEnregistrement(QStringView texte);
+
+/// Reads a record over the fields.
+template <typename... Champs> Lecture LitChamps(QByteArrayView octets, std::tuple<Champs&...> champs)
+{
+    Lecteur lecteur(octets);
+    std::apply([&](auto&... champ) { (lecteur.Lit(champ), ...); }, champs);
+    return lecteur.Etat();
+}
+
+/// The record of the fields, with its line end. A double quote in a text becomes an apostrophe and a
+/// control character a blank, since the format cannot hold them.
+template <typename... Champs> QByteArray TexteEnregistrement(std::tuple<Champs&...> champs)
+{
+    QByteArray ligne;
+    std::apply([&](auto&... champ) { ((ligne += TexteChamp(champ) + ','), ...); }, champs);
+    ligne.chop(1);
+    return ligne + "\r\n";
+}
+
+/// The bytes of a record file; a null array when there is none, and a NUL when it cannot be read.
+QByteArray OctetsEnregistrement(const QString& chemin);
+
+/// Keeps a damaged file beside as "NAME.abime". Throws `Erreur`.
+void GardeAbime(const QString& chemin);
+
+/// Writes a record file whole. Throws `Erreur`.
+void EcritOctets(const QString& chemin, const QByteArray& octets);
+
+/// Reads a record file over the fields. Raises nothing.
+template <typename... Champs> Lecture LitEnregistrement(const QString& chemin, std::tuple<Champs&...> champs)
+{
+    const QByteArray octets = OctetsEnregistrement(chemin);
+    return octets.isNull() ? Lecture::Absente : LitChamps(octets, champs);
+}
+
+/// Writes a record file; a damaged former one is kept beside. Throws `Erreur`.
+template <typename... Champs> void EcritEnregistrement(const QString& chemin, std::tuple<Champs&...> champs)
+{
+    std::tuple<std::remove_const_t<Champs>...> brouillon;
+    const auto references = std::apply([](auto&... champ) { return std::tie(champ...); }, brouillon);
+    if (LitEnregistrement(chemin, references) == Lecture::Abimee) {
+        GardeAbime(chemin);
+    }
+    EcritOctets(chemin, TexteEnregistrement(champs));
+}
+
+} // namespace settings

@@ -1,0 +1,57 @@
+#include "settings/FichiersReglages.h"
+#include "storage/Jeu.h"
+
+namespace settings {
+
+namespace {
+
+/// The five columns of a font from a position on; a null column leaves its value.
+void LitPolice(const storage::Jeu& jeu, int position, page::Police& police)
+{
+    const auto lit = [&](int rang, auto prend) {
+        if (!jeu.EstNull(position + rang)) {
+            prend(jeu.Champ(position + rang));
+        }
+    };
+    lit(0, [&](const QVariant& valeur) { police.Nom = valeur.toString(); });
+    lit(1, [&](const QVariant& valeur) { police.Taille = valeur.toFloat(); });
+    lit(2, [&](const QVariant& valeur) { police.Gras = valeur.toInt() != 0; });
+    lit(3, [&](const QVariant& valeur) { police.Italique = valeur.toInt() != 0; });
+    lit(4, [&](const QVariant& valeur) { police.Souligne = valeur.toInt() != 0; });
+}
+
+void ChargeEntete(Look& look, storage::Base& ordo)
+{
+    for (auto jeu = ordo.Table(QStringLiteral("Entete")); !jeu.Fin(); jeu.MoveNext()) {
+        if (jeu.Champ(0).toInt() == 23) {
+            look.NomSignature = jeu.Texte(1);
+        }
+    }
+    const auto couleur = ordo.Table(QStringLiteral("CouleurPET"));
+    look.CouleurEntete = couleur.Fin() ? page::kNoir : couleur.Champ(0).toUInt();
+}
+
+void ChargeMisenpage(Look& look, storage::Base& ordo)
+{
+    for (auto jeu = ordo.Table(QStringLiteral("Misenpage")); !jeu.Fin(); jeu.MoveNext()) {
+        const int rang = jeu.EstNull(0) ? -1 : jeu.Champ(0).toInt();
+        if (rang == 0 || rang == 1) {
+            LitPolice(jeu, 1, rang == 0 ? look.Titre : look.Poso);
+        }
+    }
+}
+
+} // namespace
+
+void ChargeLook(Look& look, storage::Base& ordo)
+{
+    Look lu = look;
+    ChargeEntete(lu, ordo);
+    ChargeMisenpage(lu, ordo);
+    if (const auto certificat = ordo.Table(QStringLiteral("Certificat")); !certificat.Fin()) {
+        LitPolice(certificat, 0, lu.Certif);
+    }
+    look = lu;
+}
+
+} // namespace settings

@@ -1,0 +1,117 @@
+#include "startup/GestionMedecins.h"
+
+#include "application/Signaux.h"
+#include "common/Erreur.h"
+#include "common/Fichiers.h"
+#include "common/Tolere.h"
+#include "drugbank/Banque.h"
+#include "medication/Choix.h"
+#include "outside/Boites.h"
+#include "settings/FichiersReglages.h"
+#include "startup/Chemins.h"
+#include "startup/MedecinIni.h"
+#include "startup/Medecins.h"
+#include "startup/messages.h"
+#include "storage/Bases.h"
+
+#include <algorithm>
+
+namespace startup {
+
+using application::Contexte;
+
+namespace {
+
+void CreeLogo(const QString& cheminMedecin)
+{
+    // A doctor without a directory in this tree is told of when his database is opened.
+    if (common::DossierExiste(cheminMedecin)) {
+        common::Tolere([&] { common::CreeDossier(common::Joint(cheminMedecin, QStringLiteral("Logo"))); });
+    }
+}
+
+/// The doctor's source of medications; without the helper library it is the personal pharmacy.
+void ChargeBanque(drugbank::Banque& banque, const QString& cheminMedecin)
+{
+    const bool lue = settings::LitBaseCfg(banque, cheminMedecin);
+    if (!lue || !banque.ModuleAide) {
+        banque.FiltreBanque = 64;
+        banque.TypeBase = QStringLiteral("BIP");
+    }
+}
+
+/// A look that cannot be read must not stay that of the doctor before.
+void ChargeLookOuDitPourquoi(Contexte& contexte)
+{
+    try {
+        settings::ChargeLook(contexte.Reglages.Look, contexte.Bases.Ordo(contexte.Chemins.CheminMedecin));
+    } catch (const common::Erreur& erreur) {
+        contexte.Reglages.Look = {};
+        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
+    }
+}
+
+void Annonce(application::Signaux& signaux)
+{
+    Q_EMIT signaux.MedecinsChanges();
+    Q_EMIT signaux.ReglagesChanges();
+    Q_EMIT signaux.MedecinChange();
+    Q_EMIT signaux.FaceChange();
+}
+
+} // namespace
+
+void LitMedecins(Contexte& contexte)
+{
+    const QString& dossier = contexte.Chemins.CheminData;
+    if (!common::FichierExiste(common::Joint(dossier, QStringLiteral("Medecin.ini")))) {
+        return;
+    }
+    const ContenuMedecinIni contenu = LitMedecinIni(dossier);
+    Medecins& medecins = contexte.Medecins;
+    medecins.Liste.clear();
+    medecins.NbMedecins = contenu.NbMedecins;
+    for (const LigneMedecin& ligne : contenu.Lignes) {
+        if (ligne.Lisible()) {
+            medecins.Liste.append(ligne.Lue);
+        }
+    }
+    medecins.Selection = RangMedecin(medecins, medecins.NumMedecin);
+    Q_EMIT contexte.Signaux.MedecinsChanges();
+}
+
+int RangMedecin(const Medecins& medecins, int numero)
+{
+    const auto place = std::ranges::find(medecins.Liste, numero, &Medecin::Numero);
+    return place == medecins.Liste.end() ? -1 : static_cast<int>(place - medecins.Liste.begin());
+}
+
+void ChangeMedecin(Contexte& contexte, int rang)
+{
+    Medecins& medecins = contexte.Medecins;
+    if (rang < 0 || rang >= medecins.Liste.size()) {
+        return;
+    }
+    const Medecin& medecin = medecins.Liste[rang];
+    medecins.Selection = rang;
+    medecins.NumMedecin = static_cast<qint16>(medecin.Numero);
+    contexte.Choix.NoeudChoisi = medication::kAucunNoeud;
+    contexte.Bases.FermeOrdo();
+    contexte.Chemins.CheminMedecin = common::Joint(contexte.Chemins.CheminTravail, medecin.Nom);
+    CreeLogo(contexte.Chemins.CheminMedecin);
+    settings::ChargeReglages(contexte.Reglages, contexte.Chemins.CheminMedecin);
+    ChargeBanque(contexte.Banque, contexte.Chemins.CheminMedecin);
+    ChargeLookOuDitPourquoi(contexte);
+    Annonce(contexte.Signaux);
+}
+
+bool ExigeMedecin(Contexte& contexte)
+{
+    if (contexte.Chemins.CheminMedecin.isEmpty()) {
+        contexte.Dehors.Boites.Information(messages::ChoisissezMedecin());
+        return false;
+    }
+    return true;
+}
+
+} // namespace startup

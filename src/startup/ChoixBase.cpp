@@ -1,0 +1,46 @@
+#include "startup/ChoixBase.h"
+
+#include "common/Erreur.h"
+#include "outside/Boites.h"
+#include "startup/FichiersChemins.h"
+#include "startup/messages.h"
+
+namespace startup {
+
+QStringList LignesCboBase()
+{
+    return {QStringLiteral("Le répertoire présent sur le disque de votre ordinateur"),
+            QStringLiteral("Un  support amovible  (ex : clef USB)"),
+            QStringLiteral("Le répertoire sur le serveur lors d'une utilisation réseau")};
+}
+
+void ChoisitStockage(application::Contexte& contexte, int rang)
+{
+    if (rang >= 0 && rang < LignesCboBase().size()) {
+        contexte.Chemins.IndexStockage = static_cast<quint8>(rang);
+    }
+}
+
+void ChoisitMedecinDuJour(application::Contexte& contexte, int rang)
+{
+    if (rang >= 0 && rang < contexte.Medecins.Liste.size()) {
+        contexte.Medecins.IndexMedecin = static_cast<qint16>(rang);
+    }
+}
+
+SuiteChoix ValideChoixBase(application::Contexte& contexte, int rang)
+{
+    if (rang < 0) {
+        const bool poursuit = contexte.Dehors.Boites.QuestionInformation(messages::ChoixObligatoire());
+        return poursuit ? SuiteChoix::Reste : SuiteChoix::Termine;
+    }
+    try {
+        EcritCheminBase(contexte.Chemins, contexte.Medecins);
+    } catch (const common::Erreur& erreur) {
+        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
+    }
+    contexte.Chemins.TypeStockage = static_cast<quint8>(rang + 1);
+    return SuiteChoix::Poursuit;
+}
+
+} // namespace startup

@@ -1,0 +1,76 @@
+#include "startup/Installation.h"
+
+#include "common/Fichiers.h"
+#include "settings/Enregistrement.h"
+#include "startup/Demarrage.h"
+
+#include <QStandardPaths>
+#include <QTemporaryFile>
+
+namespace startup {
+
+using common::Joint;
+
+namespace {
+
+bool PeutEcrire(const QString& dossier)
+{
+    QTemporaryFile essai(Joint(dossier, QStringLiteral("Scriptelle.XXXXXX")));
+    return essai.open();
+}
+
+QString FichierVersion(const QString& installation)
+{
+    return Joint(installation, QStringLiteral("Installation.cfg"));
+}
+
+bool DejaCopiee(const QString& installation)
+{
+    QString version;
+    settings::LitEnregistrement(FichierVersion(installation), std::tie(version));
+    return version == Version();
+}
+
+void CopieSiPresent(const QString& source, const QString& destination, const QString& nom)
+{
+    if (common::FichierExiste(Joint(source, nom))) {
+        common::CopieFichier(Joint(source, nom), Joint(destination, nom));
+    }
+}
+
+void CopieInstallation(const QString& source, const QString& destination)
+{
+    const QString bases = QStringLiteral("BasesInstal");
+    if (common::DossierExiste(Joint(source, bases))) {
+        common::CopieDossier(Joint(source, bases), Joint(destination, bases));
+    }
+    for (const QString& nom : {QStringLiteral("Ordo.mdb"), QStringLiteral("Medoc.mdb"),
+                               QStringLiteral("Copie de Ordo.mdb"), QStringLiteral("Copie de Medoc.mdb")}) {
+        CopieSiPresent(source, destination, nom);
+    }
+    const QString version = Version();
+    settings::EcritEnregistrement(FichierVersion(destination), std::tie(version));
+}
+
+} // namespace
+
+QString PrepareInstallation(const QString& cheminProgramme)
+{
+    return PrepareInstallation(cheminProgramme,
+                               QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+}
+
+QString PrepareInstallation(const QString& cheminProgramme, const QString& cheminConfiguration)
+{
+    if (PeutEcrire(cheminProgramme)) {
+        return cheminProgramme;
+    }
+    const QString installation = Joint(cheminConfiguration, QStringLiteral("Scriptelle"));
+    common::CreeDossierPrive(installation);
+    if (!DejaCopiee(installation)) {
+        CopieInstallation(cheminProgramme, installation);
+    }
+    return installation;
+}
+
+} // namespace startup

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace startup {
+
+/// The directory for path files, "BasesInstal" and an installer's databases: the program directory when
+/// it can be written, else "Scriptelle" of the user's configuration directory, into which what an
+/// installer left is copied once per version. Throws `Erreur`.
+QString PrepareInstallation(const QString& cheminProgramme);
+
+/// The same with the configuration directory given.
+QString PrepareInstallation(const QString& cheminProgramme, const QString& cheminConfiguration);
+
+} // namespace startup
