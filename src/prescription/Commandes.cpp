@@ -38,6 +38,16 @@ QString SaisitDate(application::Contexte& contexte, const QString& aujourdhui)
 
 } // namespace
 
+bool CommenceOrdonnance(application::Contexte& contexte)
+{
+    contexte.Apercu.ModeApercu = 0;
+    if (!startup::ExigeMedecin(contexte)) {
+        return false;
+    }
+    VideDocument(contexte);
+    return true;
+}
+
 void DemandeDate(application::Contexte& contexte)
 {
     const QString aujourdhui = common::TexteDate(contexte.Dehors.Horloge.Aujourdhui());

@@ -4,6 +4,10 @@
 
 namespace prescription {
 
+/// `CmdNouvelle` before its window: the document is emptied, its date is today. False without a doctor,
+/// after the message.
+bool CommenceOrdonnance(application::Contexte& contexte);
+
 /// `CmdDate`: asks for the date of the document until the answer is empty, "0" or of ten characters.
 /// An empty answer is today and repaints nothing; "0" takes the date off the page.
 void DemandeDate(application::Contexte& contexte);
