@@ -23,8 +23,8 @@ void Surface::Cls()
 {
     dessin_.Items.clear();
     dessin_.DebutCorps = dessin_.FinCorps = 0;
-    gauche_ = haut_ = 0;
-    x_ = y_ = 0;
+    CurrentX(0);
+    CurrentY(0);
 }
 
 void Surface::ScaleMode(Echelle echelle)

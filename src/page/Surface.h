@@ -26,7 +26,7 @@ public:
 
     page::Cible Genre() const { return cible_; }
 
-    /// Removes what was drawn and puts pen and origin back on the corner; scale mode and font stay.
+    /// Removes what was drawn and puts the pen at 0, 0; scale, origin and font stay.
     void Cls();
 
     /// Changes the unit and puts the origin back on the corner. The pen does not move.

@@ -7,7 +7,7 @@ namespace application::style {
 
 constexpr int kBordFeuille = 12; ///< ground left around the sheet for its shadow, in pixels at 100 %
 constexpr int kDescenteOmbre = 2;
-constexpr int kOpaciteOmbre = 5; ///< of each of the shadow's rings, of 255
+constexpr QRgb kOmbre = qRgba(0, 0, 0, 5); ///< of each of the shadow's rings
 constexpr QRgb kPapier = qRgb(255, 255, 255);
 constexpr QRgb kBordDuPapier = qRgb(197, 211, 230);
 constexpr QRgb kMarqueInterdit = qRgb(176, 32, 32);

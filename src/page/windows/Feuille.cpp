@@ -81,7 +81,7 @@ void Feuille::PeintPapier(QPainter& peintre) const
     const QRectF feuille(QPointF(), TailleDeLaFeuille());
     for (int ombre = style::kBordFeuille - 1; ombre > 0; --ombre) {
         peintre.setPen(Qt::NoPen);
-        peintre.setBrush(QColor(0, 0, 0, style::kOpaciteOmbre));
+        peintre.setBrush(QColor::fromRgba(style::kOmbre));
         peintre.drawRoundedRect(feuille.adjusted(-ombre, style::kDescenteOmbre - ombre, ombre, ombre), ombre,
                                 ombre);
     }
