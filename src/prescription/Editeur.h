@@ -9,8 +9,11 @@ namespace prescription {
 /// into `entete`, which must outlive the model; a base that cannot be read leaves them empty.
 page::Modele ModelePage(application::Contexte& contexte, QList<page::LigneEntete>& entete);
 
-/// The picture of `FichierLogo`, null when it is none.
+/// The picture of `FichierLogo`, null when the file is none or is out of all measure.
 QImage ChargeLogo(const settings::Options& options);
+
+/// What to tell the doctor when a logo is wanted and its file gives no picture; empty when all is well.
+QString DefautDuLogo(const settings::Options& options);
 
 /// Clears the preview.
 void EffaceApercu(application::Contexte& contexte);

@@ -54,4 +54,36 @@ inline QString NomDeJournalRefuse(const QString& nom)
     return QStringLiteral("« %1 » ne peut pas servir de nom de fichier.").arg(nom);
 }
 
+inline QString TitreHauteur()
+{
+    return QStringLiteral("Hauteur des sauts de lignes");
+}
+
+inline QString InviteHauteur()
+{
+    return QStringLiteral("Pour personnaliser la hauteur du saut de ligne, déterminez sa\nHauteur en mm : ");
+}
+
+inline QString HauteurRefusee(const QString& reponse)
+{
+    return QStringLiteral("« %1 » n'est pas une hauteur en millimètres (de 0 à 297, ex. : 4,5).\n"
+                          "La hauteur des sauts de lignes n'a pas changé.")
+        .arg(reponse);
+}
+
+inline QString HauteurNonEcrite(const QString& cause)
+{
+    return QStringLiteral(
+               "La hauteur choisie vaut jusqu'à la fermeture du programme, mais elle n'a pas pu être "
+               "enregistrée.\n%1")
+        .arg(cause);
+}
+
+inline QString LogoIllisible(const QString& chemin)
+{
+    return QStringLiteral("Le logo « %1 » n'est pas une image lisible ou est trop grand.\n"
+                          "L'en-tête est imprimé sans logo.")
+        .arg(chemin);
+}
+
 } // namespace prescription::messages

@@ -1,0 +1,82 @@
+#include "prescription/LignesZone.h"
+
+namespace prescription {
+
+namespace {
+
+constexpr qsizetype kLongueurIdentifiant = 10;
+constexpr qsizetype kLongueurHorsTitre = 30;
+
+} // namespace
+
+int LignesZone::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(lignes_.size());
+}
+
+QVariant LignesZone::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+        return {};
+    }
+    const Ligne& ligne = lignes_[index.row()];
+    switch (role) {
+    case Qt::DisplayRole:
+        return ligne.Texte;
+    case Qt::UserRole:
+        return ligne.Indice;
+    default:
+        return {};
+    }
+}
+
+void LignesZone::Ajoute(const Ligne& ligne)
+{
+    const int rang = rowCount();
+    beginInsertRows({}, rang, rang);
+    lignes_.append(ligne);
+    endInsertRows();
+}
+
+void LignesZone::Retire(int rang)
+{
+    if (rang < 0 || rang >= lignes_.size()) {
+        return;
+    }
+    beginRemoveRows({}, rang, rang);
+    lignes_.removeAt(rang);
+    endRemoveRows();
+}
+
+void LignesZone::Deplace(int rang, int vers)
+{
+    const bool dansLaListe = rang >= 0 && rang < lignes_.size() && vers >= 0 && vers < lignes_.size();
+    if (!dansLaListe || qAbs(vers - rang) != 1) {
+        return;
+    }
+    beginMoveRows({}, rang, rang, {}, vers > rang ? vers + 1 : vers);
+    lignes_.move(rang, vers);
+    endMoveRows();
+}
+
+void LignesZone::Efface()
+{
+    if (lignes_.isEmpty()) {
+        return;
+    }
+    beginResetModel();
+    lignes_.clear();
+    endResetModel();
+}
+
+QString IdentifiantDeLigne(const QString& texte)
+{
+    return texte.right(kLongueurIdentifiant).trimmed();
+}
+
+QString TitreDeLigne(const QString& texte)
+{
+    return texte.chopped(qMin(kLongueurHorsTitre, texte.size())).trimmed();
+}
+
+} // namespace prescription
