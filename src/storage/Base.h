@@ -1,15 +1,19 @@
 #pragma once
 
+#include "storage/Genre.h"
+#include "storage/Rangee.h"
+
 #include <QSqlDatabase>
+#include <QStringList>
 #include <QVariantList>
 #include <functional>
+#include <span>
+
+class QSqlQuery;
 
 namespace storage {
 
 class Jeu;
-
-/// The two kinds of database file: the shared "Medoc.mdb" and a doctor's "Ordo.mdb".
-enum class GenreBase { Medoc, Ordo };
 
 /// One open database file. Whatever fails throws `Erreur` with a French sentence and the file's path.
 /// SQLite with rollback journal, synchronous=FULL and a busy timeout; one thread.
@@ -18,6 +22,9 @@ class Base
 public:
     /// Called with each statement before it runs; true makes it fail. For tests only.
     using Crochet = std::function<bool(const QString& instruction)>;
+    /// One row's texts, in the order of the columns asked for, null as the empty text. The views live
+    /// as long as the call.
+    using LecteurDeTextes = std::function<void(std::span<const QStringView> textes)>;
 
     /// Opens an existing file and checks it: a database, ours, of this kind and version, whole.
     /// Nothing is created and nothing is written over.
@@ -27,6 +34,7 @@ public:
     Base& operator=(const Base&) = delete;
 
     const QString& Chemin() const { return chemin_; }
+    GenreBase Genre() const { return genre_; }
 
     /// All the rows of a table, in stored order.
     Jeu Table(const QString& table);
@@ -37,22 +45,38 @@ public:
     /// Runs any other statement with bound values.
     void Execute(const QString& instruction, const QVariantList& valeurs = {});
 
+    /// Walks the rows of any select once, forwards, without keeping them.
+    void Parcourt(const QString& instruction, const QVariantList& valeurs,
+                  const std::function<void(const Rangee&)>& lecteur);
+    /// The same for whole columns of a table in stored order: the fast road for lists of many thousand
+    /// rows. Numbers come as their decimal text.
+    void ParcourtTextes(const QString& table, const QStringList& colonnes, const LecteurDeTextes& lecteur);
+
     void PoseCrochet(Crochet crochet) { crochet_ = std::move(crochet); }
 
 private:
     friend class Jeu;
     friend class Transaction;
-    class QSqlQuery Lance(const QString& instruction, const QVariantList& valeurs, bool enAvant = false);
-    void Verifie(GenreBase genre);
+    QSqlQuery Prepare(const QString& instruction);
+    void LieEtLance(QSqlQuery& requete, const QVariantList& valeurs);
+    QSqlQuery Lance(const QString& instruction, const QVariantList& valeurs);
+    bool Avance(QSqlQuery& requete);
+    void ParcourtUnParUn(const QString& table, const QStringList& noms, qint64 apres, qint64 jusque,
+                         const LecteurDeTextes& lecteur);
+    void Ouvre();
+    void Ferme();
 
     QString chemin_;
+    GenreBase genre_;
     QString connexion_;
     QSqlDatabase base_;
     Crochet crochet_;
-    int profondeur_ = 0; // of nested transactions
+    int profondeur_ = 0;     ///< of nested transactions
+    bool condamnee_ = false; ///< an inner transaction was given up: the outer one cannot be stored
 };
 
-/// One transaction: rolled back when it dies without `Valide`. Inner ones join the outer one.
+/// One transaction: rolled back when it dies without `Valide`. Inner ones join the outer one, which cannot
+/// be stored any more once an inner one has died so.
 class Transaction
 {
 public:
@@ -61,6 +85,7 @@ public:
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
+    /// Throws `Erreur` when the disk refuses; everything is rolled back then.
     void Valide();
 
 private:

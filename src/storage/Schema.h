@@ -1,9 +1,9 @@
 #pragma once
 
-#include "storage/Base.h"
+#include "storage/Genre.h"
 
 #include <QList>
-#include <QStringList>
+#include <QString>
 
 namespace storage {
 
@@ -21,11 +21,24 @@ struct Table
     QList<Colonne> Colonnes;
 };
 
+/// The marks in a file's header that tell our databases apart, and the version of the layout.
+int MarqueApplication(GenreBase genre);
+inline constexpr int kVersionSchema = 1;
+
 /// The tables of a kind of database, columns in their order. Position and order are the format.
 const QList<Table>& Tables(GenreBase genre);
 
-/// Creates a database with all its tables, its first rows included (24 rows of `Entete`, ...), over
-/// whatever stands at that path. Throws `Erreur`.
-void CreeBase(const QString& chemin, GenreBase genre);
+/// The table of that name, or null.
+const Table* ChercheTable(GenreBase genre, const QString& nom);
+
+/// The name as a statement needs it: in double quotes, inner ones doubled.
+QString Cite(const QString& nom);
+
+/// `Premier` for a database that a doctor begins with, `Aucun` for one that rows will be copied into.
+enum class ContenuInitial { Premier, Aucun };
+
+/// Creates a database with all its tables over whatever stands at that path, with its first rows (24 rows
+/// of `Entete`, ...) where asked. The former file stays until the new one is whole. Throws `Erreur`.
+void CreeBase(const QString& chemin, GenreBase genre, ContenuInitial contenu = ContenuInitial::Premier);
 
 } // namespace storage

@@ -1,0 +1,141 @@
+#include "storage/Base.h"
+
+#include "storage/Jeu.h"
+#include "storage/Pannes.h"
+#include "storage/Schema.h"
+#include "storage/Verification.h"
+#include "storage/messages.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <atomic>
+
+namespace storage {
+
+namespace {
+
+QString NouvelleConnexion()
+{
+    static std::atomic<int> numero = 0;
+    return QStringLiteral("scriptelle-%1").arg(++numero);
+}
+
+/// The driver stores a null text as null: ours is an empty text.
+QVariant Liee(const QVariant& valeur)
+{
+    const bool texteVide = valeur.typeId() == QMetaType::QString && valeur.toString().isEmpty();
+    return texteVide ? QVariant(QStringLiteral("")) : valeur;
+}
+
+} // namespace
+
+Base::Base(const QString& chemin, GenreBase genre)
+    : chemin_(chemin), genre_(genre), connexion_(NouvelleConnexion())
+{
+    VerifieFichier(chemin);
+    try {
+        Ouvre();
+        VerifieContenu(*this);
+    } catch (...) {
+        Ferme();
+        throw;
+    }
+}
+
+Base::~Base()
+{
+    Ferme();
+}
+
+void Base::Ouvre()
+{
+    base_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connexion_);
+    base_.setDatabaseName(chemin_);
+    base_.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=3000"));
+    if (!base_.open()) {
+        throw Panne(BaseIllisibleMessage, chemin_);
+    }
+    Execute(QStringLiteral("pragma journal_mode=delete"));
+    Execute(QStringLiteral("pragma synchronous=full"));
+}
+
+void Base::Ferme()
+{
+    base_ = QSqlDatabase();
+    QSqlDatabase::removeDatabase(connexion_);
+}
+
+Jeu Base::Table(const QString& table)
+{
+    return Jeu(*this, table, {}, {});
+}
+
+Jeu Base::Selection(const QString& table, const QString& condition, const QVariantList& valeurs)
+{
+    return Jeu(*this, table, condition, valeurs);
+}
+
+int Base::SupprimeOu(const QString& table, const QString& condition, const QVariantList& valeurs)
+{
+    const QString instruction = QStringLiteral("delete from %1 where ").arg(Cite(table)) + condition;
+    return Lance(instruction, valeurs).numRowsAffected();
+}
+
+void Base::Execute(const QString& instruction, const QVariantList& valeurs)
+{
+    Lance(instruction, valeurs);
+}
+
+void Base::Parcourt(const QString& instruction, const QVariantList& valeurs,
+                    const std::function<void(const Rangee&)>& lecteur)
+{
+    QSqlQuery requete = Lance(instruction, valeurs);
+    const Rangee rangee(requete);
+    while (Avance(requete)) {
+        lecteur(rangee);
+    }
+}
+
+QSqlQuery Base::Prepare(const QString& instruction)
+{
+    QSqlQuery requete(base_);
+    requete.setForwardOnly(true);
+    if (!requete.prepare(instruction)) {
+        throw Panne(requete.lastError(), chemin_);
+    }
+    return requete;
+}
+
+void Base::LieEtLance(QSqlQuery& requete, const QVariantList& valeurs)
+{
+    if (crochet_ && crochet_(requete.lastQuery())) {
+        throw Panne(InstructionRefuseeMessage, chemin_);
+    }
+    for (qsizetype i = 0; i < valeurs.size(); ++i) {
+        requete.bindValue(static_cast<int>(i), Liee(valeurs[i]));
+    }
+    if (!requete.exec()) {
+        throw Panne(requete.lastError(), chemin_);
+    }
+}
+
+QSqlQuery Base::Lance(const QString& instruction, const QVariantList& valeurs)
+{
+    QSqlQuery requete = Prepare(instruction);
+    LieEtLance(requete, valeurs);
+    return requete;
+}
+
+bool Base::Avance(QSqlQuery& requete)
+{
+    if (requete.next()) {
+        return true;
+    }
+    if (requete.lastError().isValid()) {
+        throw Panne(requete.lastError(), chemin_);
+    }
+    return false;
+}
+
+} // namespace storage

@@ -1,0 +1,99 @@
+#include "storage/Schema.h"
+
+#include <algorithm>
+
+namespace storage {
+
+namespace {
+
+constexpr int kMarqueMedoc = 0x5363724D; // "ScrM"
+constexpr int kMarqueOrdo = 0x5363724F;  // "ScrO"
+
+Colonne Compteur(const char16_t* nom)
+{
+    return {QString::fromUtf16(nom), TypeColonne::Compteur};
+}
+
+Colonne Texte(const char16_t* nom)
+{
+    return {QString::fromUtf16(nom), TypeColonne::Texte};
+}
+
+Colonne Entier(const char16_t* nom)
+{
+    return {QString::fromUtf16(nom), TypeColonne::Entier};
+}
+
+Colonne Simple(const char16_t* nom)
+{
+    return {QString::fromUtf16(nom), TypeColonne::Simple};
+}
+
+Colonne OuiNon(const char16_t* nom)
+{
+    return {QString::fromUtf16(nom), TypeColonne::OuiNon};
+}
+
+QList<Table> TablesMedoc()
+{
+    return {
+        {QStringLiteral("Patients"),
+         {Compteur(u"Index"), Texte(u"Titre"), Texte(u"NomPatient"), Texte(u"Datenais"), Texte(u"Poids"),
+          Texte(u"Precautions"), Texte(u"Notes"), Texte(u"Antecedents"), Texte(u"Adresse"),
+          Texte(u"Telephone1"), Texte(u"Telephone2")}},
+        {QStringLiteral("ListeOrdos"),
+         {Texte(u"Titre"), Texte(u"NomPatient"), Entier(u"ALD"), Texte(u"Datenais")}},
+        {QStringLiteral("OrdoEnr"),
+         {Texte(u"Titre"), Texte(u"TitreLigne"), Texte(u"Posologie"), Entier(u"Zone"), Texte(u"Patient"),
+          Texte(u"Datenais"), Entier(u"IdProduit"), Entier(u"Converti")}},
+        {QStringLiteral("BddMed"),
+         {Entier(u"num"), Texte(u"Champ1"), Texte(u"Champ2"), Texte(u"Notes"), Texte(u"Posologie"),
+          Texte(u"Nom")}},
+        {QStringLiteral("Biblio"), {Texte(u"Titre"), Texte(u"Posologie")}},
+        {QStringLiteral("Vidal"), {Texte(u"CIP"), Texte(u"Posologie")}},
+        {QStringLiteral("MedUtile"), {Texte(u"CIP")}},
+    };
+}
+
+QList<Table> TablesOrdo()
+{
+    return {
+        {QStringLiteral("Entete"),
+         {Entier(u"NumLigne"), Texte(u"Texte"), Texte(u"Police"), Simple(u"Taille"), OuiNon(u"Gras"),
+          OuiNon(u"Italique"), OuiNon(u"Souligne"), Entier(u"Espaces")}},
+        {QStringLiteral("Misenpage"),
+         {Entier(u"NumLigne"), Texte(u"Police"), Simple(u"Taille"), OuiNon(u"Gras"), OuiNon(u"Italique"),
+          OuiNon(u"Souligne")}},
+        {QStringLiteral("CouleurPET"), {Entier(u"Couleur")}},
+        {QStringLiteral("Certificat"),
+         {Texte(u"Police"), Simple(u"Taille"), OuiNon(u"Gras"), OuiNon(u"Italique"), OuiNon(u"Souligne")}},
+    };
+}
+
+} // namespace
+
+int MarqueApplication(GenreBase genre)
+{
+    return genre == GenreBase::Medoc ? kMarqueMedoc : kMarqueOrdo;
+}
+
+const QList<Table>& Tables(GenreBase genre)
+{
+    static const QList<Table> medoc = TablesMedoc();
+    static const QList<Table> ordo = TablesOrdo();
+    return genre == GenreBase::Medoc ? medoc : ordo;
+}
+
+const Table* ChercheTable(GenreBase genre, const QString& nom)
+{
+    const QList<Table>& tables = Tables(genre);
+    const auto trouvee = std::ranges::find(tables, nom, &Table::Nom);
+    return trouvee == tables.end() ? nullptr : &*trouvee;
+}
+
+QString Cite(const QString& nom)
+{
+    return u'"' + QString(nom).replace(u'"', QLatin1String("\"\"")) + u'"';
+}
+
+} // namespace storage

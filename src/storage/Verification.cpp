@@ -1,0 +1,97 @@
+#include "storage/Verification.h"
+
+#include "storage/Base.h"
+#include "storage/Pannes.h"
+#include "storage/Schema.h"
+#include "storage/messages.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+namespace storage {
+
+namespace {
+
+/// A quick check reads the whole file: about 1 ms a megabyte from a warm disk, but many seconds for a large
+/// file on a slow server, at each start. Above this size the engine's own checks remain: a truncated file is
+/// refused at its first reading, and a damaged page when it is read.
+constexpr qint64 kTailleVerifiee = 8LL * 1024 * 1024;
+
+QString NomAttendu(GenreBase genre)
+{
+    return genre == GenreBase::Medoc ? QStringLiteral("Medoc.mdb") : QStringLiteral("Ordo.mdb");
+}
+
+QString LitTexte(Base& base, const QString& instruction)
+{
+    QString texte;
+    base.Parcourt(instruction, {}, [&](const Rangee& rangee) { texte = rangee.Texte(0); });
+    return texte;
+}
+
+void VerifieMarques(Base& base)
+{
+    const int marque = LitTexte(base, QStringLiteral("pragma application_id")).toInt();
+    const GenreBase autre = base.Genre() == GenreBase::Medoc ? GenreBase::Ordo : GenreBase::Medoc;
+    if (marque == MarqueApplication(autre)) {
+        const QString nom = QFileInfo(base.Chemin()).fileName();
+        throw common::Erreur(AutreGenreMessage(nom, NomAttendu(base.Genre())), base.Chemin());
+    }
+    if (marque != MarqueApplication(base.Genre())) {
+        throw Panne(PasUneBaseMessage, base.Chemin());
+    }
+    const int version = LitTexte(base, QStringLiteral("pragma user_version")).toInt();
+    if (version > kVersionSchema) {
+        throw Panne(BaseTropRecenteMessage, base.Chemin());
+    }
+}
+
+void VerifieTables(Base& base)
+{
+    QHash<QString, QStringList> colonnes;
+    const auto lit = [&](const Rangee& rangee) { colonnes[rangee.Texte(0)].append(rangee.Texte(1)); };
+    base.Parcourt(
+        QStringLiteral("select t.name, c.name from sqlite_master t join pragma_table_info(t.name) c "
+                       "where t.type = 'table' order by t.name, c.cid"),
+        {}, lit);
+    for (const Table& table : Tables(base.Genre())) {
+        QStringList attendues;
+        for (const Colonne& colonne : table.Colonnes) {
+            attendues.append(colonne.Nom);
+        }
+        if (colonnes.value(table.Nom) != attendues) {
+            throw Panne(BaseEndommageeMessage, base.Chemin());
+        }
+    }
+}
+
+} // namespace
+
+void VerifieFichier(const QString& chemin)
+{
+    const QFileInfo info(chemin);
+    if (!info.isFile()) {
+        throw Panne(info.exists() ? PasUneBaseMessage : BaseAbsenteMessage, chemin);
+    }
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::ReadOnly)) {
+        throw Panne(BaseIllisibleMessage, chemin);
+    }
+    const QByteArray entete("SQLite format 3", 16);
+    if (fichier.read(entete.size()) != entete) {
+        throw Panne(PasUneBaseMessage, chemin);
+    }
+}
+
+void VerifieContenu(Base& base)
+{
+    VerifieMarques(base);
+    VerifieTables(base);
+    const bool verifiable = QFileInfo(base.Chemin()).size() <= kTailleVerifiee;
+    if (verifiable && LitTexte(base, QStringLiteral("pragma quick_check(1)")) != QLatin1String("ok")) {
+        throw Panne(BaseEndommageeMessage, base.Chemin());
+    }
+}
+
+} // namespace storage
