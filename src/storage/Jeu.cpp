@@ -1,5 +1,6 @@
 #include "storage/Jeu.h"
 
+#include "common/Nombres.h"
 #include "storage/Base.h"
 #include "storage/Pannes.h"
 #include "storage/Schema.h"
@@ -27,6 +28,18 @@ QString SelectDe(const Table& table, const QString& condition)
     const QString ou = condition.isEmpty() ? QString() : QStringLiteral(" where ") + condition;
     return QStringLiteral("select rowid, %1 from %2").arg(Noms(table).join(u','), Cite(table.Nom)) + ou +
            QStringLiteral(" order by rowid");
+}
+
+/// The value as its column keeps it: yes as 1, and a single by its decimal form, 12.1 and not 12.1000004.
+QVariant ValeurDe(TypeColonne type, const QVariant& valeur)
+{
+    if (!valeur.isValid()) {
+        return valeur;
+    }
+    if (type == TypeColonne::OuiNon) {
+        return valeur.toBool() ? 1 : 0;
+    }
+    return type == TypeColonne::Simple ? common::TexteSimple(valeur.toFloat()).toDouble() : valeur;
 }
 
 } // namespace
@@ -115,8 +128,7 @@ void Jeu::Ecris(int position, const QVariant& valeur)
     if (ecriture_ == Ecriture::Aucune || position < 0 || position >= enCours_.Champs.size()) {
         throw Panne(InstructionRefuseeMessage, base_->Chemin());
     }
-    const bool ouiNon = table_->Colonnes[position].Type == TypeColonne::OuiNon && valeur.isValid();
-    enCours_.Champs[position] = ouiNon ? QVariant(valeur.toBool() ? 1 : 0) : valeur;
+    enCours_.Champs[position] = ValeurDe(table_->Colonnes[position].Type, valeur);
     if (ecriture_ == Ecriture::Changement) {
         ecrits_.setBit(position);
     }
