@@ -8,9 +8,9 @@ namespace drugbank {
 struct Banque
 {
     QString TypeBase = QStringLiteral("BIP"); ///< "BIP" local mode, any other a bank
-    qint32 NiveauInteraction = 0; ///< lowest severity reported, 0 to 3
-    qint32 ProduitBanque = 2; ///< -1 for no bank
-    qint32 FiltreBanque = 64; ///< 64, 128 or 255
+    qint32 NiveauInteraction = 0;             ///< lowest severity reported, 0 to 3
+    qint32 ProduitBanque = 2;                 ///< -1 for no bank
+    qint32 FiltreBanque = 64;                 ///< 64, 128 or 255
     qint32 SessionBanque = 0;
     QString DateExpirationBase;
     bool ModuleAide = false; ///< the helper library could be loaded

@@ -19,7 +19,7 @@ std::optional<Zone> ZoneDuSaut(application::Contexte& contexte)
     }
     const Bouton reponse =
         contexte.Dehors.Boites.Montre({.Genre = outside::Genre::Question,
-                                       .Texte = MessageZoneDuSaut(),
+                                       .Texte = messages::ZoneDuSaut(),
                                        .Boutons = {Bouton::Oui, Bouton::Non, Bouton::Annuler},
                                        .Defaut = Bouton::Oui});
     if (reponse == Bouton::Annuler) {
@@ -29,6 +29,14 @@ std::optional<Zone> ZoneDuSaut(application::Contexte& contexte)
 }
 
 } // namespace
+
+void ChargeMedicaments(Choix& choix, Pharmacie& pharmacie, ArbreMedicaments& arbre, const QString& recherche)
+{
+    choix.NoeudChoisi = kAucunNoeud;
+    choix.EtiquetteLue.clear();
+    arbre.Remplit({});
+    arbre.Remplit(pharmacie.Charge(recherche.trimmed()));
+}
 
 Suite Ajoute(application::Contexte& contexte, const Pharmacie& pharmacie, Zone zone, const Saisie& saisie,
              const Noeud* noeud)
@@ -77,7 +85,7 @@ void PrepareOrdonnance(application::Contexte& contexte)
 {
     prescription::Ordonnance& ordonnance = contexte.Ordonnance;
     if (ordonnance.LstChoix1.Vide() && ordonnance.LstChoix2.Vide()) {
-        contexte.Dehors.Boites.Information(MessageAucunMedicament());
+        contexte.Dehors.Boites.Information(messages::AucunMedicament());
     }
     CompteMedicaments(ordonnance);
 }

@@ -1,10 +1,14 @@
 #pragma once
 
 #include "application/Contexte.h"
+#include "medication/ArbreMedicaments.h"
 #include "medication/Lignes.h"
 #include "medication/Pharmacie.h"
 
 namespace medication {
+
+/// Empties the tree and fills it again for a search text. No node is selected then.
+void ChargeMedicaments(Choix& choix, Pharmacie& pharmacie, ArbreMedicaments& arbre, const QString& recherche);
 
 /// What an adding button leaves to do in the window.
 enum class Suite {

@@ -11,15 +11,16 @@ namespace medication {
 
 namespace {
 
-// Columns of `BddMed`.
-constexpr int kNum = 0;
+const QLatin1String kTable("BddMed");
+
+// Its columns.
 constexpr int kNotes = 3;
 constexpr int kPosologie = 4;
 constexpr int kNom = 5;
 
 storage::Jeu LigneDe(storage::Base& base, const QString& etiquette)
 {
-    return base.Selection(QStringLiteral("BddMed"), QStringLiteral("num = ?"), {etiquette.toLongLong()});
+    return base.Selection(kTable, QStringLiteral("num = ?"), {etiquette.toLongLong()});
 }
 
 void EcritLigne(storage::Jeu& ligne, const Saisie& saisie)
@@ -35,19 +36,19 @@ void EcritLigne(storage::Jeu& ligne, const Saisie& saisie)
 QList<Noeud> PharmacieLocale::Charge(const QString&)
 {
     QList<Noeud> noeuds;
-    storage::Jeu table = base_().Table(QStringLiteral("BddMed"));
-    noeuds.reserve(table.RecordCount());
-    for (; !table.Fin(); table.MoveNext()) {
-        if (table.EstNull(kNom)) {
-            continue;
+    bool sansNom = false;
+    storage::Base& base = base_();
+    base.ParcourtTextes(kTable, {QStringLiteral("num"), QStringLiteral("Nom")}, [&](const auto textes) {
+        if (textes[1].trimmed().isEmpty()) {
+            sansNom = true;
+        } else {
+            noeuds.append({textes[1].toString(), textes[0].toString()});
         }
-        const QString nom = table.Texte(kNom);
-        if (QStringView(nom).trimmed().isEmpty()) {
-            // A shared or read-only file may refuse: the row is left out all the same.
-            common::Tolere([&] { table.Delete(); });
-            continue;
-        }
-        noeuds.append({nom, table.Texte(kNum)});
+    });
+    if (sansNom) {
+        // A read-only or shared file may refuse: those rows are left out all the same.
+        common::Tolere(
+            [&] { base.SupprimeOu(kTable, QStringLiteral("Nom is not null and trim(Nom) = ''"), {}); });
     }
     Trie(noeuds);
     return noeuds;
@@ -74,17 +75,17 @@ std::optional<QString> PharmacieLocale::Notes(const QString& etiquette)
 void PharmacieLocale::Enregistre(const QString& etiquette, const Saisie& saisie, outside::Boites& boites)
 {
     if (saisie.TxtMedoc.trimmed().isEmpty()) {
-        boites.Stop(MessageSansNom());
+        boites.Stop(messages::SansNom());
         return;
     }
     storage::Jeu ligne = LigneDe(base_(), etiquette);
     if (ligne.Fin()) {
-        boites.Exclamation(MessageDisparu());
+        boites.Exclamation(messages::Disparu());
         return;
     }
     if (Saisie{ligne.Texte(kNom), ligne.Texte(kPosologie)} != saisie) {
         EcritLigne(ligne, saisie);
-        boites.Information(MessageModifie());
+        boites.Information(messages::Modifie());
     }
 }
 
@@ -94,7 +95,7 @@ bool PharmacieLocale::Retire(const QString& etiquette, outside::Boites& boites)
     if (ligne.Fin()) {
         return true;
     }
-    if (!boites.Question(MessageRetire(ligne.Texte(kNom)), outside::Bouton::Non)) {
+    if (!boites.Question(messages::Retire(ligne.Texte(kNom)), outside::Bouton::Non)) {
         return false;
     }
     ligne.Delete();

@@ -2,50 +2,50 @@
 
 #include <QString>
 
-namespace medication {
+namespace medication::messages {
 
-inline QString MessageModifie()
+inline QString Modifie()
 {
     return QStringLiteral("Modifications enregistrées.");
 }
 
-inline QString MessageSansNom()
+inline QString SansNom()
 {
     return QStringLiteral("Aucune indication de nom de médicament !");
 }
 
-inline QString MessageDisparu()
+inline QString Disparu()
 {
     return QStringLiteral("Ce médicament n'est plus dans la base de données : rien n'a été enregistré.");
 }
 
-inline QString MessageRetire(const QString& nom)
+inline QString Retire(const QString& nom)
 {
     return QStringLiteral("Supprimer ") + nom + QStringLiteral(" de la base de données ?");
 }
 
-inline QString MessageZoneDuSaut()
+inline QString ZoneDuSaut()
 {
     return QStringLiteral("Zone ALD, tapez oui.\n\nZone non ALD, tapez non.");
 }
 
-inline QString MessageAucunMedicament()
+inline QString AucunMedicament()
 {
     return QStringLiteral("Aucun médicament n'a été choisi !");
 }
 
-inline QString MessageAbandon()
+inline QString Abandon()
 {
     return QStringLiteral(
         "Tout effacer et quitter la pharmacie ?\n\nLes lignes de l'ordonnance seront perdues.");
 }
 
-inline QString MessagePlusTard()
+inline QString PlusTard()
 {
     return QStringLiteral("Disponible dans une prochaine version");
 }
 
-inline QString MessageAide()
+inline QString Aide()
 {
     return QStringLiteral(
         "L 'inscription, après un mot, et sans espace, de l'un des caractères suivants\n"
@@ -64,4 +64,4 @@ inline QString MessageAide()
         "ignorera ces lignes.");
 }
 
-} // namespace medication
+} // namespace medication::messages

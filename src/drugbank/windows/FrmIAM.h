@@ -4,8 +4,11 @@
 
 #include <QDialog>
 
+class QPlainTextEdit;
+
 namespace drugbank {
 
+/// A text to read: the notes kept with a medication.
 class FrmIAM : public QDialog
 {
     Q_OBJECT
@@ -13,9 +16,11 @@ class FrmIAM : public QDialog
 public:
     FrmIAM(application::Contexte& contexte, application::Fenetres& fenetres);
 
+    /// Shows the text modally, the caret at its end, and returns when the doctor has closed it.
+    void Montre(const QString& texte);
+
 private:
-    application::Contexte& contexte_;
-    application::Fenetres& fenetres_;
+    QPlainTextEdit* txt_;
 };
 
 } // namespace drugbank

@@ -1,13 +1,307 @@
 #include "medication/windows/FrmMedoc.h"
 
+#include "application/Signaux.h"
+#include "application/windows/Style.h"
+#include "common/Erreur.h"
+#include "drugbank/windows/FrmIAM.h"
+#include "medication/messages.h"
+#include "medication/windows/ChampCherche.h"
+#include "medication/windows/ChampMedicament.h"
+#include "medication/windows/ListeLignes.h"
+#include "outside/Boites.h"
+#include "page/Mesure.h"
+#include "settings/Reglages.h"
+#include "startup/Chemins.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QPlainTextEdit>
+#include <QToolButton>
+#include <QTreeView>
+
 namespace medication {
 
+namespace {
+
+constexpr int kLargeur = 1280;
+constexpr int kHauteur = 720;
+
+} // namespace
+
 FrmMedoc::FrmMedoc(application::Contexte& contexte, application::Fenetres& fenetres)
-    : contexte_(contexte), fenetres_(fenetres)
+    : contexte_(contexte), fenetres_(fenetres), pharmacie_(PharmacieEnService(contexte))
 {
     setObjectName(QStringLiteral("FrmMedoc"));
-    Q_UNUSED(contexte_)
-    Q_UNUSED(fenetres_)
+    setWindowTitle(QStringLiteral("   Médicaments de la pharmacie"));
+    c_ = ConstruitMedoc(this);
+    application::style::Dimensionne(this, kLargeur, kHauteur);
+    if (!contexte_.Chemins.CheminTravail.isEmpty()) {
+        const page::Police& titre = contexte_.Reglages.Look.Titre;
+        const page::Police& poso = contexte_.Reglages.Look.Poso;
+        c_.TxtMedoc->setFont(page::PoliceQt({titre.Nom, titre.Taille, titre.Gras}));
+        c_.TxtPoso->setFont(page::PoliceQt({poso.Nom, poso.Taille, poso.Gras}));
+    }
+    RelieRecherche();
+    RelieLignes();
+    RelieSignaux();
+    SuitOrdonnance();
+}
+
+void FrmMedoc::RelieRecherche()
+{
+    c_.TV->setModel(&arbre_);
+    c_.TV->installEventFilter(this);
+    c_.TV->viewport()->installEventFilter(this);
+    connect(c_.TV, &QTreeView::clicked, this, [this](const QModelIndex& index) { ClicNoeud(index.row()); });
+    connect(c_.TV, &QTreeView::doubleClicked, this, [this] {
+        if (contexte_.Ordonnance.ChkALD == 0) {
+            Ajoute(Zone::Un);
+        }
+    });
+    connect(c_.TxtCherche, &QLineEdit::textChanged, this, &FrmMedoc::RechercheChange);
+    connect(c_.TxtCherche, &ChampCherche::Entree, this, &FrmMedoc::ChargeMedicaments);
+    connect(c_.TxtCherche, &ChampCherche::Bas, c_.TV, qOverload<>(&QWidget::setFocus));
+    connect(c_.TxtCherche, &ChampCherche::Presse, this, [this] {
+        if (PresseRecherche(contexte_.Choix)) {
+            c_.TxtCherche->selectAll();
+        }
+    });
+    connect(c_.CmdModifier, &QPushButton::clicked, this, &FrmMedoc::ModifieMedicament);
+    connect(c_.CmdRetire, &QPushButton::clicked, this, &FrmMedoc::RetireMedicament);
+    connect(c_.CmdAide, &QPushButton::clicked, this,
+            [this] { contexte_.Dehors.Boites.Information(messages::Aide()); });
+}
+
+void FrmMedoc::RelieLignes()
+{
+    RelieListe(Zone::Un);
+    RelieListe(Zone::Deux);
+    connect(c_.CmdAjouter1, &QPushButton::clicked, this, [this] { Ajoute(Zone::Un); });
+    connect(c_.CmdAjouter2, &QPushButton::clicked, this, [this] { Ajoute(Zone::Deux); });
+    connect(c_.ImgUp, &QToolButton::clicked, this, [this] { DeplaceLigne(ZoneSource(), -1); });
+    connect(c_.ImgDown, &QToolButton::clicked, this, [this] { DeplaceLigne(ZoneSource(), 1); });
+    connect(c_.CmdSaut, &QPushButton::clicked, this, [this] {
+        SauteLigne(contexte_);
+        FocusRecherche();
+    });
+    connect(c_.CmdClear, &QPushButton::clicked, this, &FrmMedoc::ToutEfface);
+    connect(c_.CmdAnnule, &QPushButton::clicked, this, [this] {
+        ToutEfface();
+        hide();
+    });
+    connect(c_.CmdOrdo, &QPushButton::clicked, this, &FrmMedoc::CreeOrdonnance);
+}
+
+void FrmMedoc::RelieListe(Zone zone)
+{
+    ListeLignes* liste = Liste(zone);
+    liste->setModel(&Lignes(contexte_.Ordonnance, zone));
+    connect(liste, &ListeLignes::Presse, this, [this, zone](int rang) { PresseLigne(zone, rang); });
+    connect(liste, &ListeLignes::Reprend, this, [this, zone] { ReprendLigne(zone); });
+    connect(liste, &ListeLignes::Deplace, this, [this, zone](int sens) { DeplaceLigne(zone, sens); });
+    connect(liste, &ListeLignes::Passe, this, [this, zone] { PasseLigne(zone); });
+    connect(liste, &ListeLignes::Glisse, this,
+            [this, zone](const QPoint& depart, const QPoint& point) { GlisseLigne(zone, depart, point); });
+    connect(liste, &ListeLignes::Lache, this, [this, zone](const QPoint& point) { LacheLigne(zone, point); });
+}
+
+void FrmMedoc::RelieSignaux()
+{
+    connect(c_.ChkALD, &QCheckBox::clicked, this, [this](bool cochee) {
+        contexte_.Ordonnance.ChkALD = cochee;
+        MontreZones();
+    });
+    connect(c_.ChkDup, &QCheckBox::clicked, this, [this](bool cochee) {
+        CocheDup(contexte_.Ordonnance, cochee);
+        CocheCases();
+    });
+    connect(c_.ChkTri, &QCheckBox::clicked, this, [this](bool cochee) {
+        CocheTri(contexte_.Ordonnance, cochee);
+        CocheCases();
+    });
+    connect(&contexte_.Signaux, &application::Signaux::OrdonnanceChange, this, &FrmMedoc::SuitOrdonnance);
+    connect(&contexte_.Signaux, &application::Signaux::MedecinChange, this, &FrmMedoc::VideArbre);
+}
+
+template <typename Action> bool FrmMedoc::Tente(Action&& action)
+{
+    try {
+        action();
+        return true;
+    } catch (const common::Erreur& erreur) {
+        contexte_.Dehors.Boites.Stop(erreur.Phrase());
+        return false;
+    }
+}
+
+void FrmMedoc::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    Active();
+}
+
+void FrmMedoc::Active()
+{
+    Choix& choix = contexte_.Choix;
+    ConfigureModeBase();
+    if (choix.BaseChangee != 2) {
+        ChargeMedicaments();
+    }
+    if (choix.NoeudChoisi != kAucunNoeud) {
+        SelectionneNoeud(choix.NoeudChoisi - 1);
+    } else {
+        c_.TxtCherche->setFocus();
+    }
+}
+
+void FrmMedoc::ConfigureModeBase()
+{
+    for (QWidget* controle : c_.DeBanque) {
+        controle->hide();
+    }
+}
+
+void FrmMedoc::ChargeMedicaments()
+{
+    Tente([this] {
+        medication::ChargeMedicaments(contexte_.Choix, *pharmacie_, arbre_, c_.TxtCherche->text());
+        contexte_.Choix.BaseChangee = 2;
+    });
+}
+
+void FrmMedoc::VideArbre()
+{
+    arbre_.Remplit({});
+    contexte_.Choix.NoeudChoisi = kAucunNoeud;
+    contexte_.Choix.BaseChangee = 1;
+}
+
+int FrmMedoc::NoeudSelectionne() const
+{
+    const QModelIndexList choisis = c_.TV->selectionModel()->selectedRows();
+    return choisis.isEmpty() ? -1 : choisis.front().row();
+}
+
+void FrmMedoc::SelectionneNoeud(int rang)
+{
+    const QModelIndex index = arbre_.index(rang, 0);
+    if (index.isValid()) {
+        c_.TV->setCurrentIndex(index);
+    }
+}
+
+Saisie FrmMedoc::Boites() const
+{
+    return {c_.TxtMedoc->text(), c_.TxtPoso->toPlainText()};
+}
+
+void FrmMedoc::RemplitBoites(const Saisie& saisie)
+{
+    c_.TxtMedoc->setText(saisie.TxtMedoc);
+    c_.TxtPoso->setPlainText(saisie.TxtPoso);
+}
+
+void FrmMedoc::RechercheChange()
+{
+    c_.TxtCherche->end(false);
+    RemplitBoites({});
+    // The boxes no longer hold the medication last read.
+    c_.CmdModifier->setEnabled(false);
+    SelectionneNoeud(arbre_.Cherche(c_.TxtCherche->text()));
+}
+
+void FrmMedoc::PresseArbre()
+{
+    c_.LstChoix1->Selectionne(-1);
+    c_.LstChoix2->Selectionne(-1);
+    MontreFleches({});
+    FocusRecherche();
+}
+
+void FrmMedoc::ClicNoeud(int rang)
+{
+    Tente([&] {
+        const auto lue = ChoisitNoeud(contexte_.Choix, *pharmacie_, arbre_.Lis(rang), rang);
+        if (lue) {
+            RemplitBoites(*lue);
+            c_.CmdModifier->setEnabled(true);
+            c_.TxtMedoc->setFocus();
+            c_.TxtMedoc->end(false);
+        }
+    });
+}
+
+void FrmMedoc::ModifieMedicament()
+{
+    if (NoeudSelectionne() >= 0) {
+        Tente([this] {
+            pharmacie_->Enregistre(contexte_.Choix.EtiquetteLue, Boites(), contexte_.Dehors.Boites);
+        });
+    }
+}
+
+void FrmMedoc::RetireMedicament()
+{
+    const int rang = NoeudSelectionne();
+    if (const Noeud* noeud = arbre_.Lis(rang)) {
+        const QString etiquette = noeud->Etiquette;
+        Tente([&] {
+            if (pharmacie_->Retire(etiquette, contexte_.Dehors.Boites)) {
+                arbre_.Retire(rang);
+                c_.TV->clearSelection();
+                contexte_.Choix.NoeudChoisi = kAucunNoeud;
+            }
+        });
+    }
+    RemplitBoites({});
+    c_.CmdModifier->setEnabled(false);
+}
+
+void FrmMedoc::MontreNotes()
+{
+    Tente([this] {
+        if (const auto notes = pharmacie_->Notes(contexte_.Choix.EtiquetteLue)) {
+            fenetres_.Donne<drugbank::FrmIAM>().Montre(*notes);
+        }
+    });
+}
+
+void FrmMedoc::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+}
+
+void FrmMedoc::reject()
+{
+    if (RienEnMain(contexte_.Ordonnance, Boites()) ||
+        contexte_.Dehors.Boites.Question(messages::Abandon(), outside::Bouton::Non)) {
+        ToutEfface();
+        hide();
+    }
+}
+
+void FrmMedoc::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F2) {
+        MontreNotes();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+bool FrmMedoc::eventFilter(QObject* objet, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress && objet == c_.TV->viewport()) {
+        PresseArbre();
+    }
+    if (event->type() == QEvent::KeyPress && objet == c_.TV) {
+        const int touche = static_cast<QKeyEvent*>(event)->key();
+        if (touche == Qt::Key_Return || touche == Qt::Key_Enter || touche == Qt::Key_Space) {
+            ClicNoeud(NoeudSelectionne());
+            return true;
+        }
+    }
+    return QDialog::eventFilter(objet, event);
 }
 
 } // namespace medication

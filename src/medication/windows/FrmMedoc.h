@@ -1,11 +1,16 @@
 #pragma once
 
 #include "application/windows/Fenetres.h"
+#include "medication/ArbreMedicaments.h"
+#include "medication/Commandes.h"
+#include "medication/windows/ControlesMedoc.h"
 
 #include <QDialog>
 
 namespace medication {
 
+/// The picker: finds a medication and builds the lines of the prescription. Shown by `exec`, hidden and
+/// reused; its close box is refused.
 class FrmMedoc : public QDialog
 {
     Q_OBJECT
@@ -13,9 +18,65 @@ class FrmMedoc : public QDialog
 public:
     FrmMedoc(application::Contexte& contexte, application::Fenetres& fenetres);
 
+    /// Escape: `CmdAnnule`, after a question when lines would be lost.
+    void reject() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* objet, QEvent* event) override;
+
 private:
+    void RelieRecherche();
+    void RelieLignes();
+    void RelieListe(Zone zone);
+    void RelieSignaux();
+
+    /// Runs what touches the stored data; a failure is told and the window goes on.
+    template <typename Action> bool Tente(Action&& action);
+    /// What every showing of the window does.
+    void Active();
+    void ConfigureModeBase();
+    void ChargeMedicaments();
+    void VideArbre();
+
+    void RechercheChange();
+    void PresseArbre();
+    void ClicNoeud(int rang);
+    void ModifieMedicament();
+    void RetireMedicament();
+    void MontreNotes();
+
+    void Ajoute(Zone zone);
+    void TermineAjout();
+    void PresseLigne(Zone zone, int rang);
+    void ReprendLigne(Zone zone);
+    void DeplaceLigne(Zone zone, int sens);
+    void PasseLigne(Zone zone);
+    void GlisseLigne(Zone zone, const QPoint& depart, const QPoint& point);
+    void LacheLigne(Zone zone, const QPoint& point);
+    void ToutEfface();
+    void CreeOrdonnance();
+
+    void SuitOrdonnance();
+    void MontreZones();
+    void CocheCases();
+
+    ListeLignes* Liste(Zone zone) const { return zone == Zone::Un ? c_.LstChoix1 : c_.LstChoix2; }
+    Zone ZoneSource() const { return contexte_.Choix.ListeSource == 2 ? Zone::Deux : Zone::Un; }
+    int NoeudSelectionne() const;
+    void SelectionneNoeud(int rang);
+    Saisie Boites() const;
+    void RemplitBoites(const Saisie& saisie);
+    void MontreFleches(const Fleches& fleches);
+    void FocusRecherche();
+
     application::Contexte& contexte_;
     application::Fenetres& fenetres_;
+    std::unique_ptr<Pharmacie> pharmacie_;
+    ArbreMedicaments arbre_;
+    ControlesMedoc c_;
 };
 
 } // namespace medication

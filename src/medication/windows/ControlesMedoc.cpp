@@ -1,0 +1,293 @@
+#include "medication/windows/ControlesMedoc.h"
+
+#include "application/windows/Style.h"
+#include "medication/messages.h"
+#include "medication/windows/ChampCherche.h"
+#include "medication/windows/ChampMedicament.h"
+#include "medication/windows/EtiquetteCase.h"
+#include "medication/windows/ListeLignes.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QDialog>
+#include <QPlainTextEdit>
+#include <QToolButton>
+#include <QTreeView>
+
+namespace medication {
+
+namespace {
+
+namespace style = application::style;
+
+constexpr int kLargeurRecherche = 2; // shares of the width
+constexpr int kLargeurOrdonnance = 5;
+
+QPushButton* PlusTard(QPushButton* bouton)
+{
+    bouton->setEnabled(false);
+    bouton->setToolTip(messages::PlusTard());
+    return bouton;
+}
+
+QHBoxLayout* Rang(std::initializer_list<QWidget*> gauche, std::initializer_list<QWidget*> droite)
+{
+    auto* rang = new QHBoxLayout;
+    rang->setContentsMargins({});
+    rang->setSpacing(style::kDansGroupe);
+    for (QWidget* controle : gauche) {
+        rang->addWidget(controle);
+    }
+    rang->addStretch();
+    for (QWidget* controle : droite) {
+        rang->addWidget(controle);
+    }
+    return rang;
+}
+
+QWidget* Case(QCheckBox*& caseACocher, const QString& nom, const QString& nomEtiquette, const QString& texte,
+              QWidget* parent)
+{
+    auto* groupe = new QWidget(parent);
+    caseACocher = new QCheckBox(groupe);
+    caseACocher->setObjectName(nom);
+    auto* etiquette = new EtiquetteCase(texte, caseACocher, groupe);
+    etiquette->setObjectName(nomEtiquette);
+    auto* rang = new QHBoxLayout(groupe);
+    rang->setContentsMargins({});
+    rang->setSpacing(0);
+    rang->addWidget(caseACocher);
+    rang->addWidget(etiquette);
+    return groupe;
+}
+
+QVBoxLayout* DansCarte(QWidget* carte)
+{
+    auto* disposition = new QVBoxLayout(carte);
+    disposition->setContentsMargins(style::kMargeCarte, style::kMargeCarte, style::kMargeCarte,
+                                    style::kMargeCarte);
+    disposition->setSpacing(style::kDansGroupe);
+    return disposition;
+}
+
+void ConstruitArbre(ControlesMedoc& c, QWidget* parent)
+{
+    c.TV = new QTreeView(parent);
+    c.TV->setObjectName(QStringLiteral("TV"));
+    c.TV->setHeaderHidden(true);
+    c.TV->setRootIsDecorated(false);
+    c.TV->setUniformRowHeights(true);
+    c.TV->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    c.TV->setFocusPolicy(Qt::TabFocus);
+    c.TV->setTextElideMode(Qt::ElideRight);
+}
+
+QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
+{
+    c.TxtCherche = new ChampCherche(f);
+    c.TxtCherche->setObjectName(QStringLiteral("TxtCherche"));
+    c.TxtCherche->addAction(style::Icone(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    ConstruitArbre(c, f);
+    c.CmdNouveau = PlusTard(
+        style::Bouton(QStringLiteral("CmdNouveau"), QStringLiteral("Nouveau"), QStringLiteral("plus-lg"), f));
+    c.CmdRetire = style::BoutonDestructeur(QStringLiteral("CmdRetire"), QStringLiteral("&Retirer"),
+                                           QStringLiteral("trash3"), f);
+    auto* colonne = new QVBoxLayout;
+    colonne->setSpacing(style::kDansGroupe);
+    colonne->addWidget(style::Titre({}, QStringLiteral("Recherche ra&pide"), f, c.TxtCherche));
+    colonne->addWidget(c.TxtCherche);
+    colonne->addSpacing(style::kDansGroupe);
+    colonne->addWidget(style::Titre({}, QStringLiteral("P&harmacie"), f, c.TV));
+    colonne->addWidget(c.TV, 1);
+    auto* boutons = new QHBoxLayout;
+    boutons->addWidget(c.CmdNouveau, 1);
+    boutons->addWidget(c.CmdRetire, 1);
+    colonne->addLayout(boutons);
+    return colonne;
+}
+
+void BoutonsMedicament(ControlesMedoc& c, QWidget* parent)
+{
+    c.LblPoso = PlusTard(style::Bouton(QStringLiteral("LblPoso"), QStringLiteral("Ajouter une Posologie"),
+                                       QStringLiteral("pencil"), parent));
+    c.CmdModifier = style::Bouton(QStringLiteral("CmdModifier"), QStringLiteral("Modi&fier données Med"),
+                                  QStringLiteral("save"), parent);
+    c.CmdModifier->setEnabled(false);
+    c.CmdAjouter1 = style::BoutonPrincipal(QStringLiteral("CmdAjouter1"), QStringLiteral("&Ajouter"),
+                                           QStringLiteral("plus-lg"), parent);
+    c.CmdAjouter2 = style::Bouton(QStringLiteral("CmdAjouter2"), QStringLiteral("Ajouter &non ALD"),
+                                  QStringLiteral("plus-lg"), parent);
+    c.CmdAide = style::Bouton(QStringLiteral("CmdAide"), QStringLiteral("Aid&e"),
+                              QStringLiteral("question-circle"), parent);
+}
+
+QWidget* CarteMedicament(ControlesMedoc& c, QDialog* f)
+{
+    QWidget* carte = style::Carte(f);
+    c.TxtMedoc = new ChampMedicament(carte);
+    c.TxtMedoc->setObjectName(QStringLiteral("TxtMedoc"));
+    c.TxtMedoc->setToolTip(QStringLiteral("F2 : notes du médicament ; F4 : blancs après le nom"));
+    c.TxtPoso = new QPlainTextEdit(carte);
+    c.TxtPoso->setObjectName(QStringLiteral("TxtPoso"));
+    c.TxtPoso->setAccessibleName(QStringLiteral("Posologie"));
+    c.TxtPoso->setTabChangesFocus(true);
+    BoutonsMedicament(c, carte);
+    QVBoxLayout* disposition = DansCarte(carte);
+    QLabel* titre = style::Titre({}, QStringLiteral("Mé&dicament choisi"), carte, c.TxtMedoc);
+    disposition->addLayout(Rang({titre}, {c.CmdAide}));
+    disposition->addWidget(c.TxtMedoc);
+    disposition->addWidget(c.TxtPoso, 1);
+    disposition->addLayout(Rang({c.LblPoso, c.CmdModifier}, {c.CmdAjouter2, c.CmdAjouter1}));
+    return carte;
+}
+
+QToolButton* Fleche(const QString& nom, const QString& texte, const QString& icone, QWidget* parent)
+{
+    QToolButton* bouton = style::BoutonIcone(nom, texte, icone, parent);
+    QSizePolicy place = bouton->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    bouton->setSizePolicy(place);
+    bouton->hide();
+    return bouton;
+}
+
+ListeLignes* Liste(const QString& nom, const QString& accessible, QWidget* parent)
+{
+    auto* liste = new ListeLignes(parent);
+    liste->setObjectName(nom);
+    liste->setAccessibleName(accessible);
+    return liste;
+}
+
+QLayout* ZonesEtFleches(ControlesMedoc& c, QWidget* carte)
+{
+    c.ZoneALD = style::Legende({}, QStringLiteral("Zone ALD"), carte);
+    c.ZoneNonALD = style::Legende({}, QStringLiteral("Zone non ALD"), carte);
+    c.LstChoix1 = Liste(QStringLiteral("LstChoix1"), QStringLiteral("Lignes de l'ordonnance"), carte);
+    c.LstChoix2 = Liste(QStringLiteral("LstChoix2"), QStringLiteral("Lignes de la zone non ALD"), carte);
+    c.ImgUp = Fleche(QStringLiteral("ImgUp"), QStringLiteral("Monter la ligne (Alt+Haut)"),
+                     QStringLiteral("arrow-up"), carte);
+    c.ImgDown = Fleche(QStringLiteral("ImgDown"), QStringLiteral("Descendre la ligne (Alt+Bas)"),
+                       QStringLiteral("arrow-down"), carte);
+    auto* listes = new QVBoxLayout;
+    listes->addWidget(c.ZoneALD);
+    listes->addWidget(c.LstChoix1, 1);
+    listes->addWidget(c.ZoneNonALD);
+    listes->addWidget(c.LstChoix2, 1);
+    auto* fleches = new QVBoxLayout;
+    fleches->addStretch();
+    fleches->addWidget(c.ImgUp);
+    fleches->addWidget(c.ImgDown);
+    fleches->addStretch();
+    auto* zones = new QHBoxLayout;
+    zones->setSpacing(style::kDansGroupe);
+    zones->addLayout(listes, 1);
+    zones->addLayout(fleches);
+    return zones;
+}
+
+void BoutonsOrdonnance(ControlesMedoc& c, QWidget* carte)
+{
+    c.CmdSaut = style::Bouton(QStringLiteral("CmdSaut"), QStringLiteral("&Saut de ligne"),
+                              QStringLiteral("arrow-return-left"), carte);
+    c.CmdClear = style::BoutonDestructeur(QStringLiteral("CmdClear"), QStringLiteral("&Tout effacer"),
+                                          QStringLiteral("eraser"), carte);
+    c.LblOrdoMem =
+        PlusTard(style::Bouton(QStringLiteral("LblOrdoMem"), QStringLiteral("Ordonnances Mémorisées"),
+                               QStringLiteral("book"), carte));
+    c.CmdAnnule =
+        style::Bouton(QStringLiteral("CmdAnnule"), QStringLiteral("Ann&uler"), QStringLiteral("x-lg"), carte);
+    c.CmdOrdo = style::Bouton(QStringLiteral("CmdOrdo"), QStringLiteral("&Créer Ordonnance"),
+                              QStringLiteral("file-earmark-text"), carte);
+}
+
+QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
+{
+    QWidget* carte = style::Carte(f);
+    QLabel* titre = style::Titre({}, QStringLiteral("Ordonnance"), carte);
+    QWidget* ald = Case(c.ChkALD, QStringLiteral("ChkALD"), QStringLiteral("Label7"),
+                        QStringLiteral("Ordonnance A&LD"), carte);
+    QWidget* dup = Case(c.ChkDup, QStringLiteral("ChkDup"), QStringLiteral("Label6"),
+                        QStringLiteral("&Imprimer duplicata"), carte);
+    QWidget* tri = Case(c.ChkTri, QStringLiteral("ChkTri"), QStringLiteral("Label9"),
+                        QStringLiteral("I&mprimer triplicata"), carte);
+    QVBoxLayout* disposition = DansCarte(carte);
+    disposition->addLayout(Rang({titre}, {ald, dup, tri}));
+    disposition->addLayout(ZonesEtFleches(c, carte));
+    BoutonsOrdonnance(c, carte);
+    disposition->addLayout(Rang({c.CmdSaut, c.CmdClear, c.LblOrdoMem}, {c.CmdAnnule, c.CmdOrdo}));
+    return carte;
+}
+
+template <typename Controle>
+void DeBanque(ControlesMedoc& c, QWidget* parent, const QString& nom, const QString& texte)
+{
+    auto* controle = new Controle(texte, parent);
+    controle->setObjectName(nom);
+    controle->hide();
+    c.DeBanque.append(controle);
+}
+
+// What a drug bank brings. The local mode keeps it out of sight.
+void ConstruitBanque(ControlesMedoc& c, QDialog* f)
+{
+    for (const auto& [nom, texte] : {
+             std::pair(QStringLiteral("Lbl1"), QString()),
+             std::pair(QStringLiteral("Lbl2"), QStringLiteral("Pharmacie personnelle")),
+             std::pair(QStringLiteral("Lbl5"), QString()),
+             std::pair(QStringLiteral("LblDatExp"), QString()),
+             std::pair(QStringLiteral("HlbG"), QStringLiteral(" Génériques")),
+             std::pair(QStringLiteral("HlbI"), QStringLiteral(" Interactions")),
+             std::pair(QStringLiteral("Lblmono"), QStringLiteral("Afficher monographies")),
+             std::pair(QStringLiteral("lblDCI"), QStringLiteral("Prescrire en DCI")),
+             std::pair(QStringLiteral("PctCherch"), QString()),
+         }) {
+        DeBanque<QLabel>(c, f, nom, texte);
+    }
+    for (const auto* nom : {"CmdCopyright", "CmdPerso", "CmdVD"}) {
+        DeBanque<QPushButton>(c, f, QLatin1String(nom), {});
+    }
+    for (const auto* nom : {"ChkMono", "ChkDCI"}) {
+        DeBanque<QCheckBox>(c, f, QLatin1String(nom), {});
+    }
+}
+
+void OrdonneTabulation(const ControlesMedoc& c)
+{
+    const QList<QWidget*> ordre = {c.TxtCherche,  c.TV,          c.TxtMedoc,    c.TxtPoso,   c.LblPoso,
+                                   c.CmdModifier, c.CmdAjouter1, c.CmdAjouter2, c.ChkALD,    c.ChkDup,
+                                   c.ChkTri,      c.LstChoix1,   c.LstChoix2,   c.ImgUp,     c.ImgDown,
+                                   c.CmdSaut,     c.CmdClear,    c.LblOrdoMem,  c.CmdAnnule, c.CmdOrdo,
+                                   c.CmdAide,     c.CmdNouveau,  c.CmdRetire};
+    for (qsizetype i = 1; i < ordre.size(); ++i) {
+        QWidget::setTabOrder(ordre[i - 1], ordre[i]);
+    }
+}
+
+} // namespace
+
+ControlesMedoc ConstruitMedoc(QDialog* fenetre)
+{
+    ControlesMedoc c;
+    auto* colonnes = new QHBoxLayout;
+    colonnes->setSpacing(style::kEntreGroupes);
+    colonnes->addLayout(ColonneRecherche(c, fenetre), kLargeurRecherche);
+    auto* droite = new QVBoxLayout;
+    droite->setSpacing(style::kEntreGroupes);
+    droite->addWidget(CarteMedicament(c, fenetre), 2);
+    droite->addWidget(CarteOrdonnance(c, fenetre), 3);
+    colonnes->addLayout(droite, kLargeurOrdonnance);
+    style::Fenetre(fenetre)->addLayout(colonnes);
+    c.Txt = new QLabel(fenetre);
+    c.Txt->setObjectName(QStringLiteral("Txt"));
+    c.Txt->setFrameShape(QFrame::Box);
+    c.Txt->setAutoFillBackground(true);
+    c.Txt->setAttribute(Qt::WA_TransparentForMouseEvents);
+    c.Txt->hide();
+    ConstruitBanque(c, fenetre);
+    OrdonneTabulation(c);
+    return c;
+}
+
+} // namespace medication

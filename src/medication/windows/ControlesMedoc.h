@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QList>
+
+class QCheckBox;
+class QDialog;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+class QToolButton;
+class QTreeView;
+class QWidget;
+
+namespace medication {
+
+class ChampCherche;
+class ChampMedicament;
+class ListeLignes;
+
+/// The controls of the picker, laid out in its window, which owns them.
+struct ControlesMedoc
+{
+    medication::ChampCherche* TxtCherche = nullptr;
+    QTreeView* TV = nullptr;
+    QPushButton* CmdNouveau = nullptr;
+    QPushButton* CmdRetire = nullptr;
+
+    medication::ChampMedicament* TxtMedoc = nullptr;
+    QPlainTextEdit* TxtPoso = nullptr;
+    QPushButton* LblPoso = nullptr;
+    QPushButton* CmdModifier = nullptr;
+    QPushButton* CmdAjouter1 = nullptr;
+    QPushButton* CmdAjouter2 = nullptr;
+    QPushButton* CmdAide = nullptr;
+
+    QCheckBox* ChkALD = nullptr;
+    QCheckBox* ChkDup = nullptr;
+    QCheckBox* ChkTri = nullptr;
+    QLabel* ZoneALD = nullptr; ///< headings of the two lists, shown with both of them
+    QLabel* ZoneNonALD = nullptr;
+    ListeLignes* LstChoix1 = nullptr;
+    ListeLignes* LstChoix2 = nullptr;
+    QToolButton* ImgUp = nullptr;
+    QToolButton* ImgDown = nullptr;
+    QLabel* Txt = nullptr; ///< the row under the mouse while it is dragged
+    QPushButton* CmdSaut = nullptr;
+    QPushButton* CmdClear = nullptr;
+    QPushButton* LblOrdoMem = nullptr;
+    QPushButton* CmdAnnule = nullptr;
+    QPushButton* CmdOrdo = nullptr;
+
+    QList<QWidget*> DeBanque; ///< what the local mode hides
+};
+
+ControlesMedoc ConstruitMedoc(QDialog* fenetre);
+
+} // namespace medication
