@@ -1,13 +1,154 @@
 #include "patients/windows/FrmNouveauP.h"
 
+#include "outside/Boites.h"
+#include "patients/Patient.h"
+#include "patients/TexteSaisie.h"
+#include "patients/messages.h"
+#include "patients/windows/ChampSelectionne.h"
+
+#include <QLabel>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
 namespace patients {
 
-FrmNouveauP::FrmNouveauP(application::Contexte& contexte, application::Fenetres& fenetres)
-    : contexte_(contexte), fenetres_(fenetres)
+FrmNouveauP::FrmNouveauP(application::Contexte& contexte, application::Fenetres&) : contexte_(contexte)
 {
     setObjectName(QStringLiteral("FrmNouveauP"));
-    Q_UNUSED(contexte_)
-    Q_UNUSED(fenetres_)
+    setWindowTitle(QStringLiteral("       Nouveau patient"));
+    Dispose();
+    Branche();
+}
+
+void FrmNouveauP::Branche()
+{
+    for (QRadioButton* option : opt_) {
+        connect(option, &QRadioButton::clicked, txt_[0], qOverload<>(&QWidget::setFocus));
+    }
+    for (const int numero : {0, 1, 2, 4}) {
+        connect(txt_[size_t(numero)], &QLineEdit::editingFinished, this, &FrmNouveauP::MetEnForme);
+    }
+    connect(cmdCI_, &QPushButton::clicked, this, &FrmNouveauP::AjoutePrecautions);
+    connect(lstCi_, &QListView::doubleClicked, this, &FrmNouveauP::RetirePrecaution);
+    connect(cmdOK_, &QPushButton::clicked, this, &FrmNouveauP::Valide);
+    connect(cmdAnnuler_, &QPushButton::clicked, this, &FrmNouveauP::reject);
+}
+
+void FrmNouveauP::Remplit(int index, const SaisiePatient& saisie)
+{
+    indexChange_ = index;
+    origine_ = saisie.Origine;
+    cmdOK_->setText(QStringLiteral("Enregistrer"));
+    opt_[kSansCivilite]->setAutoExclusive(false);
+    opt_[kSansCivilite]->setChecked(false);
+    opt_[kSansCivilite]->setAutoExclusive(true);
+    if (saisie.Option >= 0) {
+        opt_[size_t(saisie.Option)]->setChecked(true);
+    }
+    txt_[0]->setText(saisie.Nom);
+    txt_[1]->setText(saisie.Prenom);
+    txt_[2]->setText(saisie.Telephone1);
+    txt_[3]->setText(saisie.Poids);
+    txt_[4]->setText(saisie.Telephone2);
+    meb_->setText(saisie.DateNaissance);
+    precautions_.setStringList(saisie.Precautions);
+    txtAdr_->setPlainText(saisie.Notes);
+    txtAtcd_->setPlainText(saisie.Antecedents);
+    txtAdrV_->setPlainText(saisie.Adresse);
+}
+
+void FrmNouveauP::RendDateFacultative()
+{
+    lbl_->hide();
+}
+
+SaisiePatient FrmNouveauP::Saisie() const
+{
+    const auto option = std::ranges::find_if(opt_, &QRadioButton::isChecked);
+    return {.Option = option == opt_.end() ? -1 : static_cast<int>(option - opt_.begin()),
+            .Nom = txt_[0]->text(),
+            .Prenom = txt_[1]->text(),
+            .DateNaissance = meb_->text(),
+            .Poids = txt_[3]->text(),
+            .Precautions = precautions_.stringList(),
+            .Notes = txtAdr_->toPlainText(),
+            .Antecedents = txtAtcd_->toPlainText(),
+            .Adresse = txtAdrV_->toPlainText(),
+            .Telephone1 = txt_[2]->text(),
+            .Telephone2 = txt_[4]->text(),
+            .Origine = origine_};
+}
+
+void FrmNouveauP::MetEnForme()
+{
+    txt_[0]->setText(txt_[0]->text().toUpper());
+    txt_[1]->setText(PremiereMajuscule(txt_[1]->text()));
+    for (const size_t numero : {2U, 4U}) {
+        txt_[numero]->setText(MasqueTelephone(txt_[numero]->text()));
+    }
+}
+
+void FrmNouveauP::AjoutePrecautions()
+{
+    for (;;) {
+        outside::Saisie demande;
+        demande.Invite = messages::InvitePrecautions();
+        const QString reponse = contexte_.Dehors.Boites.Demande(demande).value_or(QString());
+        if (reponse.isEmpty()) {
+            return;
+        }
+        precautions_.setStringList(precautions_.stringList() << reponse);
+    }
+}
+
+void FrmNouveauP::RetirePrecaution()
+{
+    const QModelIndex choisie = lstCi_->currentIndex();
+    if (!lstCi_->selectionModel()->isSelected(choisie)) {
+        return;
+    }
+    const QString question = messages::SupprimerPrecaution(choisie.data().toString());
+    if (contexte_.Dehors.Boites.Question(question)) {
+        precautions_.removeRow(choisie.row());
+    }
+}
+
+void FrmNouveauP::Valide()
+{
+    MetEnForme();
+    const patients::FinDeSaisie fin = TermineSaisie(contexte_, Saisie(), indexChange_);
+    if (fin.Refus) {
+        MontreRefus(*fin.Refus);
+        return;
+    }
+    indexEcrit_ = fin.Index;
+    accept();
+}
+
+void FrmNouveauP::MontreRefus(const Refus& refus)
+{
+    contexte_.Dehors.Boites.Information(refus.Message);
+    switch (refus.Controle) {
+    case Champ::Nom:
+        txt_[0]->setFocus();
+        break;
+    case Champ::Prenom:
+        txt_[1]->setFocus();
+        break;
+    case Champ::DateNaissance:
+        meb_->setFocus();
+        break;
+    case Champ::Aucun:
+        break;
+    }
+}
+
+void FrmNouveauP::reject()
+{
+    contexte_.Patient.ModePatient = 3;
+    QDialog::reject();
 }
 
 } // namespace patients

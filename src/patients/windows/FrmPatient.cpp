@@ -1,19 +1,225 @@
 #include "patients/windows/FrmPatient.h"
 
+#include "application/Signaux.h"
+#include "medication/windows/FrmMedoc.h"
+#include "outside/Boites.h"
+#include "patients/Patient.h"
+#include "patients/PatientCourant.h"
+#include "patients/SaisiePatient.h"
+#include "patients/messages.h"
+#include "patients/windows/FrmNouveauP.h"
+#include "patients/windows/ZoneRecherche.h"
+#include "startup/Chemins.h"
+#include "storage/Bases.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+
 namespace patients {
 
 FrmPatient::FrmPatient(application::Contexte& contexte, application::Fenetres& fenetres)
     : contexte_(contexte), fenetres_(fenetres)
 {
     setObjectName(QStringLiteral("FrmPatient"));
-    Q_UNUSED(contexte_)
-    Q_UNUSED(fenetres_)
+    setWindowTitle(QStringLiteral("               Liste des Patients"));
+    Dispose();
+    Branche();
+    Charge();
+}
+
+void FrmPatient::Branche()
+{
+    connect(txtCherche_, &QLineEdit::textChanged, this, &FrmPatient::Cherche);
+    connect(lstPatient_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &FrmPatient::ChoixChange);
+    connect(lstPatient_, &QListView::doubleClicked, this, &FrmPatient::Confirme);
+    connect(cmdOK_, &QPushButton::clicked, this, &FrmPatient::Confirme);
+    connect(cmdAnnule_, &QPushButton::clicked, this, &FrmPatient::reject);
+    connect(cmdNouveauPatient_, &QPushButton::clicked, this, &FrmPatient::NouveauPatient);
+    connect(cmdPassage_, &QPushButton::clicked, this, &FrmPatient::PatientDePassage);
+    connect(cmdModifier_, &QPushButton::clicked, this, &FrmPatient::Modifie);
+    connect(cmdSupprime_, &QPushButton::clicked, this, &FrmPatient::Supprime);
+    connect(cmdAide_, &QPushButton::clicked, this,
+            [this] { contexte_.Dehors.Boites.Information(messages::AideListe()); });
+    connect(&contexte_.Signaux, &application::Signaux::PatientsChanges, this, &FrmPatient::Charge);
 }
 
 void FrmPatient::Ouvre(bool ouvreMedocApres)
 {
-    ouvreMedocApres_ = ouvreMedocApres;
-    exec();
+    if (cheminCharge_ != contexte_.Chemins.CheminTravail) {
+        Charge();
+    }
+    if (exec() == QDialog::Accepted && ConfirmePatient(contexte_, ouvreMedocApres)) {
+        fenetres_.Donne<medication::FrmMedoc>().exec();
+    }
+}
+
+void FrmPatient::reject()
+{
+    AnnulePatient(contexte_.Patient, contexte_.Apercu);
+    EffaceChoix();
+    QDialog::reject();
+}
+
+bool FrmPatient::event(QEvent* evenement)
+{
+    if (evenement->type() == QEvent::WindowActivate) {
+        txtCherche_->setFocus();
+    }
+    return QDialog::event(evenement);
+}
+
+void FrmPatient::Charge()
+{
+    cheminCharge_ = contexte_.Chemins.CheminTravail;
+    if (!cheminCharge_.isEmpty()) {
+        liste_.Charge(contexte_.Bases.Medoc(cheminCharge_));
+    }
+    Deselectionne();
+}
+
+int FrmPatient::Rang() const
+{
+    const QModelIndexList choisis = lstPatient_->selectionModel()->selectedRows();
+    return choisis.isEmpty() ? -1 : choisis.front().row();
+}
+
+void FrmPatient::Selectionne(int rang)
+{
+    lstPatient_->setCurrentIndex(liste_.index(rang));
+}
+
+void FrmPatient::Deselectionne()
+{
+    lstPatient_->selectionModel()->clear();
+    lblTitre_->clear();
+    lblPatient_->clear();
+}
+
+void FrmPatient::EffaceChoix()
+{
+    Deselectionne();
+    txtCherche_->setText(QStringLiteral("  "));
+    txtCherche_->selectAll();
+}
+
+void FrmPatient::Cherche(const QString& texte)
+{
+    if (QStringView(texte).trimmed().isEmpty()) {
+        Deselectionne();
+    } else if (const int rang = liste_.Cherche(texte); rang >= 0) {
+        Selectionne(rang);
+    }
+}
+
+void FrmPatient::ChoixChange()
+{
+    const int rang = Rang();
+    if (rang < 0) {
+        return;
+    }
+    if (!SelectionnePatient(contexte_, liste_.Index(rang), liste_.Texte(rang))) {
+        SignaleDisparu();
+        return;
+    }
+    lblTitre_->setText(contexte_.Patient.PatientCourant);
+    lblPatient_->setText(TexteLblPatient(contexte_.Patient));
+}
+
+void FrmPatient::SignaleDisparu()
+{
+    // The list tells of its selection just now: it is read again once that is over.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            Charge();
+            contexte_.Dehors.Boites.Information(messages::PatientDisparu());
+        },
+        Qt::QueuedConnection);
+}
+
+void FrmPatient::Confirme()
+{
+    if (Rang() < 0) {
+        contexte_.Dehors.Boites.Information(messages::SelectionnezUnNom());
+        return;
+    }
+    EffaceChoix();
+    if (!contexte_.Patient.MessagePrecautions.isEmpty()) {
+        contexte_.Dehors.Boites.Simple(contexte_.Patient.MessagePrecautions);
+    }
+    accept();
+}
+
+void FrmPatient::NouveauPatient()
+{
+    contexte_.Patient.ModePatient = 1;
+    EffaceChoix();
+    auto& saisie = fenetres_.Donne<FrmNouveauP>();
+    if (saisie.exec() == QDialog::Accepted) {
+        Selectionne(liste_.Ajoute(saisie.IndexEcrit(), contexte_.Patient.PatientCourant));
+    }
+    FinDeSaisie();
+}
+
+void FrmPatient::PatientDePassage()
+{
+    contexte_.Patient.ModePatient = 2;
+    EffaceChoix();
+    auto& saisie = fenetres_.Donne<FrmNouveauP>();
+    saisie.RendDateFacultative();
+    saisie.exec();
+    FinDeSaisie();
+    if (contexte_.Patient.ModePatient != 3) {
+        EffaceChoix();
+        accept();
+    }
+}
+
+void FrmPatient::Modifie()
+{
+    const int rang = Rang();
+    if (rang < 0) {
+        contexte_.Dehors.Boites.Information(messages::QuelPatientModifier());
+        return;
+    }
+    const int index = liste_.Index(rang);
+    const auto fiche = LitFiche(contexte_.Bases.Medoc(contexte_.Chemins.CheminTravail), index);
+    if (!fiche) {
+        SignaleDisparu();
+        return;
+    }
+    auto& saisie = fenetres_.Donne<FrmNouveauP>();
+    saisie.Remplit(index, SaisieDe(*fiche));
+    saisie.exec();
+    FinDeSaisie();
+    Charge();
+    ChoixChange();
+}
+
+void FrmPatient::Supprime()
+{
+    const int rang = Rang();
+    if (rang < 0) {
+        contexte_.Dehors.Boites.Information(messages::QuelPatientSupprimer());
+        return;
+    }
+    const QString question = messages::SupprimerPatient(liste_.Texte(rang));
+    if (!contexte_.Dehors.Boites.Question(question, outside::Bouton::Non)) {
+        return;
+    }
+    SupprimeFiche(contexte_.Bases.Medoc(contexte_.Chemins.CheminTravail), liste_.Index(rang),
+                  contexte_.Patient.PatientCourant, contexte_.Patient.DateNaissance);
+    Deselectionne();
+    liste_.Retire(rang);
+}
+
+void FrmPatient::FinDeSaisie()
+{
+    fenetres_.Decharge<FrmNouveauP>();
+    contexte_.Patient.PrecautionsPatient.clear();
 }
 
 } // namespace patients

@@ -1,0 +1,65 @@
+#include "patients/ListePatients.h"
+
+#include "storage/Base.h"
+
+#include <span>
+#include <utility>
+
+namespace patients {
+
+int ListePatients::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : repertoire_.Nombre();
+}
+
+QVariant ListePatients::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    switch (role) {
+    case Qt::DisplayRole:
+        return Texte(index.row());
+    case Qt::ToolTipRole:
+        return repertoire_.Nom(index.row()).trimmed().toString();
+    case Qt::UserRole:
+        return repertoire_.Index(index.row());
+    default:
+        return {};
+    }
+}
+
+QString ListePatients::Texte(int rang) const
+{
+    return QLatin1String("  ") + repertoire_.Nom(rang).toString();
+}
+
+void ListePatients::Charge(storage::Base& medoc)
+{
+    Repertoire relu;
+    medoc.ParcourtTextes(
+        QStringLiteral("Patients"), {QStringLiteral("Index"), QStringLiteral("NomPatient")},
+        [&relu](std::span<const QStringView> textes) { relu.Ajoute(textes[0].toInt(), textes[1]); });
+    relu.Trie();
+    beginResetModel();
+    repertoire_ = std::move(relu);
+    endResetModel();
+}
+
+int ListePatients::Ajoute(int index, const QString& nom)
+{
+    const int rang = repertoire_.Place(index, nom);
+    beginInsertRows({}, rang, rang);
+    repertoire_.Insere(rang, index, nom);
+    endInsertRows();
+    return rang;
+}
+
+void ListePatients::Retire(int rang)
+{
+    beginRemoveRows({}, rang, rang);
+    repertoire_.Retire(rang);
+    endRemoveRows();
+}
+
+} // namespace patients

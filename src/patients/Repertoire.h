@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+namespace patients {
+
+/// Names with their keys, always in the order of a French reader: by the folded name, ties by the name
+/// itself, then by the key. Made for 100 000 names: one block of text, fixed-size rows.
+class Repertoire
+{
+public:
+    void Vide();
+    void Reserve(int nombre);
+    /// Adds without sorting: `Trie` has to follow before anything is read.
+    void Ajoute(int index, QStringView nom);
+    void Trie();
+
+    int Nombre() const { return static_cast<int>(rangees_.size()); }
+    int Index(int rang) const { return rangees_[size_t(rang)].Index; }
+    QStringView Nom(int rang) const { return Nom(rangees_[size_t(rang)]); }
+    /// The row of a key, -1 without one.
+    int RangDe(int index) const;
+
+    /// The row where a name belongs.
+    int Place(int index, QStringView nom) const;
+    void Insere(int rang, int index, QStringView nom);
+    void Retire(int rang) { rangees_.erase(rangees_.begin() + rang); }
+
+    /// The first row whose trimmed name begins with the trimmed text, both in upper case, accents
+    /// significant; -1 without one and for an empty text.
+    int Cherche(QStringView texte) const;
+
+private:
+    struct Rangee
+    {
+        quint64 Repliee;
+        quint64 Majuscule;
+        int Index;
+        quint32 Debut; // in noms_, as the length
+        quint32 Longueur;
+    };
+
+    QStringView Nom(const Rangee& rangee) const
+    {
+        return QStringView(noms_).mid(rangee.Debut, rangee.Longueur);
+    }
+    Rangee Prepare(int index, QStringView nom);
+    bool Precede(const Rangee& a, quint64 repliee, int index, QStringView nom) const;
+
+    QString noms_;
+    std::vector<Rangee> rangees_;
+};
+
+} // namespace patients
