@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QRegularExpression>
 #include <QSaveFile>
 
 namespace outside {
@@ -29,10 +30,8 @@ QString PartieDeNom(const QString& titre)
         nom.append(permis ? caractere : QLatin1Char(' '));
     }
     nom = nom.simplified().left(kLongueurDuNom);
-    while (nom.startsWith(QLatin1Char('.')) || nom.endsWith(QLatin1Char('.')) ||
-           nom.endsWith(QLatin1Char(' '))) {
-        nom = nom.startsWith(QLatin1Char('.')) ? nom.mid(1) : nom.chopped(1);
-    }
+    static const QRegularExpression bords(QStringLiteral("^[. ]+|[. ]+$"));
+    nom.remove(bords);
     return nom;
 }
 

@@ -4,6 +4,7 @@
 #include "common/Dates.h"
 #include "outside/Boites.h"
 #include "outside/Horloge.h"
+#include "page/Gabarit.h"
 #include "patients/Patient.h"
 #include "prescription/Apercu.h"
 #include "prescription/Editeur.h"
@@ -100,10 +101,7 @@ double BasDeLaFeuille(application::Contexte& contexte)
     if (page::LignesPerdues(papier.Resultat(), modele.Reglages) == 0) {
         return 0;
     }
-    const settings::Marges& marges = modele.Reglages.Marges;
-    const double hauteur = modele.Reglages.Options.FormatA4 == 1 ? 297 : 210;
-    const double plusHautQuePapier = marges.MargeHauteOrdo / 2.0;
-    return hauteur - marges.MargeBasEntete + marges.MargeHauteEntete - plusHautQuePapier;
+    return page::LimiteDuCorps(modele.Reglages) - modele.Reglages.Marges.MargeHauteOrdo / 2.0;
 }
 
 } // namespace prescription

@@ -13,6 +13,7 @@
 #include "prescription/messages.h"
 #include "startup/Chemins.h"
 #include "startup/Medecins.h"
+#include "storage/Bases.h"
 
 namespace prescription {
 
@@ -45,6 +46,18 @@ QString ImprimanteEnUsage(application::Contexte& contexte)
         contexte.Dehors.Boites.Information(messages::ImprimanteIntrouvable(choisie, utilisee));
     }
     return utilisee;
+}
+
+/// A sheet without its letterhead is no prescription: nothing is printed then.
+bool LitLEntete(application::Contexte& contexte)
+{
+    try {
+        page::LitEntete(contexte.Bases.Ordo(contexte.Chemins.CheminMedecin));
+        return true;
+    } catch (const common::Erreur& erreur) {
+        contexte.Dehors.Boites.Stop(messages::EnteteIllisible(erreur.Phrase()));
+        return false;
+    }
 }
 
 void Peint(Tirage& tirage)
@@ -101,6 +114,9 @@ void InscritAuJournal(application::Contexte& contexte)
 
 bool ImprimeDocument(application::Contexte& contexte)
 {
+    if (!LitLEntete(contexte)) {
+        return false;
+    }
     const QString imprimante = ImprimanteEnUsage(contexte);
     contexte.Impression.NbCopies = NombreDeCopies(contexte.Ordonnance, contexte.Apercu.ModeApercu);
     QList<page::LigneEntete> entete;

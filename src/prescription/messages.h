@@ -38,6 +38,11 @@ inline QString ImpressionEchouee(const QString& imprimante, const QString& cause
     return QStringLiteral("L'impression sur « %1 » a échoué.\n%2").arg(imprimante, cause);
 }
 
+inline QString EnteteIllisible(const QString& cause)
+{
+    return QStringLiteral("L'en-tête du médecin ne peut pas être lu. Rien n'est imprimé.\n%1").arg(cause);
+}
+
 inline QString JournalNonEcrit(const QString& cause)
 {
     return QStringLiteral("L'ordonnance est imprimée, mais elle n'a pas pu être inscrite au journal.\n%1")
