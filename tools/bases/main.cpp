@@ -12,15 +12,18 @@ namespace {
 using storage::ContenuInitial;
 using storage::GenreBase;
 
+/// The numbers below are left to what a practice brings along.
+constexpr int kPremierNumero = 1001;
+
 void RemplisBddMed(const QString& chemin, const QByteArray& noms)
 {
     storage::Base base(chemin, GenreBase::Medoc);
     storage::Transaction transaction(base);
-    int numero = 0;
+    int numero = kPremierNumero;
     for (const QByteArray& nom : noms.split('\n')) {
         if (!nom.trimmed().isEmpty()) {
             base.Execute(QStringLiteral("insert into BddMed (num, Nom) values (?, ?)"),
-                         {++numero, QString::fromUtf8(nom.trimmed())});
+                         {numero++, QString::fromUtf8(nom.trimmed())});
         }
     }
     transaction.Valide();
