@@ -33,7 +33,7 @@ endfunction()
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/icones.txt)
 file(STRINGS ${PROJECT_SOURCE_DIR}/cmake/icones.txt icones REGEX "^[a-z0-9-]+$")
 foreach(icone IN LISTS icones)
-    rend_image(${DOSSIER_ICONES}/${icone}.svg icones/${icone}- 000000 "18;27;36;54" "18;27;36;54")
+    rend_image(${DOSSIER_ICONES}/${icone}.svg icones/${icone}- 000000 "18;27;36;54;72" "18;27;36;54;72")
 endforeach()
 foreach(indicateur IN ITEMS check-lg:ffffff check-lg:8292a6 chevron-down:034ba2 chevron-up:034ba2
         chevron-right:034ba2 chevron-left:034ba2 chevron-down:8292a6 chevron-up:8292a6)

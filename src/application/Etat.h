@@ -34,8 +34,8 @@ struct Etat
     /// References to all of it, with the outer edge in use.
     application::Contexte Contexte(const Dehors& dehors)
     {
-        return {Chemins, Medecins, Patient, Ordonnance, Apercu,  Impression, Reglages,
-                Banque,  Certificat, Choix, Bases,      dehors, Signaux};
+        return {Chemins, Medecins,   Patient, Ordonnance, Apercu, Impression, Reglages,
+                Banque,  Certificat, Choix,   Bases,      dehors, Signaux};
     }
 };
 

@@ -1,5 +1,14 @@
 #include "application/windows/Application.h"
 
+#include "application/Sauvegarde.h"
+#include "outside/Boites.h"
+#include "outside/Plateau.h"
+#include "patients/windows/FrmPatient.h"
+#include "startup/windows/FrmChoixBase.h"
+#include "startup/windows/FrmDepart.h"
+
+#include <QCoreApplication>
+
 namespace application {
 
 Application::Application(const Dehors& dehors, const QString& cheminProgramme,
@@ -8,8 +17,63 @@ Application::Application(const Dehors& dehors, const QString& cheminProgramme,
 {
     etat_.Chemins.CheminProgramme = cheminProgramme;
     etat_.Chemins.CheminInstallation = cheminInstallation;
+    connect(&etat_.Signaux, &Signaux::FinDemandee, this, &Application::Arrete);
 }
 
-Application::~Application() = default;
+Application::~Application()
+{
+    contexte_.Dehors.Plateau.Ecoute({});
+}
+
+bool Application::Demarre()
+{
+    startup::Demarrage demarrage(contexte_, Ecrans());
+    if (!demarrage.Execute() || arretee_) {
+        Arrete();
+        return false;
+    }
+    fenetres_.Donne<startup::FrmDepart>().Ouvre();
+    return true;
+}
+
+void Application::ArretSurErreur(const QString& phrase, const QString& lieu)
+{
+    contexte_.Dehors.Boites.Stop(FermeSurErreur(contexte_, phrase, lieu));
+    Arrete();
+}
+
+startup::Ecrans Application::Ecrans()
+{
+    return {.MontreChoixBase = [this](int rang) { return MontreChoixBase(rang); },
+            .ChargeConfOrdo = {},
+            .Minimise = [this] { fenetres_.Donne<startup::FrmDepart>().Reduit(); },
+            .ChargeFenetres = [this] { ChargeFenetres(); }};
+}
+
+bool Application::MontreChoixBase(int rangStockage)
+{
+    auto& fenetre = fenetres_.Donne<startup::FrmChoixBase>();
+    fenetre.Selectionne(rangStockage);
+    const bool suite = fenetre.exec() == QDialog::Accepted;
+    fenetres_.Decharge<startup::FrmChoixBase>();
+    return suite && !arretee_;
+}
+
+void Application::ChargeFenetres()
+{
+    fenetres_.Donne<patients::FrmPatient>();
+    QCoreApplication::processEvents();
+}
+
+void Application::Arrete()
+{
+    if (arretee_) {
+        return;
+    }
+    arretee_ = true;
+    contexte_.Dehors.Plateau.Retire();
+    fenetres_.CacheTout();
+    Q_EMIT Termine();
+}
 
 } // namespace application

@@ -2,6 +2,7 @@
 
 #include "application/Etat.h"
 #include "application/windows/Fenetres.h"
+#include "startup/Demarrage.h"
 
 #include <QObject>
 
@@ -18,23 +19,30 @@ public:
     ~Application() override;
 
     /// The load of `FrmDepart`, from the first step to the painted face. False when the program ends
-    /// there, by an answer of the doctor or for a restart.
+    /// there, by an answer of the doctor; `Termine` was emitted then. Runs inside the event loop.
     bool Demarre();
 
     application::Contexte& Contexte() { return contexte_; }
     application::Fenetres& Fenetres() { return fenetres_; }
 
-    /// Says what failed in French, closes the databases and keeps the prescription in hand in a file.
+    /// Says what failed in French, closes the databases, keeps the prescription in hand in a file and
+    /// ends the program.
     void ArretSurErreur(const QString& phrase, const QString& lieu);
 
 Q_SIGNALS:
-    /// Everything is unloaded but this object: the event loop may end.
+    /// Every window is hidden: the event loop may end, then this object.
     void Termine();
 
 private:
+    startup::Ecrans Ecrans();
+    bool MontreChoixBase(int rangStockage);
+    void ChargeFenetres();
+    void Arrete();
+
     application::Etat etat_;
     application::Contexte contexte_;
     application::Fenetres fenetres_;
+    bool arretee_ = false;
 };
 
 } // namespace application

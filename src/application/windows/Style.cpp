@@ -71,7 +71,7 @@ QPalette Palette()
 QIcon IconeProgramme()
 {
     QIcon icone;
-    for (const int taille : {16, 32, 48}) {
+    for (const int taille : {16, 32, 48, 64}) {
         icone.addFile(QStringLiteral(":/scriptelle-%1.png").arg(taille), QSize(taille, taille));
     }
     return icone;
@@ -84,6 +84,8 @@ QColor Teinte(Ton ton)
     switch (ton) {
     case Ton::Page:
         return QColor(222, 235, 250);
+    case Ton::Accueil:
+        return QColor(237, 244, 252);
     case Ton::Fond:
         return QColor(243, 247, 252);
     case Ton::Encre:
@@ -104,6 +106,14 @@ QColor Teinte(Ton ton)
         break;
     }
     return Qt::white;
+}
+
+QFont PoliceFixe()
+{
+    QFont police(QStringLiteral("Courier New"));
+    police.setStyleHint(QFont::TypeWriter);
+    police.setPointSizeF(kPointsTexte);
+    return police;
 }
 
 void Installe(QApplication& application)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QIcon>
 #include <QPushButton>
 #include <QString>
@@ -24,10 +25,11 @@ constexpr int kTailleIcone = 18;
 
 /// The colours in use, by what they stand for.
 enum class Ton {
-    Page,  ///< page blue 222, 235, 250
-    Fond,  ///< its lighter tint, the ground of windows
-    Encre, ///< what acts: primary button, focus, headings, links, selection
-    Jaune, ///< medications used before
+    Accueil, ///< 237, 244, 252: the tile that leads to the prescriptions
+    Page,    ///< page blue 222, 235, 250
+    Fond,    ///< its lighter tint, the ground of windows
+    Encre,   ///< what acts: primary button, focus, headings, links, selection
+    Jaune,   ///< medications used before
     Texte,
     Discret, ///< captions beside a control, contrast 4.5 to 1 on white
     Filet,   ///< hairlines
@@ -54,6 +56,10 @@ QPushButton* BoutonPrincipal(const QString& nomObjet, const QString& texte, cons
 /// A button that destroys something.
 QPushButton* BoutonDestructeur(const QString& nomObjet, const QString& texte, const QString& icone,
                                QWidget* parent);
+/// A large tile: an icon and, on it, a caption that is a button of its own and leaves the mouse to the tile.
+/// `texte` bears the Alt letter of the tile.
+QPushButton* BoutonAccueil(const QString& nomObjet, const QString& nomLegende, const QString& texte,
+                           const QString& icone, QWidget* parent);
 /// A text that acts as a link: underlined under the mouse and in focus.
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent);
 /// A square button with an icon alone; the caption is its accessible name and tool tip.
@@ -68,11 +74,20 @@ QLabel* Legende(const QString& nomObjet, const QString& texte, QWidget* parent, 
 /// A white card with rounded corners; lay the group out in it (margins `kMargeCarte`).
 QWidget* Carte(QWidget* parent);
 
+/// The program's name in large letters beside its icon.
+QWidget* Enseigne(QWidget* parent);
+
 /// The window's vertical layout with its margins and the space between groups.
 QVBoxLayout* Fenetre(QWidget* fenetre);
 
+/// The fixed-width font of lists in columns, "Courier New".
+QFont PoliceFixe();
+
 /// First size of a window, held within the screen that it appears on.
 void Dimensionne(QWidget* fenetre, int largeur, int hauteur);
+
+/// The order in which Tab walks through the controls.
+void OrdreTab(std::initializer_list<QWidget*> controles);
 
 /// Accessible name and tool tip in one call; `touche` ("F5") is shown in the tip.
 void Nomme(QWidget* controle, const QString& nom, const QString& touche = {});

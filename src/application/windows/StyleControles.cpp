@@ -11,6 +11,9 @@ namespace application::style {
 
 namespace {
 
+constexpr int kIconeAccueil = 36;
+constexpr int kHauteurAccueil = 84;
+constexpr int kIconeEnseigne = 40;
 constexpr int kEntreIconeEtMot = 5; // added to the style's own gap
 
 QString SansLettre(QString texte)
@@ -72,6 +75,24 @@ QPushButton* BoutonDestructeur(const QString& nomObjet, const QString& texte, co
     return BoutonDuGenre("destructeur", nomObjet, texte, IconeOuRien(icone, Ton::Rouge), parent);
 }
 
+QPushButton* BoutonAccueil(const QString& nomObjet, const QString& nomLegende, const QString& texte,
+                           const QString& icone, QWidget* parent)
+{
+    auto* tuile = BoutonDuGenre("accueil", nomObjet, {}, Icone(icone), parent);
+    tuile->setIconSize({kIconeAccueil, kIconeAccueil});
+    tuile->setMinimumHeight(kHauteurAccueil);
+    auto* legende = BoutonDuGenre("accueilLegende", nomLegende, texte, {}, tuile);
+    legende->setShortcut({});
+    legende->setFocusPolicy(Qt::NoFocus);
+    legende->setAttribute(Qt::WA_TransparentForMouseEvents);
+    tuile->setShortcut(QKeySequence::mnemonic(texte));
+    tuile->setAccessibleName(SansLettre(texte));
+    auto* disposition = new QHBoxLayout(tuile);
+    disposition->setContentsMargins(kIconeAccueil + 2 * 20, 0, kMarge, 0);
+    disposition->addWidget(legende);
+    return tuile;
+}
+
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent)
 {
     auto* lien = BoutonDuGenre("lien", nomObjet, texte, QIcon(), parent);
@@ -109,6 +130,20 @@ QWidget* Carte(QWidget* parent)
     return carte;
 }
 
+QWidget* Enseigne(QWidget* parent)
+{
+    auto* enseigne = new QWidget(parent);
+    auto* disposition = new QHBoxLayout(enseigne);
+    disposition->setContentsMargins(0, 0, 0, 0);
+    disposition->setSpacing(kEntreGroupes);
+    auto* image = new QLabel(enseigne);
+    image->setPixmap(QGuiApplication::windowIcon().pixmap(QSize(kIconeEnseigne, kIconeEnseigne),
+                                                          parent->devicePixelRatioF()));
+    disposition->addWidget(image);
+    disposition->addWidget(Etiquette("enseigne", {}, QStringLiteral("Scriptelle"), enseigne, nullptr), 1);
+    return enseigne;
+}
+
 QVBoxLayout* Fenetre(QWidget* fenetre)
 {
     auto* disposition = new QVBoxLayout(fenetre);
@@ -123,6 +158,17 @@ void Dimensionne(QWidget* fenetre, int largeur, int hauteur)
     const QScreen* ecran =
         fenetre->parentWidget() ? fenetre->parentWidget()->screen() : QGuiApplication::primaryScreen();
     fenetre->resize(QSize(largeur, hauteur).boundedTo(ecran->availableSize() - kBordures));
+}
+
+void OrdreTab(std::initializer_list<QWidget*> controles)
+{
+    QWidget* precedent = nullptr;
+    for (QWidget* controle : controles) {
+        if (precedent) {
+            QWidget::setTabOrder(precedent, controle);
+        }
+        precedent = controle;
+    }
 }
 
 void Nomme(QWidget* controle, const QString& nom, const QString& touche)

@@ -9,7 +9,7 @@ namespace application::style {
 
 namespace {
 
-constexpr std::array kTailles = {18, 27, 36, 54};
+constexpr std::array kTailles = {18, 27, 36, 54, 72};
 
 QString FichierIcone(const QString& nom, int pixels)
 {

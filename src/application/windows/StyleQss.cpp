@@ -24,6 +24,13 @@ QPushButton[genre="destructeur"] { color: @rouge@; }
 QPushButton[genre="destructeur"]:hover { background: @rougeSurvol@; border-color: @rouge@; }
 QPushButton[genre="destructeur"]:focus { border-color: @rouge@; }
 QPushButton[genre="destructeur"]:disabled { color: @eteint@; }
+QPushButton[genre="accueil"] { background: @accueil@; border: 1px solid @encre@; border-radius: 10px; text-align: left;
+    padding: 0 0 0 21px; }
+QPushButton[genre="accueil"]:hover { background: @page@; }
+QPushButton[genre="accueil"]:pressed { background: @filet@; }
+QPushButton[genre="accueil"]:focus { border-width: 2px; padding-left: 20px; }
+QPushButton[genre="accueilLegende"] { background: transparent; border: none; color: @encre@; font-size: 13pt;
+    font-weight: bold; text-align: left; padding: 0; }
 QPushButton[genre="lien"] { background: transparent; border: 1px solid transparent; color: @encre@; padding: 2px 4px;
     min-height: 18px; text-align: left; }
 QPushButton[genre="lien"]:hover { text-decoration: underline; }
@@ -92,6 +99,7 @@ QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; lef
 constexpr QLatin1String kCadres(R"(
 QLabel { background: transparent; }
 QLabel[genre="titre"] { color: @encre@; font-size: 12pt; font-weight: bold; }
+QLabel[genre="enseigne"] { color: @encre@; font-size: 20pt; font-weight: bold; }
 QLabel[genre="legende"] { color: @discret@; }
 QFrame[genre="carte"] { background: @blanc@; border: 1px solid @page@; border-radius: 10px; }
 QTabWidget::pane { background: @blanc@; border: 1px solid @filet@; border-radius: 10px; top: -1px; }
@@ -147,6 +155,7 @@ QString FeuilleDeStyle()
     pose(QLatin1String("@blanc@"), Teinte(Ton::Blanc));
     pose(QLatin1String("@filet@"), Teinte(Ton::Filet));
     pose(QLatin1String("@page@"), Teinte(Ton::Page));
+    pose(QLatin1String("@accueil@"), Teinte(Ton::Accueil));
     pose(QLatin1String("@fond@"), Teinte(Ton::Fond));
     pose(QLatin1String("@encre@"), Teinte(Ton::Encre));
     pose(QLatin1String("@encreSurvol@"), Teinte(Ton::Encre).lighter(120));

@@ -1,13 +1,48 @@
 #include "startup/windows/FrmAPROPOS.h"
 
+#include "application/windows/Style.h"
+#include "outside/Lanceur.h"
+#include "startup/Demarrage.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
 namespace startup {
 
-FrmAPROPOS::FrmAPROPOS(application::Contexte& contexte, application::Fenetres& fenetres)
-    : contexte_(contexte), fenetres_(fenetres)
+namespace style = application::style;
+
+FrmAPROPOS::FrmAPROPOS(application::Contexte& contexte, application::Fenetres&) : contexte_(contexte)
 {
     setObjectName(QStringLiteral("FrmAPROPOS"));
-    Q_UNUSED(contexte_)
-    Q_UNUSED(fenetres_)
+    setWindowTitle(QStringLiteral("A propos de Scriptelle"));
+    auto* carte = style::Carte(this);
+    auto* textes = new QVBoxLayout(carte);
+    textes->addWidget(style::Enseigne(carte));
+    textes->addWidget(
+        style::Legende(QStringLiteral("Lblversion"), QStringLiteral("[Version %1]").arg(Version()), carte));
+    textes->addSpacing(style::kEntreGroupes);
+    textes->addWidget(new QLabel(QStringLiteral("Rédaction des ordonnances du cabinet médical."), carte));
+    textes->addSpacing(style::kEntreGroupes);
+    textes->addWidget(Lien(QStringLiteral("Label1"), QStringLiteral("www.scriptelle.example"),
+                           QStringLiteral("https://www.scriptelle.example/")));
+    textes->addWidget(Lien(QStringLiteral("Label2"), QStringLiteral("contact@scriptelle.example"),
+                           QStringLiteral("mailto:contact@scriptelle.example")));
+    auto* ferme = style::BoutonPrincipal(QStringLiteral("Bouton_VL_XP1"), QStringLiteral("&Fermer"),
+                                         QStringLiteral("x-lg"), this);
+    ferme->setToolTip(QStringLiteral("Fermer cette fenêtre (Échap)"));
+    connect(ferme, &QPushButton::clicked, this, &QDialog::accept);
+    auto* disposition = style::Fenetre(this);
+    disposition->addWidget(carte);
+    disposition->addWidget(ferme, 0, Qt::AlignRight);
+    ferme->setFocus();
+}
+
+QPushButton* FrmAPROPOS::Lien(const QString& nomObjet, const QString& texte, const QString& adresse)
+{
+    auto* lien = style::Lien(nomObjet, texte, this);
+    connect(lien, &QPushButton::clicked, this, [this, adresse] { contexte_.Dehors.Lanceur.Ouvre(adresse); });
+    return lien;
 }
 
 } // namespace startup

@@ -4,8 +4,11 @@
 
 #include <QDialog>
 
+class QPushButton;
+
 namespace startup {
 
+/// The about box: version, web address and mail address.
 class FrmAPROPOS : public QDialog
 {
     Q_OBJECT
@@ -14,8 +17,9 @@ public:
     FrmAPROPOS(application::Contexte& contexte, application::Fenetres& fenetres);
 
 private:
+    QPushButton* Lien(const QString& nomObjet, const QString& texte, const QString& adresse);
+
     application::Contexte& contexte_;
-    application::Fenetres& fenetres_;
 };
 
 } // namespace startup

@@ -1,21 +1,44 @@
 #pragma once
 
 #include "application/windows/Fenetres.h"
+#include "page/windows/PorteDessin.h"
+#include "startup/windows/FondPeint.h"
 
 #include <QDialog>
 
+class QComboBox;
+class QPushButton;
+
 namespace startup {
 
-class FrmChoixBase : public QDialog
+/// The daily choice of storage and doctor. Accepted by `CmdSuite`; everything else ends the program.
+class FrmChoixBase : public QDialog, public page::PorteDessin
 {
     Q_OBJECT
 
 public:
     FrmChoixBase(application::Contexte& contexte, application::Fenetres& fenetres);
 
+    /// Selects a row of `CboBase`, -1 for none, and the doctor of the day in `CboMed`.
+    void Selectionne(int rangStockage);
+
+    const page::Dessin& DessinMontre() const override { return fond_.Dessin(); }
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+
 private:
+    QWidget* CarteDesChoix();
+    QLayout* LigneDesBoutons();
+    void ChoisitBase(int rang);
+    void Suit();
+
     application::Contexte& contexte_;
-    application::Fenetres& fenetres_;
+    FondPeint fond_;
+    QComboBox* CboBase_ = nullptr;
+    QComboBox* CboMed_ = nullptr;
+    QPushButton* CmdSuite_ = nullptr;
 };
 
 } // namespace startup

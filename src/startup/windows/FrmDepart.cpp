@@ -1,13 +1,177 @@
 #include "startup/windows/FrmDepart.h"
 
+#include "application/Signaux.h"
+#include "application/windows/Style.h"
+#include "page/Peintres.h"
+#include "page/Rejeu.h"
+#include "prescription/Editeur.h"
+#include "settings/Reglages.h"
+#include "startup/GestionMedecins.h"
+#include "startup/Medecins.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <algorithm>
+
 namespace startup {
 
+namespace style = application::style;
+
+namespace {
+
+constexpr QSize kPlaceDuLogo(120, 48);
+
+bool AvecTexte(const page::Dessin& dessin)
+{
+    return std::ranges::any_of(
+        dessin.Items, [](const page::Item& item) { return std::holds_alternative<page::ItemTexte>(item); });
+}
+
+} // namespace
+
 FrmDepart::FrmDepart(application::Contexte& contexte, application::Fenetres& fenetres)
-    : contexte_(contexte), fenetres_(fenetres)
+    : contexte_(contexte), fenetres_(fenetres), controles_(this), menus_(this)
 {
     setObjectName(QStringLiteral("FrmDepart"));
-    Q_UNUSED(contexte_)
-    Q_UNUSED(fenetres_)
+    setWindowTitle(QStringLiteral("   Scriptelle"));
+    style::Dimensionne(this, 1040, 660);
+    BrancheControles();
+    BrancheSignaux();
+    MontreMedecins();
+    SuitReglages();
+    RelitLogo();
+}
+
+void FrmDepart::Ouvre()
+{
+    if (!reduite_) {
+        show();
+        activateWindow();
+    } else if (!contexte_.Dehors.Plateau.Present()) {
+        showMinimized();
+    }
+}
+
+void FrmDepart::Reduit()
+{
+    setWindowState(windowState() | Qt::WindowMinimized);
+}
+
+void FrmDepart::Restaure()
+{
+    showNormal();
+    raise();
+    activateWindow();
+}
+
+void FrmDepart::paintEvent(QPaintEvent*)
+{
+    QPainter peintre(this);
+    page::Rejoue(face_, peintre, page::kPixelsParMillimetre);
+}
+
+void FrmDepart::resizeEvent(QResizeEvent* evenement)
+{
+    QWidget::resizeEvent(evenement);
+    if (!isMinimized()) {
+        PeintFace();
+    }
+}
+
+void FrmDepart::changeEvent(QEvent* evenement)
+{
+    QWidget::changeEvent(evenement);
+    if (evenement->type() == QEvent::ActivationChange && isActiveWindow()) {
+        unsetCursor();
+        update();
+        controles_.CboListeMed->setFocus();
+    }
+    if (evenement->type() != QEvent::WindowStateChange) {
+        return;
+    }
+    reduite_ = isMinimized();
+    if (!reduite_) {
+        PeintFace();
+    } else if (contexte_.Dehors.Plateau.Present()) {
+        QTimer::singleShot(0, this, [this] { setVisible(isVisible() && !reduite_); });
+    }
+}
+
+void FrmDepart::closeEvent(QCloseEvent* evenement)
+{
+    evenement->accept();
+    Q_EMIT contexte_.Signaux.FinDemandee();
+}
+
+void FrmDepart::BrancheSignaux()
+{
+    using application::Signaux;
+    connect(&contexte_.Signaux, &Signaux::MedecinsChanges, this, &FrmDepart::MontreMedecins);
+    connect(&contexte_.Signaux, &Signaux::MedecinChange, this, &FrmDepart::RelitLogo);
+    connect(&contexte_.Signaux, &Signaux::ReglagesChanges, this, &FrmDepart::SuitReglages);
+    connect(&contexte_.Signaux, &Signaux::FaceChange, this, &FrmDepart::PeintFace);
+    contexte_.Dehors.Plateau.Ecoute([this](outside::Plateau::Clic clic) { RecoitClic(clic); });
+}
+
+void FrmDepart::MontreMedecins()
+{
+    QComboBox* liste = controles_.CboListeMed;
+    const QSignalBlocker sansChange(liste);
+    liste->clear();
+    for (const Medecin& medecin : contexte_.Medecins.Liste) {
+        liste->addItem(medecin.Nom, medecin.Numero);
+    }
+    liste->setCurrentIndex(contexte_.Medecins.Selection);
+}
+
+void FrmDepart::SuitReglages()
+{
+    const settings::Options& options = contexte_.Reglages.Options;
+    menus_.mnuHauteurN->setEnabled(options.SautPersonnalise == 1);
+    menus_.mnuJournal->setEnabled(options.TenirJournal != 0);
+}
+
+void FrmDepart::RelitLogo()
+{
+    logo_ = prescription::ChargeLogo(contexte_.Reglages.Options);
+    const double densite = devicePixelRatioF();
+    QPixmap image = QPixmap::fromImage(logo_);
+    if (!image.isNull()) {
+        image = image.scaled(kPlaceDuLogo * densite, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        image.setDevicePixelRatio(densite);
+    }
+    controles_.PctLogo->setPixmap(image);
+    PeintFace();
+}
+
+void FrmDepart::PeintFace()
+{
+    page::Surface surface(page::Cible::Depart, width() / page::kPixelsParMillimetre,
+                          height() / page::kPixelsParMillimetre);
+    QList<page::LigneEntete> entete;
+    const page::Modele modele = prescription::ModelePage(contexte_, entete);
+    page::PeintEntete(surface, modele, logo_);
+    face_ = surface.Resultat();
+    controles_.Conseil->setVisible(!AvecTexte(face_));
+    update();
+}
+
+void FrmDepart::RecoitClic(outside::Plateau::Clic clic)
+{
+    if (!reduite_) {
+        return;
+    }
+    if (clic == outside::Plateau::Clic::Gauche) {
+        menus_.mnuOrdonnance->trigger();
+    } else {
+        menus_.mnuInvisible->popup(QCursor::pos());
+    }
 }
 
 } // namespace startup

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "application/Contexte.h"
+
+namespace startup {
+
+/// Opens "Ordo.hlp" of the program directory; says when it is missing or nothing opens it.
+void OuvreAide(application::Contexte& contexte);
+/// The same for "Aide.pdf".
+void OuvreNouvelleAide(application::Contexte& contexte);
+/// Opens the journal of the current doctor; says when there is no doctor or nothing in it yet.
+void OuvreJournal(application::Contexte& contexte);
+
+} // namespace startup

@@ -1,0 +1,31 @@
+#pragma once
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QWidget;
+
+namespace startup {
+
+/// The controls of `FrmDepart`, laid out beside its painted face.
+struct ControlesDepart
+{
+    explicit ControlesDepart(QWidget* fenetre);
+
+    QComboBox* CboListeMed;
+    QLabel* PctLogo;
+    QLabel* Conseil; ///< stands on a face without letterhead
+    QPushButton* CmdNO;
+    QPushButton* CmdMedecins;
+    QPushButton* CmdOptions;
+    QPushButton* CmdOutils;
+    QPushButton* CmdAide;
+    QPushButton* CmdAP;
+    QPushButton* CmdQuitter;
+
+private:
+    QWidget* CarteDuMedecin(QWidget* fenetre);
+    QWidget* CarteDesActions(QWidget* fenetre);
+};
+
+} // namespace startup
