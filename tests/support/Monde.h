@@ -2,6 +2,7 @@
 
 #include "application/Etat.h"
 #include "common/Fichiers.h"
+#include "storage/Schema.h"
 #include "support/BoitesScript.h"
 #include "support/DehorsFeint.h"
 
@@ -34,6 +35,17 @@ struct Monde
 
     /// A path below the directory of this world.
     QString Chemin(const QString& nom) const { return common::Joint(Dossier.path(), nom); }
+
+    /// Leaves the program directory as a fresh installation does: the databases and "BasesInstal".
+    void Installe() const
+    {
+        const QString programme = Etat.Chemins.CheminProgramme;
+        const QString bases = common::Joint(programme, QStringLiteral("BasesInstal"));
+        common::CreeDossier(bases);
+        storage::CreeBase(common::Joint(programme, QStringLiteral("Medoc.mdb")), storage::GenreBase::Medoc);
+        storage::CreeBase(common::Joint(programme, QStringLiteral("Ordo.mdb")), storage::GenreBase::Ordo);
+        storage::CreeBase(common::Joint(bases, QStringLiteral("Ordo.mdb")), storage::GenreBase::Ordo);
+    }
 
     /// Makes the directory of a doctor of `CheminTravail` the current one, with a row in the list.
     void PoseMedecin(const QString& nom = QStringLiteral("DR NEIBRE"))
