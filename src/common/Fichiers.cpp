@@ -219,14 +219,16 @@ void EcritFichier(const QString& chemin, const QByteArray& contenu)
 void AjouteAuFichier(const QString& chemin, const QByteArray& contenu)
 {
     QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadWrite | QIODevice::Append)) {
+    if (!fichier.open(QIODevice::WriteOnly | QIODevice::Append)) {
         EchoueEcriture(fichier, chemin);
     }
     const qint64 avant = fichier.size();
     const bool ecrit = fichier.write(contenu) == contenu.size() && fichier.flush();
     if (!ecrit || !PousseAuDisque(fichier.handle())) {
         const QString cause = Cause(ecrit ? QFileDevice::WriteError : fichier.error());
-        fichier.resize(avant);
+        if (!fichier.isSequential()) {
+            fichier.resize(avant);
+        }
         Echoue(QStringLiteral("d'enregistrer le fichier"), chemin, cause);
     }
 }
@@ -248,7 +250,9 @@ void CopieFichier(const QString& source, const QString& destination)
 void DeplaceFichier(const QString& source, const QString& destination)
 {
     CopieFichier(source, destination);
-    SupprimeFichier(source);
+    if (QFileInfo(source).canonicalFilePath() != QFileInfo(destination).canonicalFilePath()) {
+        SupprimeFichier(source);
+    }
 }
 
 void SupprimeFichier(const QString& chemin)
@@ -292,7 +296,7 @@ void CopieDossier(const QString& source, const QString& destination)
 
 void SupprimeDossier(const QString& chemin)
 {
-    const bool permis = !chemin.isEmpty() && !QDir(chemin).isRoot();
+    const bool permis = !chemin.isEmpty() && !QDir(chemin).isRoot() && !FichierExiste(chemin);
     if (!permis || !QDir(chemin).removeRecursively()) {
         Echoue(QStringLiteral("de supprimer le répertoire"), chemin, QStringLiteral("l'accès est refusé"));
     }

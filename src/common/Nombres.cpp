@@ -4,7 +4,8 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <limits>
+#include <locale>
+#include <sstream>
 
 namespace common {
 
@@ -67,14 +68,14 @@ qsizetype LongueurDuNombre(const QByteArray& texte)
     return fin;
 }
 
-/// The value of a text that is wholly a number, held within what a double can be.
+/// The value of a text that is wholly a number. One too large for a double gives the largest double, which
+/// no other conversion of the standard library does.
 double Valeur(const QByteArray& nombre)
 {
-    bool lu = false;
-    const double valeur = nombre.toDouble(&lu);
-    if (std::isinf(valeur)) {
-        return std::copysign(std::numeric_limits<double>::max(), valeur);
-    }
+    std::istringstream flux(nombre.toStdString());
+    flux.imbue(std::locale::classic());
+    double valeur = 0;
+    flux >> valeur;
     return valeur;
 }
 
