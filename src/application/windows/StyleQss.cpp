@@ -129,7 +129,7 @@ QProgressBar::chunk { background: @encre@; border-radius: 6px; }
 QSplitter::handle { background: transparent; }
 QSplitter::handle:hover { background: @filet@; }
 QScrollArea { border: none; background: transparent; }
-QMessageBox QPushButton, QDialogButtonBox QPushButton { min-width: 84px; }
+QDialogButtonBox QPushButton { min-width: 84px; }
 QCalendarWidget QToolButton { border: none; color: @encre@; padding: 4px 8px; }
 QCalendarWidget QWidget#qt_calendar_navigationbar { background: @fond@; }
 )");

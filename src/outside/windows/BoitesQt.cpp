@@ -64,7 +64,7 @@ std::optional<QString> OuRien(const QString& texte)
     return texte.isEmpty() ? std::nullopt : std::optional(texte);
 }
 
-QFont VersQFont(const page::Police& police)
+QFont VersQt(const page::Police& police)
 {
     QFont resultat(police.Nom);
     resultat.setPointSizeF(qMax(police.Taille, 1.0F));
@@ -74,7 +74,7 @@ QFont VersQFont(const page::Police& police)
     return resultat;
 }
 
-page::Police DepuisQFont(const QFont& police)
+page::Police DepuisQt(const QFont& police)
 {
     return {police.family(), static_cast<float>(police.pointSizeF()), police.bold(), police.italic(),
             police.underline()};
@@ -165,8 +165,8 @@ std::optional<page::Police> BoitesQt::ChoisitPolice(const page::Police& depart)
 {
     bool accepte = false;
     const QFont police =
-        QFontDialog::getFont(&accepte, VersQFont(depart), Dessous(), QStringLiteral("Choisir la police"));
-    return accepte ? std::optional(DepuisQFont(police)) : std::nullopt;
+        QFontDialog::getFont(&accepte, VersQt(depart), Dessous(), QStringLiteral("Choisir la police"));
+    return accepte ? std::optional(DepuisQt(police)) : std::nullopt;
 }
 
 std::optional<page::Couleur> BoitesQt::ChoisitCouleur(page::Couleur depart)
