@@ -54,6 +54,18 @@ QStringList InstructionsDe(GenreBase genre)
     return instructions << QStringLiteral("commit");
 }
 
+/// Runs the statements up to the first that fails.
+QSqlError PremierEchec(const QSqlDatabase& base, const QStringList& instructions)
+{
+    QSqlQuery requete(base);
+    for (const QString& instruction : instructions) {
+        if (!requete.exec(instruction)) {
+            return requete.lastError();
+        }
+    }
+    return {};
+}
+
 /// The only place that opens a file which is not a database yet. A failure names `chemin`, which the draft
 /// is to replace.
 void CreeTables(const QString& ebauche, const QString& chemin, GenreBase genre)
@@ -63,13 +75,7 @@ void CreeTables(const QString& ebauche, const QString& chemin, GenreBase genre)
     {
         QSqlDatabase base = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connexion);
         base.setDatabaseName(ebauche);
-        base.open();
-        QSqlQuery requete(base);
-        for (const QString& instruction : InstructionsDe(genre)) {
-            if (!erreur.isValid() && !requete.exec(instruction)) {
-                erreur = requete.lastError();
-            }
-        }
+        erreur = base.open() ? PremierEchec(base, InstructionsDe(genre)) : base.lastError();
     }
     QSqlDatabase::removeDatabase(connexion);
     if (erreur.isValid()) {

@@ -3,7 +3,9 @@
 // together, and one conversion serves them all.
 #include "storage/Base.h"
 
+#include "storage/Pannes.h"
 #include "storage/Schema.h"
+#include "storage/messages.h"
 
 #include <QSqlQuery>
 
@@ -16,10 +18,21 @@ namespace {
 constexpr int kRangeesParBloc = 8192;
 constexpr QChar kSeparateur(0x1E);
 
-QStringList Cites(const QStringList& colonnes)
+/// The engine takes a quoted name that is no column for a text: only the schema tells them apart.
+bool Connait(const Table& table, const QString& nom)
 {
+    return std::ranges::find(table.Colonnes, nom, &Colonne::Nom) != table.Colonnes.end();
+}
+
+/// The columns as a statement names them.
+QStringList NomsCites(const Base& base, const QString& table, const QStringList& colonnes)
+{
+    const Table* connue = ChercheTable(base.Genre(), table);
     QStringList noms;
     for (const QString& colonne : colonnes) {
+        if (!connue || !Connait(*connue, colonne)) {
+            throw Panne(InstructionRefuseeMessage, base.Chemin());
+        }
         noms.append(Cite(colonne));
     }
     return noms;
@@ -84,7 +97,7 @@ void Distribue(const Bloc& bloc, const Base::LecteurDeTextes& lecteur)
 
 void Base::ParcourtTextes(const QString& table, const QStringList& colonnes, const LecteurDeTextes& lecteur)
 {
-    const QStringList noms = Cites(colonnes);
+    const QStringList noms = NomsCites(*this, table, colonnes);
     QSqlQuery requete = Prepare(SelectDesBlocs(table, noms));
     for (qint64 cle = std::numeric_limits<qint64>::min();;) {
         LieEtLance(requete, {cle});

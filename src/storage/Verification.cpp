@@ -47,6 +47,16 @@ void VerifieMarques(Base& base)
     }
 }
 
+/// The engine takes a last page that was cut for one filled with zeros.
+void VerifieTaille(Base& base)
+{
+    const qint64 pages = LitTexte(base, QStringLiteral("pragma page_count")).toLongLong();
+    const qint64 taille = LitTexte(base, QStringLiteral("pragma page_size")).toLongLong();
+    if (QFileInfo(base.Chemin()).size() < pages * taille) {
+        throw Panne(BaseEndommageeMessage, base.Chemin());
+    }
+}
+
 void VerifieTables(Base& base)
 {
     QHash<QString, QStringList> colonnes;
@@ -87,6 +97,7 @@ void VerifieFichier(const QString& chemin)
 void VerifieContenu(Base& base)
 {
     VerifieMarques(base);
+    VerifieTaille(base);
     VerifieTables(base);
     const bool verifiable = QFileInfo(base.Chemin()).size() <= kTailleVerifiee;
     if (verifiable && LitTexte(base, QStringLiteral("pragma quick_check(1)")) != QLatin1String("ok")) {
