@@ -20,6 +20,7 @@ FrmNouveauP::FrmNouveauP(application::Contexte& contexte, application::Fenetres&
     setWindowTitle(QStringLiteral("       Nouveau patient"));
     Dispose();
     Branche();
+    opt_[kSansCivilite]->setFocus();
 }
 
 void FrmNouveauP::Branche()
@@ -46,6 +47,7 @@ void FrmNouveauP::Remplit(int index, const SaisiePatient& saisie)
     opt_[kSansCivilite]->setAutoExclusive(true);
     if (saisie.Option >= 0) {
         opt_[size_t(saisie.Option)]->setChecked(true);
+        opt_[size_t(saisie.Option)]->setFocus();
     }
     txt_[0]->setText(saisie.Nom);
     txt_[1]->setText(saisie.Prenom);
