@@ -33,6 +33,11 @@ inline QString LignesHorsDeLaFeuille(int nombre)
     return debut + QStringLiteral("\n\nImprimer quand même ?");
 }
 
+inline QString Deborde()
+{
+    return QStringLiteral("L'ordonnance dépasse le bas de la feuille");
+}
+
 inline QString ImpressionEchouee(const QString& imprimante, const QString& cause)
 {
     return QStringLiteral("L'impression sur « %1 » a échoué.\n%2").arg(imprimante, cause);

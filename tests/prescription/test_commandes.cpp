@@ -2,7 +2,7 @@
 #include "prescription/Editeur.h"
 #include "prescription/messages.h"
 
-#include "Cabinet.h"
+#include "support/Cabinet.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -4,7 +4,7 @@
 #include "prescription/Journal.h"
 #include "prescription/messages.h"
 
-#include "Cabinet.h"
+#include "support/Cabinet.h"
 
 #include <QDir>
 #include <QTest>

@@ -60,6 +60,8 @@ QPushButton* BoutonDestructeur(const QString& nomObjet, const QString& texte, co
 /// `texte` bears the Alt letter of the tile.
 QPushButton* BoutonAccueil(const QString& nomObjet, const QString& nomLegende, const QString& texte,
                            const QString& icone, QWidget* parent);
+/// Icon and caption at the left, for buttons that stand in a column. Before the button is first shown.
+void AligneAGauche(QPushButton* bouton);
 /// A text that acts as a link: underlined under the mouse and in focus.
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent);
 /// A square button with an icon alone; the caption is its accessible name and tool tip.
@@ -70,6 +72,9 @@ QToolButton* BoutonIcone(const QString& nomObjet, const QString& texte, const QS
 QLabel* Titre(const QString& nomObjet, const QString& texte, QWidget* parent, QWidget* compagnon = nullptr);
 /// A text in the quiet colour: a caption, a unit, a hint; `compagnon` takes its Alt letter.
 QLabel* Legende(const QString& nomObjet, const QString& texte, QWidget* parent, QWidget* compagnon = nullptr);
+
+/// A warning in red: something is about to be lost or refused.
+QLabel* Avertissement(const QString& nomObjet, const QString& texte, QWidget* parent);
 
 /// A white card with rounded corners; lay the group out in it (margins `kMargeCarte`).
 QWidget* Carte(QWidget* parent);

@@ -93,6 +93,11 @@ QPushButton* BoutonAccueil(const QString& nomObjet, const QString& nomLegende, c
     return tuile;
 }
 
+void AligneAGauche(QPushButton* bouton)
+{
+    bouton->setProperty("alignement", QStringLiteral("gauche"));
+}
+
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent)
 {
     auto* lien = BoutonDuGenre("lien", nomObjet, texte, QIcon(), parent);
@@ -121,6 +126,11 @@ QLabel* Titre(const QString& nomObjet, const QString& texte, QWidget* parent, QW
 QLabel* Legende(const QString& nomObjet, const QString& texte, QWidget* parent, QWidget* compagnon)
 {
     return Etiquette("legende", nomObjet, texte, parent, compagnon);
+}
+
+QLabel* Avertissement(const QString& nomObjet, const QString& texte, QWidget* parent)
+{
+    return Etiquette("avertissement", nomObjet, texte, parent, nullptr);
 }
 
 QWidget* Carte(QWidget* parent)

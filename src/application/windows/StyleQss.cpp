@@ -35,6 +35,7 @@ QPushButton[genre="lien"] { background: transparent; border: 1px solid transpare
     min-height: 18px; text-align: left; }
 QPushButton[genre="lien"]:hover { text-decoration: underline; }
 QPushButton[genre="lien"]:focus { border: 1px solid @encre@; text-decoration: underline; }
+QPushButton[alignement="gauche"] { text-align: left; }
 QPushButton::menu-indicator { image: url(:/indicateurs/chevron-down-034ba2.png); subcontrol-position: right center;
     subcontrol-origin: padding; right: 8px; width: 12px; height: 12px; }
 QToolButton { background: @blanc@; border: 1px solid @filet@; border-radius: 6px; padding: 6px; }
@@ -100,6 +101,7 @@ constexpr QLatin1String kCadres(R"(
 QLabel { background: transparent; }
 QLabel[genre="titre"] { color: @encre@; font-size: 12pt; font-weight: bold; }
 QLabel[genre="enseigne"] { color: @encre@; font-size: 20pt; font-weight: bold; }
+QLabel[genre="avertissement"] { color: @rouge@; font-weight: bold; }
 QLabel[genre="legende"] { color: @discret@; }
 QFrame[genre="carte"] { background: @blanc@; border: 1px solid @page@; border-radius: 10px; }
 QTabWidget::pane { background: @blanc@; border: 1px solid @filet@; border-radius: 10px; top: -1px; }

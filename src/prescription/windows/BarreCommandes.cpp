@@ -56,6 +56,9 @@ QPushButton* BarreCommandes::CreeBouton(const Commande& commande, QWidget* carte
     QPushButton* bouton = commande.Groupe == Groupe::Papier
                               ? style::BoutonPrincipal(commande.Nom, texte, commande.Icone, carte)
                               : style::Bouton(commande.Nom, texte, commande.Icone, carte);
+    if (sens_ == Qt::Vertical) {
+        style::AligneAGauche(bouton);
+    }
     style::Nomme(bouton, commande.Bulle, commande.Touche.toString(QKeySequence::NativeText));
     if (commande.Action) {
         connect(bouton, &QPushButton::clicked, this, [action = commande.Action] { action(); });

@@ -71,6 +71,7 @@ private:
     QWidget* PctMemo_ = nullptr;
     QLabel* ImgMemo_ = nullptr;
     QLabel* titreMemo_ = nullptr;
+    QLabel* deborde_ = nullptr;
     QCheckBox* ChkCiv_ = nullptr;
     QComboBox* CboMed_ = nullptr;
     VueFeuille* vue_;

@@ -5,6 +5,7 @@
 #include "prescription/Commandes.h"
 #include "prescription/Editeur.h"
 #include "prescription/Ordonnance.h"
+#include "prescription/messages.h"
 #include "prescription/windows/BarreCommandes.h"
 #include "prescription/windows/FrmOrdo.h"
 #include "prescription/windows/VueFeuille.h"
@@ -137,6 +138,8 @@ QWidget* FrmOrdo::CreeEntete()
     rangee->setContentsMargins({});
     rangee->setSpacing(style::kEntreGroupes);
     rangee->addWidget(PctMemo_);
+    deborde_ = style::Avertissement(QStringLiteral("LblDeborde"), messages::Deborde(), entete);
+    rangee->addWidget(deborde_);
     rangee->addStretch();
     rangee->addWidget(ChkCiv_);
     rangee->addWidget(
@@ -176,7 +179,9 @@ void FrmOrdo::SuitReglages()
 
 void FrmOrdo::SuitApercu()
 {
-    vue_->Montre(contexte_.Apercu.PctOrdo, BasDeLaFeuille(contexte_));
+    const double bas = BasDeLaFeuille(contexte_);
+    vue_->Montre(contexte_.Apercu.PctOrdo, bas);
+    deborde_->setVisible(bas > 0);
 }
 
 void FrmOrdo::SuitOrdonnance()

@@ -37,7 +37,7 @@ FrmOptions::FrmOptions(application::Contexte& contexte, application::Fenetres& f
     page->addWidget(TS_);
     page->addWidget(cadres_, 1);
     AjouteOnglet(imprimantes_);
-    style::Dimensionne(this, 620, 400);
+    style::Dimensionne(this, 620, 340);
     connect(TS_, &QTabBar::currentChanged, this, &FrmOptions::MontreCadre);
     connect(TS_, &QTabBar::tabBarClicked, this, [this] { CmdFoc_->setFocus(); });
     MontreCadre(0);
