@@ -54,11 +54,6 @@ inline QString JournalNonEcrit(const QString& cause)
         .arg(cause);
 }
 
-inline QString AideIntrouvable(const QString& fichier)
-{
-    return QStringLiteral("Le fichier d'aide ne peut pas être ouvert.\n%1").arg(fichier);
-}
-
 inline QString NomDeJournalRefuse(const QString& nom)
 {
     return QStringLiteral("« %1 » ne peut pas servir de nom de fichier.").arg(nom);

@@ -1,6 +1,7 @@
 #include "prescription/windows/BarreCommandes.h"
 
 #include "application/windows/Style.h"
+#include "startup/messagesDepart.h"
 
 #include <QBoxLayout>
 #include <QPushButton>
@@ -8,15 +9,6 @@
 namespace prescription {
 
 namespace style = application::style;
-
-namespace {
-
-QString Indisponible()
-{
-    return QStringLiteral("Disponible dans une prochaine version");
-}
-
-} // namespace
 
 BarreCommandes::BarreCommandes(const QString& nomObjet, Qt::Orientation sens,
                                const QList<Commande>& commandes, QWidget* parent)
@@ -64,7 +56,7 @@ QPushButton* BarreCommandes::CreeBouton(const Commande& commande, QWidget* carte
         connect(bouton, &QPushButton::clicked, this, [action = commande.Action] { action(); });
     } else {
         bouton->setEnabled(false);
-        bouton->setToolTip(Indisponible());
+        bouton->setToolTip(startup::messages::ProchaineVersion());
     }
     return bouton;
 }

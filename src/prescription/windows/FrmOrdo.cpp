@@ -1,18 +1,13 @@
 #include "prescription/windows/FrmOrdo.h"
 
 #include "application/Signaux.h"
-#include "application/windows/Style.h"
-#include "common/Fichiers.h"
 #include "medication/windows/FrmMedoc.h"
-#include "outside/Boites.h"
-#include "outside/Lanceur.h"
 #include "outside/Plateau.h"
 #include "patients/windows/FrmPatient.h"
 #include "prescription/Apercu.h"
 #include "prescription/Commandes.h"
 #include "prescription/Editeur.h"
 #include "prescription/Impression.h"
-#include "prescription/messages.h"
 #include "prescription/windows/BarreCommandes.h"
 #include "prescription/windows/VueFeuille.h"
 #include "settings/Reglages.h"
@@ -124,10 +119,7 @@ void FrmOrdo::Imprime()
 void FrmOrdo::Accueil()
 {
     hide();
-    auto& depart = fenetres_.Donne<startup::FrmDepart>();
-    depart.showNormal();
-    depart.raise();
-    depart.activateWindow();
+    fenetres_.Donne<startup::FrmDepart>().Restaure();
 }
 
 void FrmOrdo::MontreAide()
@@ -146,14 +138,6 @@ void FrmOrdo::OuvreOptions()
 void FrmOrdo::APropos()
 {
     fenetres_.Donne<startup::FrmAPROPOS>().exec();
-}
-
-void FrmOrdo::OuvreFichierAide(const QString& nom)
-{
-    const QString fichier = common::Joint(contexte_.Chemins.CheminProgramme, nom);
-    if (!contexte_.Dehors.Lanceur.Ouvre(fichier)) {
-        contexte_.Dehors.Boites.Stop(messages::AideIntrouvable(common::CheminAffiche(fichier)));
-    }
 }
 
 bool FrmOrdo::event(QEvent* evenement)
@@ -189,6 +173,7 @@ void FrmOrdo::SuitReduction()
         showMaximized();
     } else if (contexte_.Dehors.Plateau.Present()) {
         hide();
+        setWindowState(windowState() & ~Qt::WindowMinimized);
     }
 }
 

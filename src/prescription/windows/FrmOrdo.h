@@ -53,7 +53,6 @@ private:
     void MontreAide();
     void OuvreOptions();
     void APropos();
-    void OuvreFichierAide(const QString& nom);
 
     void SuitMedecins();
     void SuitReglages();

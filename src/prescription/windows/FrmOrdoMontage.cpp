@@ -1,6 +1,4 @@
 #include "application/windows/Style.h"
-#include "outside/Boites.h"
-#include "outside/Plateau.h"
 #include "prescription/Apercu.h"
 #include "prescription/Commandes.h"
 #include "prescription/Editeur.h"
@@ -10,7 +8,7 @@
 #include "prescription/windows/FrmOrdo.h"
 #include "prescription/windows/VueFeuille.h"
 #include "settings/Reglages.h"
-#include "startup/GestionMedecins.h"
+#include "startup/Documents.h"
 #include "startup/Medecins.h"
 
 #include <QCheckBox>
@@ -89,8 +87,8 @@ ActionsMenus FrmOrdo::ActionsDesMenus()
     return {.Options = [this] { OuvreOptions(); },
             .HauteurN = [this] { RetablitHauteurNormale(contexte_); },
             .HauteurP = [this] { FixeHauteurPersonnelle(contexte_); },
-            .AideAncienne = [this] { OuvreFichierAide(QStringLiteral("Ordo.hlp")); },
-            .AideNouvelle = [this] { OuvreFichierAide(QStringLiteral("Aide.pdf")); },
+            .AideAncienne = [this] { startup::OuvreAide(contexte_); },
+            .AideNouvelle = [this] { startup::OuvreNouvelleAide(contexte_); },
             .APropos = [this] { APropos(); },
             .Minimise = [this] { showMinimized(); },
             .Quitte = [this] { close(); }};
