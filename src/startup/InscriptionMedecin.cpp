@@ -23,6 +23,11 @@ void CreeDossierDArbre(const Chemins& chemins, const QString& racine, const QStr
     }
 }
 
+QString SansTrait(QString nom)
+{
+    return nom.replace(QLatin1Char('-'), QLatin1Char(' ')).trimmed();
+}
+
 } // namespace
 
 QString NomEnMajuscules(const QString& saisie)
@@ -32,19 +37,18 @@ QString NomEnMajuscules(const QString& saisie)
 
 bool FormatMedecinJuste(const QString& nom)
 {
-    return nom.startsWith(QLatin1String("DR ")) && !nom.mid(3).trimmed().isEmpty() &&
-           nom.size() <= kLongueurMaximum && common::NomDeFichierSur(nom) && common::TientEnWindows1252(nom);
+    const QString inscrit = SansTrait(nom);
+    return nom.startsWith(QLatin1String("DR ")) && inscrit.size() > 3 && inscrit.size() <= kLongueurMaximum &&
+           common::NomDeFichierSur(inscrit) && common::TientEnWindows1252(inscrit);
 }
 
 QString NomSansTrait(outside::Boites& boites, const QString& nom)
 {
-    if (!nom.contains(QLatin1Char('-'))) {
-        return nom;
+    const QString inscrit = SansTrait(nom);
+    if (inscrit != nom) {
+        boites.Information(messages::TraitUnion(inscrit));
     }
-    QString propre = nom;
-    propre = propre.replace(QLatin1Char('-'), QLatin1Char(' ')).trimmed();
-    boites.Information(messages::TraitUnion(propre));
-    return propre;
+    return inscrit;
 }
 
 QString CreeDossierMedecin(outside::Boites& boites, const Chemins& chemins, const QString& racine,

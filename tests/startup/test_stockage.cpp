@@ -1,26 +1,14 @@
+#include "MondeStockage.h"
 #include "outside/Boites.h"
-#include "startup/DialoguesStockage.h"
-#include "startup/FichiersChemins.h"
-#include "support/Monde.h"
 
 #include <QTest>
 
 using namespace startup;
 using common::Joint;
 using outside::Bouton;
-using support::Monde;
 
 namespace {
 
-const char* const kUtilisateur =
-    "         Sélectionnez le répertoire où seront enregistrées les données du programme sur le disque dur "
-    "de votre "
-    "ordinateur.\n\nCe répertoire doit être celui qui porte  \"VOTRE NOM D' UTILISATEUR\",   et dont "
-    "l'emplacement diffère selon les versions de Windows :\n\n- Dans \"Documents And settings\" sous XP\n- "
-    "Dans "
-    "\"Utilisateurs ou Users\" pour les versions ultérieures (Seven, 8, 10)";
-const char* const kTitreUtilisateur = "Sélectionnez uniquement le répertoire à votre NOM D'UTILISATEUR";
-const char* const kObligatoire = "Ce renseignement est obligatoire ; voulez-vous continuer ?";
 const char* const kSupport =
     "\nVous avez choisi de travailler avec vos données enregistrées sur un support externe (par "
     "exemple : clef USB),\n\nDésignez UNIQUEMENT le LECTEUR (ou le SUPPORT) choisi.\n\n";
@@ -42,14 +30,6 @@ const char* const kCreer =
 const char* const kRefaireRepertoire = "Vous devez faire le choix du répertoire, ou bien vous allez "
                                        "travailler avec les données enregistrées sur votre "
                                        "disque.\n\nVoulez-vous refaire le choix du répertoire ?";
-const char* const kInenregistrable = "Le nom de ce répertoire contient des caractères que le programme ne "
-                                     "peut pas enregistrer.\nChoisissez un "
-                                     "autre répertoire.";
-
-QString T(const char* texte)
-{
-    return QString::fromUtf8(texte);
-}
 
 void AttendTransfertAFaire(support::BoitesScript& boites)
 {
@@ -73,38 +53,6 @@ void AttendTransfertPasFait(support::BoitesScript& boites)
             T("Dans cette attente, vous allez travailler avec les données enregistrées sur votre disque."));
 }
 
-/// A world whose storage is settled, with the path files' directory.
-struct MondeStockage : Monde
-{
-    explicit MondeStockage(quint8 type)
-    {
-        common::CreeDossier(Etat.Chemins.CheminInstallation);
-        common::CreeDossier(Etat.Chemins.CheminData);
-        Etat.Chemins.TypeStockage = type;
-        Etat.Chemins.CheminTravail.clear();
-        Etat.Chemins.IndexStockage = static_cast<quint8>(type - 1);
-    }
-
-    QString CheminBaseCfg() const
-    {
-        return Joint(Etat.Chemins.CheminInstallation, QStringLiteral("CheminBase.cfg"));
-    }
-
-    /// A directory below this world, made, with a file in it when `nom` is given.
-    QString Fait(const QString& dossier, const QString& nom = {}) const
-    {
-        common::CreeDossier(Chemin(dossier));
-        if (!nom.isEmpty()) {
-            common::EcritFichier(Joint(Chemin(dossier), nom), "x");
-        }
-        return Chemin(dossier);
-    }
-
-    void Regle() { RegleCheminTravail(Contexte); }
-    QString Travail() const { return Etat.Chemins.CheminTravail; }
-    QString Data() const { return Etat.Chemins.CheminData; }
-};
-
 } // namespace
 
 class TestStockage : public QObject
@@ -112,12 +60,6 @@ class TestStockage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void premierDemarrage();
-    void premierDemarrageRepris();
-    void premierDemarrageAbandonne();
-    void premierDemarrageNomInenregistrable();
-    void fichierCheminData();
-    void fichierCheminBase();
     void disque();
     void supportPret();
     void supportAbandonne();
@@ -134,102 +76,6 @@ private Q_SLOTS:
     void serveurCree();
     void serveurCreationAbandonnee();
 };
-
-void TestStockage::premierDemarrage()
-{
-    MondeStockage monde(1);
-    monde.Etat.Chemins.CheminData.clear();
-    const QString utilisateur = monde.Fait(QStringLiteral("neibre"));
-    monde.Boites.AttendInformation(T(kUtilisateur)).AttendDossier(T(kTitreUtilisateur), utilisateur);
-    QVERIFY(DemandeCheminData(monde.Contexte));
-    const QString arbre = utilisateur + QStringLiteral("/DataVelmont/DataScriptelle");
-    QCOMPARE(monde.Data(), arbre);
-    QVERIFY(common::DossierExiste(arbre));
-#ifdef Q_OS_UNIX
-    const auto autres =
-        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
-    QVERIFY(!(QFile::permissions(arbre) & autres));
-    QVERIFY(!(QFile::permissions(utilisateur + QStringLiteral("/DataVelmont")) & autres));
-#endif
-    QCOMPARE(
-        common::LitFichier(Joint(monde.Etat.Chemins.CheminInstallation, QStringLiteral("CheminData.cfg"))),
-        '"' + common::CheminAffiche(arbre).toLatin1() + "\"\r\n");
-}
-
-void TestStockage::premierDemarrageRepris()
-{
-    MondeStockage monde(1);
-    const QString utilisateur = monde.Fait(QStringLiteral("neibre"));
-    monde.Boites.AttendInformation(T(kUtilisateur))
-        .AttendDossier(T(kTitreUtilisateur), std::nullopt)
-        .AttendQuestion(T(kObligatoire), Bouton::Oui)
-        .AttendDossier(T(kTitreUtilisateur), utilisateur);
-    QVERIFY(DemandeCheminData(monde.Contexte));
-}
-
-void TestStockage::premierDemarrageAbandonne()
-{
-    MondeStockage monde(1);
-    monde.Boites.AttendInformation(T(kUtilisateur))
-        .AttendDossier(T(kTitreUtilisateur), std::nullopt)
-        .AttendQuestion(T(kObligatoire), Bouton::Non)
-        .AttendStop(T("Lancement du programme interrompu par défaut de renseignement !"));
-    QVERIFY(!DemandeCheminData(monde.Contexte));
-    QVERIFY(!common::FichierExiste(
-        Joint(monde.Etat.Chemins.CheminInstallation, QStringLiteral("CheminData.cfg"))));
-}
-
-void TestStockage::premierDemarrageNomInenregistrable()
-{
-    MondeStockage monde(1);
-    const QString utilisateur = monde.Fait(QStringLiteral("neibre"));
-    monde.Boites.AttendInformation(T(kUtilisateur))
-        .AttendDossier(T(kTitreUtilisateur), monde.Fait(QStringLiteral("Łukasz")))
-        .AttendInformation(T(kInenregistrable))
-        .AttendDossier(T(kTitreUtilisateur), utilisateur);
-    QVERIFY(DemandeCheminData(monde.Contexte));
-    QVERIFY(monde.Data().startsWith(utilisateur));
-}
-
-void TestStockage::fichierCheminData()
-{
-    MondeStockage monde(1);
-    Chemins& chemins = monde.Etat.Chemins;
-    const QString fichier = Joint(chemins.CheminInstallation, QStringLiteral("CheminData.cfg"));
-    const QString arbre = chemins.CheminData;
-    EcritCheminData(chemins);
-    chemins.CheminData.clear();
-    LitCheminData(chemins);
-    QCOMPARE(chemins.CheminData, arbre);
-
-    for (const QByteArray& abime : {QByteArray("\"ouvert"), QByteArray("\"a\"\r\n\0", 6), QByteArray()}) {
-        common::EcritFichier(fichier, abime);
-        LitCheminData(chemins);
-        QCOMPARE(chemins.CheminData, QString());
-        EcritCheminData(chemins);
-        QCOMPARE(common::LitFichier(fichier + QStringLiteral(".abime")), abime);
-    }
-}
-
-void TestStockage::fichierCheminBase()
-{
-    MondeStockage monde(3);
-    Chemins& chemins = monde.Etat.Chemins;
-    Medecins& medecins = monde.Etat.Medecins;
-    chemins.IndexStockage = 0;
-    EcritCheminBase(chemins, medecins);
-    QCOMPARE(common::LitFichier(monde.CheminBaseCfg()), QByteArray("0,\"\",1\r\n"));
-    common::EcritFichier(monde.CheminBaseCfg(), "2,\"/srv/DataScriptelle\",4\r\n");
-    QCOMPARE(static_cast<int>(LitCheminBase(chemins, medecins)),
-             static_cast<int>(settings::Lecture::Complete));
-    QCOMPARE(int(chemins.IndexStockage), 2);
-    QCOMPARE(chemins.CheminBase, QStringLiteral("/srv/DataScriptelle"));
-    QCOMPARE(int(medecins.NumMedecinDefaut), 4);
-    common::EcritFichier(monde.CheminBaseCfg(), "1\r\n");
-    LitCheminBase(chemins, medecins);
-    QCOMPARE(int(chemins.IndexStockage), 1);
-    QCOMPARE(int(medecins.NumMedecinDefaut), 4);
-}
 
 void TestStockage::disque()
 {
