@@ -1,0 +1,21 @@
+#pragma once
+
+#include "scenario/Controles.h"
+
+namespace scenario {
+
+// What a hand does with the keyboard. Each runs in the window thread and throws `Echec`.
+
+/// Gives the focus as Tab would.
+void DonneFocus(const Controle& controle);
+
+/// Types one character at the caret.
+void TapeCaractere(const Controle& controle, QChar caractere);
+
+/// Replaces the whole text at once.
+void Saisit(const Controle& controle, const QString& texte);
+
+/// One key by its French name, "Entree", "Ctrl+V", "F5".
+void TapeTouche(const Controle& controle, const QString& nom);
+
+} // namespace scenario

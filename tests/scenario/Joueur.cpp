@@ -1,0 +1,106 @@
+#include "scenario/Joueur.h"
+
+#include "application/windows/ApplicationQt.h"
+#include "scenario/Bureau.h"
+#include "scenario/Fichiers.h"
+#include "scenario/Langage.h"
+#include "scenario/Surveillance.h"
+
+#include <QLocale>
+#include <QThread>
+#include <cstdio>
+#include <cstdlib>
+
+namespace scenario {
+
+namespace {
+
+/// What no handler caught goes to the program under test, of every start.
+void TendFilet(application::ApplicationQt& boucle, Session& session)
+{
+    boucle.SurErreur([&](const QString& phrase, const QString& lieu) {
+        session.ErreurNonGardee(phrase, lieu);
+        TendFilet(boucle, session);
+    });
+}
+
+/// A screen of the smallest size that the program is made for, 96 dots an inch.
+void PrepareEcran(const Monde& monde)
+{
+    const QByteArray plateforme = qgetenv("QT_QPA_PLATFORM");
+    if (!plateforme.isEmpty() && plateforme != "offscreen") {
+        return;
+    }
+    const QString chemin = monde.Maison() + QStringLiteral("/ecran.json");
+    Ecrit(chemin, R"({"screens": [{"name": "ecran", "x": 0, "y": 0, "width": 1366, "height": 768,
+ "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + chemin.toLocal8Bit());
+}
+
+/// Drops what the offscreen platform says of itself.
+void Note(QtMsgType, const QMessageLogContext&, const QString& texte)
+{
+    if (!texte.startsWith(QLatin1String("This plugin does not support"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(texte));
+    }
+}
+
+void Conclut(Session& session, Rapport& rapport)
+{
+    rapport.Termine();
+    if (QThread::currentThread()->loopLevel() > 1 || session.Boites.Ouverte()) {
+        std::_Exit(0); // a modal window is still open: its handler cannot return any more
+    }
+    QCoreApplication::exit(0);
+}
+
+int JoueUn(const Commande& commande, int argc, char** argv, Fabrique& fabrique)
+{
+    const Monde monde(commande.Monde);
+    qInstallMessageHandler(Note);
+    PrepareEcran(monde);
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    application::ApplicationQt application(argc, argv);
+    application.setQuitOnLastWindowClosed(false);
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+    QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
+    fabrique.Prepare(application);
+
+    Session session(monde, commande.Sortie, fabrique);
+    TendFilet(application, session);
+    Bureau bureau;
+    Relais relais;
+    Rapport rapport(commande.Fichiers.first());
+    const std::unique_ptr<QThread> fil(QThread::create([&] {
+        Langage langage(session, relais, rapport);
+        langage.Joue(commande.Fichiers.first());
+    }));
+    QObject::connect(fil.get(), &QThread::finished, &relais, [&] { Conclut(session, rapport); });
+    fil->start();
+    const int code = QApplication::exec();
+    fil->wait();
+    return code;
+}
+
+} // namespace
+
+int Principal(int argc, char** argv, Fabrique& fabrique)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    QString faute;
+    const std::optional<Commande> commande = LitCommande(arguments, faute);
+    if (!commande) {
+        std::fprintf(stderr, "%s\n", qPrintable(faute));
+        return 2;
+    }
+    if (commande->Un) {
+        return JoueUn(*commande, argc, argv, fabrique);
+    }
+    QCoreApplication application(argc, argv);
+    return Surveille(*commande);
+}
+
+} // namespace scenario

@@ -1,0 +1,75 @@
+#include "scenario/Session.h"
+
+#include "scenario/Echec.h"
+
+#include <QThread>
+#include <QTimer>
+
+namespace scenario {
+
+Session::Session(scenario::Monde monde, QString sortie, scenario::Fabrique& fabrique)
+    : Monde(std::move(monde)), Sortie(std::move(sortie)), Fabrique(fabrique),
+      Imprimantes(Horloge, Lanceur, Boites)
+{}
+
+Session::~Session() = default;
+
+void Session::Lance()
+{
+    if (programme_ && !fini_) {
+        throw Echec{QStringLiteral("le programme est déjà lancé")};
+    }
+    programme_.reset();
+    fini_ = false;
+    programme_ =
+        Fabrique.Fait({Boites, Imprimantes, Horloge, Plateau, Demarrage, Lanceur}, Monde.Programme());
+    connect(programme_.get(), &Programme::Termine, this, [this] {
+        fini_ = true;
+        Libere();
+    });
+    programme_->Demarre();
+}
+
+Programme& Session::EnCours() const
+{
+    if (!programme_ && !fini_) {
+        throw Echec{QStringLiteral("le programme n'est pas lancé")};
+    }
+    if (fini_) {
+        throw Echec{QStringLiteral("le programme est terminé")};
+    }
+    return *programme_;
+}
+
+bool Session::ConstateFin()
+{
+    if (fini_) {
+        accident_.clear();
+    }
+    return fini_;
+}
+
+void Session::ErreurNonGardee(const QString& phrase, const QString& lieu)
+{
+    accident_ = lieu.isEmpty() ? phrase : QStringLiteral("%1 (%2)").arg(phrase, lieu);
+    if (programme_ && !fini_) {
+        programme_->ArreteSurErreur(phrase, lieu);
+    }
+}
+
+/// Deletes an ended program once the outermost loop is back in control.
+void Session::Libere()
+{
+    QTimer::singleShot(5, this, [this] {
+        if (!fini_) {
+            return;
+        }
+        if (QThread::currentThread()->loopLevel() > 1) {
+            Libere();
+        } else {
+            programme_.reset();
+        }
+    });
+}
+
+} // namespace scenario

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "scenario/BoitesScenario.h"
+#include "scenario/Bords.h"
+#include "scenario/ImprimantesScenario.h"
+#include "scenario/Monde.h"
+#include "scenario/Programme.h"
+
+namespace scenario {
+
+/// The program under test in its world, with the outer edge that the script scripts. It lives in the window
+/// thread and is only touched there.
+class Session : public QObject
+{
+    Q_OBJECT
+
+public:
+    Session(scenario::Monde monde, QString sortie, scenario::Fabrique& fabrique);
+    ~Session() override;
+
+    /// Starts the program anew. Throws `Echec` while one runs.
+    void Lance();
+    /// The running program. Throws `Echec` when none was started or when it has ended.
+    Programme& EnCours() const;
+    /// True when a program was started and has ended; the script knows of it then.
+    bool ConstateFin();
+    /// A failure that no handler caught. The program is told; an end that the script does not notice counts.
+    void ErreurNonGardee(const QString& phrase, const QString& lieu);
+    /// What ended the program before its time; empty when nothing did.
+    const QString& Accident() const { return accident_; }
+
+    scenario::Monde Monde;
+    /// Where screenshots and PDF files go.
+    QString Sortie;
+    scenario::Fabrique& Fabrique;
+    HorlogeScenario Horloge;
+    PlateauScenario Plateau;
+    DemarrageScenario Demarrage;
+    LanceurScenario Lanceur;
+    BoitesScenario Boites;
+    ImprimantesScenario Imprimantes;
+
+private:
+    void Libere();
+
+    std::unique_ptr<Programme> programme_;
+    bool fini_ = false;
+    QString accident_;
+};
+
+} // namespace scenario

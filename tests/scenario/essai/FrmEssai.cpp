@@ -1,0 +1,251 @@
+#include "scenario/essai/FrmEssai.h"
+
+#include "common/Erreur.h"
+#include "outside/Boites.h"
+#include "outside/Horloge.h"
+#include "outside/Imprimantes.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <cstdlib>
+
+namespace scenario {
+
+namespace {
+
+/// A line that tells when it is left.
+class Champ : public QLineEdit
+{
+public:
+    std::function<void()> Quitte;
+
+protected:
+    void focusOutEvent(QFocusEvent* evenement) override
+    {
+        QLineEdit::focusOutEvent(evenement);
+        if (Quitte && evenement->reason() != Qt::ActiveWindowFocusReason) {
+            Quitte();
+        }
+    }
+};
+
+/// A list that tells where a drag from it ends.
+class ListeGlissee : public QListWidget
+{
+public:
+    std::function<void(const QString&)> Depose;
+
+protected:
+    void mousePressEvent(QMouseEvent* evenement) override
+    {
+        QListWidget::mousePressEvent(evenement);
+        prise_ = currentItem()->text();
+    }
+    void mouseReleaseEvent(QMouseEvent* evenement) override
+    {
+        QListWidget::mouseReleaseEvent(evenement);
+        const QWidget* sous = window()->childAt(viewport()->mapTo(window(), evenement->pos()));
+        if (Depose && sous && sous != viewport()) {
+            Depose(prise_ + QStringLiteral(" sur ") + sous->objectName());
+        }
+    }
+
+private:
+    QString prise_;
+};
+
+class Surface : public QWidget, public page::PorteDessin
+{
+public:
+    Surface()
+    {
+        page::ItemTexte texte;
+        texte.Texte = QStringLiteral("bonjour");
+        texte.X = 10;
+        texte.Y = 20;
+        page::ItemTrait trait;
+        trait.X2 = 3;
+        trait.Epaisseur = 2;
+        dessin_.Items = {texte, trait};
+    }
+    const page::Dessin& DessinMontre() const override { return dessin_; }
+
+private:
+    page::Dessin dessin_;
+};
+
+} // namespace
+
+FrmEssai::FrmEssai(const application::Dehors& dehors) : dehors_(dehors)
+{
+    setObjectName(QStringLiteral("FrmEssai"));
+    setWindowTitle(QStringLiteral("   Essai"));
+    trace_ = new QLabel(this);
+    trace_->setObjectName(QStringLiteral("LblTrace"));
+    auto* disposition = new QVBoxLayout(this);
+    disposition->addWidget(trace_);
+    disposition->addWidget(Champs());
+    disposition->addWidget(Listes());
+    disposition->addWidget(Boutons());
+}
+
+QWidget* FrmEssai::Champs()
+{
+    auto* parent = new QWidget;
+    auto* disposition = new QVBoxLayout(parent);
+    auto* premier = new Champ;
+    premier->setObjectName(QStringLiteral("Txt(0)"));
+    premier->Quitte = [this, premier] { Ecris(QStringLiteral("quitté : ") + premier->text()); };
+    auto* second = new QLineEdit(QStringLiteral("abc"));
+    second->setObjectName(QStringLiteral("Txt(1)"));
+    connect(second, &QLineEdit::returnPressed, this, [this] { Ecris(QStringLiteral("entrée")); });
+    auto* seul = new QLineEdit;
+    seul->setObjectName(QStringLiteral("Seul(3)"));
+    auto* long_ = new QTextEdit(QStringLiteral("première ligne<br>seconde ligne"));
+    long_->setObjectName(QStringLiteral("TxtLong"));
+    auto* grise = new QLineEdit;
+    grise->setObjectName(QStringLiteral("TxtGris"));
+    grise->setEnabled(false);
+    for (QWidget* widget :
+         {static_cast<QWidget*>(premier), static_cast<QWidget*>(second), static_cast<QWidget*>(seul),
+          static_cast<QWidget*>(long_), static_cast<QWidget*>(grise)}) {
+        disposition->addWidget(widget);
+    }
+    return parent;
+}
+
+QWidget* FrmEssai::Listes()
+{
+    auto* parent = new QWidget;
+    auto* disposition = new QHBoxLayout(parent);
+    auto* liste = new ListeGlissee;
+    liste->setObjectName(QStringLiteral("Lst"));
+    liste->addItems({QStringLiteral("  un"), QStringLiteral("  deux"), QStringLiteral("  trois")});
+    liste->item(1)->setData(Qt::UserRole, 22);
+    liste->item(2)->setForeground(QColor(255, 0, 0));
+    liste->Depose = [this](const QString& texte) { Ecris(texte); };
+    connect(liste, &QListWidget::itemDoubleClicked, this,
+            [this](const QListWidgetItem* item) { Ecris(QStringLiteral("double") + item->text()); });
+    auto* choix = new QComboBox;
+    choix->setObjectName(QStringLiteral("Cbo"));
+    choix->addItems({QStringLiteral("rouge"), QStringLiteral("vert")});
+    connect(choix, &QComboBox::textActivated, this, &FrmEssai::Ecris);
+    auto* arbre = new QTreeWidget;
+    arbre->setObjectName(QStringLiteral("Arbre"));
+    auto* racine = new QTreeWidgetItem(arbre, {QStringLiteral("racine")});
+    racine->setData(0, Qt::UserRole, QStringLiteral("etiquette"));
+    new QTreeWidgetItem(racine, {QStringLiteral("feuille")});
+    arbre->expandAll();
+    auto* surface = new Surface;
+    surface->setObjectName(QStringLiteral("Pct"));
+    for (QWidget* widget : {static_cast<QWidget*>(liste), static_cast<QWidget*>(choix),
+                            static_cast<QWidget*>(arbre), static_cast<QWidget*>(surface)}) {
+        disposition->addWidget(widget);
+    }
+    return parent;
+}
+
+QWidget* FrmEssai::Boutons()
+{
+    auto* parent = new QWidget;
+    auto* disposition = new QHBoxLayout(parent);
+    auto* coche = new QCheckBox(QStringLiteral("&Coche"));
+    coche->setObjectName(QStringLiteral("Chk"));
+    disposition->addWidget(coche);
+    auto* cache = new QPushButton(parent);
+    cache->setObjectName(QStringLiteral("CmdCache"));
+    cache->hide();
+    disposition->addWidget(cache);
+    Bouton(parent, QStringLiteral("CmdMenu"), [this] { OuvreMenu(); });
+    Bouton(parent, QStringLiteral("CmdModale"), [this] { OuvreModale(); });
+    Bouton(parent, QStringLiteral("CmdBoite"), [this] {
+        Ecris(dehors_.Boites.Question(QStringLiteral("Vraiment ?\nSûr ?")) ? QStringLiteral("oui")
+                                                                           : QStringLiteral("non"));
+        Ecris(trace_->text() + dehors_.Boites.Demande({QStringLiteral("Nom"), QStringLiteral("a")})
+                                   .value_or(QStringLiteral(" rien")));
+    });
+    Bouton(parent, QStringLiteral("CmdPaliers"), [this] {
+        for (int i = 0; i < 50; ++i) {
+            QCoreApplication::processEvents();
+        }
+        Ecris(QStringLiteral("paliers passés"));
+    });
+    Bouton(parent, QStringLiteral("CmdTard"), [this] {
+        QTimer::singleShot(300, this, [this] { findChild<QWidget*>(QStringLiteral("CmdCache"))->show(); });
+    });
+    Bouton(parent, QStringLiteral("CmdImprime"), [this] {
+        dehors_.Imprimantes.Imprime(dehors_.Imprimantes.ParDefaut(),
+                                    {.Titre = {}, .Pages = {page::Dessin()}, .CheminPdf = {}});
+    });
+    Bouton(parent, QStringLiteral("CmdHorloge"),
+           [this] { Ecris(dehors_.Horloge.Maintenant().toString(QStringLiteral("dd/MM/yyyy hh:mm"))); });
+    Bouton(parent, QStringLiteral("CmdErreur"),
+           [] { throw common::Erreur(QStringLiteral("Le disque est plein."), QStringLiteral("Medoc.mdb")); });
+    Bouton(parent, QStringLiteral("CmdPlante"), [] { std::abort(); });
+    Bouton(parent, QStringLiteral("CmdSort"), [] { std::_Exit(0); });
+    Bouton(parent, QStringLiteral("CmdBoucle"), [] {
+        for (volatile bool sans = true; sans;) {
+        }
+    });
+    Bouton(parent, QStringLiteral("CmdQuitter"), [this] { close(); });
+    return parent;
+}
+
+void FrmEssai::Bouton(QWidget* parent, const QString& nom, const std::function<void()>& fait)
+{
+    auto* bouton = new QPushButton(nom.mid(3), parent);
+    bouton->setObjectName(nom);
+    connect(bouton, &QPushButton::clicked, this, fait);
+    parent->layout()->addWidget(bouton);
+}
+
+void FrmEssai::Ecris(const QString& texte)
+{
+    trace_->setText(texte);
+}
+
+void FrmEssai::OuvreModale()
+{
+    QDialog modale;
+    modale.setObjectName(QStringLiteral("FrmModale"));
+    modale.resize(300, 200);
+    auto* fin = new QPushButton(QStringLiteral("&Fin"), &modale);
+    fin->setObjectName(QStringLiteral("CmdFin"));
+    connect(fin, &QPushButton::clicked, &modale, &QDialog::accept);
+    modale.exec();
+    Ecris(QStringLiteral("modale fermée"));
+}
+
+void FrmEssai::OuvreMenu()
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("mnuEssai"));
+    QAction* entree =
+        menu->addAction(QStringLiteral("&Entrée"), this, [this] { Ecris(QStringLiteral("menu")); });
+    entree->setObjectName(QStringLiteral("mnuEntree"));
+    QAction* grise = menu->addAction(QStringLiteral("Grise"));
+    grise->setObjectName(QStringLiteral("mnuGrise"));
+    grise->setEnabled(false);
+    menu->exec(mapToGlobal(QPoint(10, 10)));
+}
+
+void FrmEssai::closeEvent(QCloseEvent* evenement)
+{
+    evenement->accept();
+    Q_EMIT Quitte();
+}
+
+} // namespace scenario

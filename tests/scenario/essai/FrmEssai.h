@@ -1,0 +1,39 @@
+#pragma once
+
+#include "application/Contexte.h"
+#include "page/windows/PorteDessin.h"
+
+#include <QDialog>
+
+class QLabel;
+
+namespace scenario {
+
+/// A window with one control of each kind, to try the language on.
+class FrmEssai : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FrmEssai(const application::Dehors& dehors);
+
+Q_SIGNALS:
+    void Quitte();
+
+protected:
+    void closeEvent(QCloseEvent* evenement) override;
+
+private:
+    QWidget* Champs();
+    QWidget* Listes();
+    QWidget* Boutons();
+    void Bouton(QWidget* parent, const QString& nom, const std::function<void()>& fait);
+    void Ecris(const QString& texte);
+    void OuvreModale();
+    void OuvreMenu();
+
+    application::Dehors dehors_;
+    QLabel* trace_ = nullptr;
+};
+
+} // namespace scenario

@@ -1,0 +1,88 @@
+"use strict";
+// The script's side of the language: each call of the runner as a global function, then what is said best in
+// the language itself.
+(function (global) {
+    const langage = __langage;
+    for (const nom of __appels) {
+        global[nom] = (...valeurs) => langage.appel(nom, new Error().stack, valeurs);
+    }
+    delete global.__langage;
+    delete global.__appels;
+
+    function montre(valeur) {
+        if (typeof valeur === "number" && !isFinite(valeur) || typeof valeur === "function") return String(valeur);
+        return valeur === undefined ? "undefined" : JSON.stringify(valeur);
+    }
+
+    function memes(a, b) {
+        if (a === b || a !== a && b !== b) return true;
+        if (typeof a !== "object" || typeof b !== "object" || a === null || b === null) return false;
+        if (Array.isArray(a) !== Array.isArray(b)) return false;
+        const cles = Object.keys(a);
+        return cles.length === Object.keys(b).length &&
+            cles.every(cle => Object.prototype.hasOwnProperty.call(b, cle) && memes(a[cle], b[cle]));
+    }
+
+    function dedans(tout, partie) {
+        if (typeof tout === "string") return tout.includes(partie);
+        if (Array.isArray(tout)) return tout.some(element => memes(element, partie));
+        return tout !== null && typeof tout === "object" &&
+            Object.keys(partie).every(cle => memes(tout[cle], partie[cle]));
+    }
+
+    function controle(reussi, texte, attendu, obtenu) {
+        const nom = texte === undefined ? "sans texte" : String(texte);
+        langage.controle(reussi, nom, "attendu " + attendu + ", obtenu " + montre(obtenu), new Error().stack);
+        return reussi;
+    }
+
+    global.egal = (a, b, texte) => controle(memes(a, b), texte, montre(b), a);
+    global.different = (a, b, texte) => controle(!memes(a, b), texte, "autre que " + montre(b), a);
+    global.proche = (a, b, tolerance, texte) => controle(
+        typeof a === "number" && Math.abs(a - b) <= tolerance, texte, montre(b) + " à " + tolerance + " près", a);
+    global.vrai = (x, texte) => controle(!!x, texte, "vrai", x);
+    global.faux = (x, texte) => controle(!x, texte, "faux", x);
+    global.contient = (tout, partie, texte) =>
+        controle(dedans(tout, partie), texte, "contenant " + montre(partie), tout);
+
+    global.taper = (nom, texte) => {
+        if (typeof texte !== "string") throw new Error("taper attend un texte");
+        for (const caractere of texte.split("")) __caractere(nom, caractere);
+    };
+
+    global.boites = liste => {
+        for (const [attendu, reponse] of liste) {
+            const texte = boite().texte;
+            const convient = attendu instanceof RegExp ? attendu.test(texte) : attendu === texte;
+            controle(convient, "boîte « " + texte + " »",
+                attendu instanceof RegExp ? String(attendu) : montre(attendu), texte);
+            repondre(reponse);
+        }
+    };
+
+    global.aucuneBoite = texte => {
+        const ouverte = __boiteOuverte();
+        controle(ouverte === null, texte === undefined ? "aucune boîte" : texte, "aucune boîte", ouverte);
+    };
+
+    function accepte(attendu, reponse) {
+        const b = boite();
+        if (!attendu.test(b.texte)) {
+            throw new Error("installer : boîte « " + b.texte + " », attendu " + attendu);
+        }
+        repondre(reponse);
+    }
+
+    global.installer = () => {
+        lancer();
+        accepte(/Sélectionnez le répertoire où seront enregistrées/, "OK");
+        accepte(/Sélectionnez uniquement le répertoire à votre NOM/, utilisateur);
+        accepte(/Vous devez renseigner le nom du MEDECIN UTILISATEUR/, "OK");
+        accepte(/Inscrire les nom et prénom du médecin/, "DR NEIBRE");
+        accepte(/Vous utilisez ce programme pour la première fois/, "OK");
+        choisir("FrmChoixBase.CboBase", 0);
+        clic("FrmChoixBase.CmdSuite");
+        if (!ouverte("FrmDepart")) throw new Error("installer : FrmDepart n'est pas montrée");
+        __confirmeImprimante("Bureau");
+    };
+})(this);

@@ -1,0 +1,31 @@
+lancer();
+aucuneBoite();
+clic("FrmEssai.CmdBoite");
+const b = boite();
+egal(b.genre, "question", "genre");
+egal(b.titre, "Scriptelle", "titre");
+egal(b.texte, "Vraiment ?\nSûr ?", "texte");
+egal(b.boutons, ["Oui", "Non"], "boutons");
+egal(b.defaut, "Oui", "bouton par défaut");
+different(fenetreActive(), "FrmEssai", "la boîte est devant");
+repondre("Non");
+egal(boite().genre, "saisie", "la boîte suivante");
+egal(boite().valeur, "a", "le texte proposé");
+repondre(null);
+egal(texte("FrmEssai.LblTrace"), "non rien", "les réponses sont arrivées");
+egal(fenetreActive(), "FrmEssai", "la fenêtre est revenue devant");
+clic("FrmEssai.CmdBoite");
+boites([[/^Vraiment/, "Oui"], ["Nom", " dupont"]]);
+egal(texte("FrmEssai.LblTrace"), "oui dupont", "la forme courte");
+aucuneBoite("plus de boîte");
+
+clic("FrmEssai.CmdModale");
+egal(fenetreActive(), "FrmModale", "la fenêtre modale");
+clic("FrmModale.CmdFin");
+egal(texte("FrmEssai.LblTrace"), "modale fermée", "son appelant a continué");
+faux(ouverte("FrmModale"), "elle est partie");
+
+clic("FrmEssai.CmdMenu");
+faux(actif("FrmEssai.mnuGrise"), "une entrée grisée");
+clic("FrmEssai.mnuEntree");
+egal(texte("FrmEssai.LblTrace"), "menu", "l'entrée du menu ouvert");

@@ -1,0 +1,3 @@
+// attendu : boucle_script.js:2 : plus de 6 s
+lancer();
+for (;;) { }

@@ -1,0 +1,2 @@
+// attendu : ECHEC - manque (attendu contenant "z", obtenu "abc")
+contient("abc", "z", "manque");

@@ -1,0 +1,2 @@
+// attendu : exception.js:2 : boum
+throw "boum";

@@ -1,0 +1,2 @@
+// attendu : ECHEC - pas faux (attendu faux, obtenu "x")
+faux("x", "pas faux");

@@ -1,0 +1,3 @@
+// attendu : syntaxe.js:3 : 
+egal(1, 1, "jamais joué");
+let a = ;
