@@ -38,20 +38,6 @@ void CopieSiPresent(const QString& source, const QString& destination, const QSt
     }
 }
 
-void CopieInstallation(const QString& source, const QString& destination)
-{
-    const QString bases = QStringLiteral("BasesInstal");
-    if (common::DossierExiste(Joint(source, bases))) {
-        common::CopieDossier(Joint(source, bases), Joint(destination, bases));
-    }
-    for (const QString& nom : {QStringLiteral("Ordo.mdb"), QStringLiteral("Medoc.mdb"),
-                               QStringLiteral("Copie de Ordo.mdb"), QStringLiteral("Copie de Medoc.mdb")}) {
-        CopieSiPresent(source, destination, nom);
-    }
-    const QString version = Version();
-    settings::EcritEnregistrement(FichierVersion(destination), std::tie(version));
-}
-
 } // namespace
 
 QString PrepareInstallation(const QString& cheminProgramme)
@@ -67,10 +53,25 @@ QString PrepareInstallation(const QString& cheminProgramme, const QString& chemi
     }
     const QString installation = Joint(cheminConfiguration, QStringLiteral("Scriptelle"));
     common::CreeDossierPrive(installation);
-    if (!DejaCopiee(installation)) {
-        CopieInstallation(cheminProgramme, installation);
-    }
+    CopieInstallation(cheminProgramme, installation);
     return installation;
+}
+
+void CopieInstallation(const QString& cheminProgramme, const QString& installation)
+{
+    if (DejaCopiee(installation)) {
+        return;
+    }
+    const QString bases = QStringLiteral("BasesInstal");
+    if (common::DossierExiste(Joint(cheminProgramme, bases))) {
+        common::CopieDossier(Joint(cheminProgramme, bases), Joint(installation, bases));
+    }
+    for (const QString& nom : {QStringLiteral("Ordo.mdb"), QStringLiteral("Medoc.mdb"),
+                               QStringLiteral("Copie de Ordo.mdb"), QStringLiteral("Copie de Medoc.mdb")}) {
+        CopieSiPresent(cheminProgramme, installation, nom);
+    }
+    const QString version = Version();
+    settings::EcritEnregistrement(FichierVersion(installation), std::tie(version));
 }
 
 } // namespace startup

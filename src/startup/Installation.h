@@ -12,4 +12,8 @@ QString PrepareInstallation(const QString& cheminProgramme);
 /// The same with the configuration directory given.
 QString PrepareInstallation(const QString& cheminProgramme, const QString& cheminConfiguration);
 
+/// Copies what an installer left in the program directory, once per version of the program; what the run has
+/// moved away since does not come back. Throws `Erreur`.
+void CopieInstallation(const QString& cheminProgramme, const QString& installation);
+
 } // namespace startup
