@@ -160,7 +160,7 @@ ListeLignes* Liste(const QString& nom, const QString& accessible, QWidget* paren
     return liste;
 }
 
-QLayout* ZonesEtFleches(ControlesMedoc& c, QWidget* carte)
+QLayout* Zones(ControlesMedoc& c, QWidget* carte)
 {
     c.ZoneALD = style::Legende({}, QStringLiteral("Zone ALD"), carte);
     c.ZoneNonALD = style::Legende({}, QStringLiteral("Zone non ALD"), carte);
@@ -175,16 +175,7 @@ QLayout* ZonesEtFleches(ControlesMedoc& c, QWidget* carte)
     listes->addWidget(c.LstChoix1, 1);
     listes->addWidget(c.ZoneNonALD);
     listes->addWidget(c.LstChoix2, 1);
-    auto* fleches = new QVBoxLayout;
-    fleches->addStretch();
-    fleches->addWidget(c.ImgUp);
-    fleches->addWidget(c.ImgDown);
-    fleches->addStretch();
-    auto* zones = new QHBoxLayout;
-    zones->setSpacing(style::kDansGroupe);
-    zones->addLayout(listes, 1);
-    zones->addLayout(fleches);
-    return zones;
+    return listes;
 }
 
 void BoutonsOrdonnance(ControlesMedoc& c, QWidget* carte)
@@ -213,8 +204,11 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
     QWidget* tri = Case(c.ChkTri, QStringLiteral("ChkTri"), QStringLiteral("Label9"),
                         QStringLiteral("I&mprimer triplicata"), carte);
     QVBoxLayout* disposition = DansCarte(carte);
-    disposition->addLayout(Rang({titre}, {ald, dup, tri}));
-    disposition->addLayout(ZonesEtFleches(c, carte));
+    QLayout* zones = Zones(c, carte);
+    QHBoxLayout* cases = Rang({titre, c.ImgUp, c.ImgDown}, {ald, dup, tri});
+    cases->setSpacing(style::kEntreGroupes);
+    disposition->addLayout(cases);
+    disposition->addLayout(zones);
     BoutonsOrdonnance(c, carte);
     disposition->addLayout(Rang({c.CmdSaut, c.CmdClear, c.LblOrdoMem}, {c.CmdAnnule, c.CmdOrdo}));
     return carte;
