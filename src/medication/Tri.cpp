@@ -7,20 +7,22 @@ namespace medication {
 
 namespace {
 
+constexpr qsizetype kTete = 8;
+
 struct Place
 {
-    quint64 Tete = 0; // the first four characters of the key, the first one on top
-    QString Cle;
+    quint64 Tete = 0; // the first eight characters of the key, the first one on top
     qsizetype Rang = 0;
 };
 
-quint64 TeteDe(const QString& cle)
+constexpr char16_t CapitaleAscii(char16_t c)
 {
-    quint64 tete = 0;
-    for (qsizetype i = 0; i < 4; ++i) {
-        tete = tete << 16 | (i < cle.size() ? cle[i].unicode() : 0u);
-    }
-    return tete;
+    return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - u'a' + u'A') : c;
+}
+
+constexpr bool EstAscii(QChar c)
+{
+    return c.unicode() < 0x80;
 }
 
 void AjouteSansAccent(QString& cle, QChar capitale)
@@ -36,6 +38,38 @@ void AjouteSansAccent(QString& cle, QChar capitale)
             capitale.decompositionTag() == QChar::Canonical ? capitale.decomposition() : QString();
         cle += parties.isEmpty() ? capitale : parties.front();
     }
+}
+
+// One byte a character; those beyond a byte are told apart by `CompareCles`.
+quint64 TeteDe(QStringView texte)
+{
+    QStringView debut = texte.left(kTete);
+    QString cle;
+    if (!std::ranges::all_of(debut, EstAscii)) {
+        cle = CleTri(debut);
+        debut = cle;
+    }
+    quint64 tete = 0;
+    for (qsizetype i = 0; i < kTete; ++i) {
+        const char16_t c = i < debut.size() ? CapitaleAscii(debut[i].unicode()) : char16_t(0);
+        tete = tete << 8 | std::min<char16_t>(c, 0xFF);
+    }
+    return tete;
+}
+
+// As the keys compare, without making them while both texts are the same plain letters.
+int CompareCles(QStringView a, QStringView b)
+{
+    const qsizetype commun = std::min(a.size(), b.size());
+    qsizetype i = 0;
+    while (i < commun && EstAscii(a[i]) && EstAscii(b[i])) {
+        const int ecart = CapitaleAscii(a[i].unicode()) - CapitaleAscii(b[i].unicode());
+        if (ecart != 0) {
+            return ecart;
+        }
+        ++i;
+    }
+    return CleTri(a.sliced(i)).compare(CleTri(b.sliced(i)));
 }
 
 QList<Noeud> DansLOrdre(QList<Noeud>& noeuds, const std::vector<Place>& places)
@@ -71,17 +105,18 @@ void Trie(QList<Noeud>& noeuds)
 {
     std::vector<Place> places(static_cast<std::size_t>(noeuds.size()));
     for (qsizetype rang = 0; rang < noeuds.size(); ++rang) {
-        const QString cle = CleTri(noeuds[rang].Texte);
-        places[static_cast<std::size_t>(rang)] = {TeteDe(cle), cle, rang};
+        places[static_cast<std::size_t>(rang)] = {TeteDe(noeuds[rang].Texte), rang};
     }
     std::ranges::sort(places, [&](const Place& a, const Place& b) {
         if (a.Tete != b.Tete) {
             return a.Tete < b.Tete;
         }
-        if (const int ordre = a.Cle.compare(b.Cle); ordre != 0) {
+        const QString& texteA = noeuds[a.Rang].Texte;
+        const QString& texteB = noeuds[b.Rang].Texte;
+        if (const int ordre = CompareCles(texteA, texteB); ordre != 0) {
             return ordre < 0;
         }
-        const int ordre = noeuds[a.Rang].Texte.compare(noeuds[b.Rang].Texte);
+        const int ordre = texteA.compare(texteB);
         return ordre != 0 ? ordre < 0 : a.Rang < b.Rang;
     });
     noeuds = DansLOrdre(noeuds, places);

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QRandomGenerator>
 #include <QTest>
+#include <algorithm>
 
 using namespace medication;
 
@@ -104,16 +105,18 @@ private Q_SLOTS:
         QCOMPARE(Marche(arbre.Noeuds(), recherche), rang);
     }
 
-    void TheSearchEqualsTheWalk()
+    void OrderAndSearchEqualTheirRules()
     {
         QRandomGenerator hasard(20261120);
         for (int tour = 0; tour < 60; ++tour) {
             QStringList noms;
             for (int i = 0; i < 150; ++i) {
-                noms.append(Hasard(hasard, 1 + hasard.bounded(6)));
+                noms.append(Hasard(hasard, 1 + hasard.bounded(tour % 2 ? 6 : 12)));
             }
             ArbreMedicaments arbre;
             arbre.Remplit(Tries(noms));
+            std::ranges::sort(noms, {}, [](const QString& nom) { return std::pair(CleTri(nom), nom); });
+            QCOMPARE(Textes(arbre.Noeuds()), noms);
             for (int i = 0; i < 100; ++i) {
                 const QString recherche = Hasard(hasard, hasard.bounded(4));
                 QCOMPARE(arbre.Cherche(recherche), Marche(arbre.Noeuds(), recherche));
