@@ -111,6 +111,7 @@ QWidget* FrmNouveauP::FaitIdentite()
     grille->addWidget(style::Legende({}, QStringLiteral("P&oids"), carte, FaitTxt(3, carte)), 5, 0);
     grille->addWidget(txt_[3], 5, 2);
     grille->addWidget(style::Legende({}, QStringLiteral("kg"), carte), 5, 3);
+    grille->setRowStretch(6, 1);
     return carte;
 }
 
@@ -139,6 +140,8 @@ QWidget* FrmNouveauP::FaitPrecautions()
     lstCi_->setObjectName(QStringLiteral("LstCi"));
     lstCi_->setModel(&precautions_);
     lstCi_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    lstCi_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    lstCi_->setMinimumHeight(3 * style::kHauteurRangee);
     lstCi_->setToolTip(QStringLiteral("Double-cliquez sur une précaution pour la supprimer"));
     cmdCI_ = style::Bouton(QStringLiteral("CmdCI"), QStringLiteral("A&jouter une précaution"),
                            QStringLiteral("plus-lg"), carte);

@@ -111,6 +111,7 @@ void FrmPatient::Cherche(const QString& texte)
         Deselectionne();
     } else if (const int rang = liste_.Cherche(texte); rang >= 0) {
         Selectionne(rang);
+        lstPatient_->scrollTo(liste_.index(rang), QAbstractItemView::PositionAtTop);
     }
 }
 

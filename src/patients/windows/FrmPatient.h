@@ -36,6 +36,7 @@ private:
     void Dispose();
     QWidget* FaitListe();
     QWidget* FaitChoix();
+    QWidget* FaitAutres();
     QBoxLayout* FaitPied();
     void Branche();
     void OrdonneTabulations();

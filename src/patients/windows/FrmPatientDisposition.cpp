@@ -22,6 +22,15 @@ QVBoxLayout* Colonne(QWidget* carte)
     return colonne;
 }
 
+/// Room for that many lines, so that nothing below moves from one patient to the next.
+void ReserveLignes(QLabel& etiquette, int lignes)
+{
+    etiquette.ensurePolished();
+    etiquette.setWordWrap(true);
+    etiquette.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    etiquette.setMinimumHeight(lignes * etiquette.fontMetrics().lineSpacing());
+}
+
 } // namespace
 
 void FrmPatient::Dispose()
@@ -30,7 +39,11 @@ void FrmPatient::Dispose()
     auto* haut = new QHBoxLayout;
     haut->setSpacing(style::kEntreGroupes);
     haut->addWidget(FaitListe(), 3);
-    haut->addWidget(FaitChoix(), 2);
+    auto* droite = new QVBoxLayout;
+    droite->setSpacing(style::kEntreGroupes);
+    droite->addWidget(FaitChoix(), 1);
+    droite->addWidget(FaitAutres());
+    haut->addLayout(droite, 2);
     fenetre->addLayout(haut, 1);
     fenetre->addLayout(FaitPied());
     OrdonneTabulations();
@@ -68,16 +81,8 @@ QWidget* FrmPatient::FaitChoix()
     auto* colonne = Colonne(carte);
     lblTitre_ = style::Titre(QStringLiteral("LblTitre"), {}, carte);
     lblPatient_ = style::Legende(QStringLiteral("LblPatient"), {}, carte);
-    for (QLabel* etiquette : {lblTitre_, lblPatient_}) {
-        etiquette->setWordWrap(true);
-        etiquette->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        etiquette->setMinimumHeight(2 * etiquette->fontMetrics().lineSpacing());
-    }
-    cmdNouveauPatient_ =
-        style::Bouton(QStringLiteral("CmdNouveauPatient"), QStringLiteral("&Nouveau patient"),
-                      QStringLiteral("person-plus"), carte);
-    cmdPassage_ = style::Bouton(QStringLiteral("CmdPassage"), QStringLiteral("Patient de &passage"),
-                                QStringLiteral("person"), carte);
+    ReserveLignes(*lblTitre_, 3);
+    ReserveLignes(*lblPatient_, 2);
     cmdModifier_ = style::Bouton(QStringLiteral("CmdModifier"), QStringLiteral("&Modifier"),
                                  QStringLiteral("pencil"), carte);
     cmdSupprime_ = style::BoutonDestructeur(QStringLiteral("CmdSupprime"), QStringLiteral("&Supprimer"),
@@ -85,12 +90,24 @@ QWidget* FrmPatient::FaitChoix()
     colonne->addWidget(style::Legende({}, QStringLiteral("Patient sélectionné"), carte));
     colonne->addWidget(lblTitre_);
     colonne->addWidget(lblPatient_);
-    colonne->addWidget(cmdModifier_);
     colonne->addStretch(1);
+    colonne->addWidget(cmdModifier_);
+    colonne->addWidget(cmdSupprime_);
+    return carte;
+}
+
+QWidget* FrmPatient::FaitAutres()
+{
+    auto* carte = style::Carte(this);
+    auto* colonne = Colonne(carte);
+    cmdNouveauPatient_ =
+        style::Bouton(QStringLiteral("CmdNouveauPatient"), QStringLiteral("&Nouveau patient"),
+                      QStringLiteral("person-plus"), carte);
+    cmdPassage_ = style::Bouton(QStringLiteral("CmdPassage"), QStringLiteral("Patient de &passage"),
+                                QStringLiteral("person"), carte);
+    colonne->addWidget(style::Legende({}, QStringLiteral("Patient absent de la liste"), carte));
     colonne->addWidget(cmdNouveauPatient_);
     colonne->addWidget(cmdPassage_);
-    colonne->addStretch(1);
-    colonne->addWidget(cmdSupprime_);
     return carte;
 }
 
@@ -115,9 +132,8 @@ QBoxLayout* FrmPatient::FaitPied()
 
 void FrmPatient::OrdonneTabulations()
 {
-    const QList<QWidget*> ordre = {txtCherche_,        lstPatient_, cmdModifier_,
-                                   cmdNouveauPatient_, cmdPassage_, cmdSupprime_,
-                                   cmdAide_,           cmdAnnule_,  cmdOK_};
+    const QList<QWidget*> ordre = {txtCherche_, lstPatient_, cmdModifier_, cmdSupprime_, cmdNouveauPatient_,
+                                   cmdPassage_, cmdAide_,    cmdAnnule_,   cmdOK_};
     for (qsizetype i = 1; i < ordre.size(); ++i) {
         setTabOrder(ordre[i - 1], ordre[i]);
     }
