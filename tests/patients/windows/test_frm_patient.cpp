@@ -78,12 +78,9 @@ private Q_SLOTS:
     void Tabulations()
     {
         Scene scene;
-        QCOMPARE(
-            OrdreDeTabulation(scene.Montre(), "TxtCherche"),
-            QStringList({QStringLiteral("TxtCherche"), QStringLiteral("LstPatient"),
-                         QStringLiteral("CmdModifier"), QStringLiteral("CmdNouveauPatient"),
-                         QStringLiteral("CmdPassage"), QStringLiteral("CmdSupprime"),
-                         QStringLiteral("CmdAide"), QStringLiteral("CmdAnnule"), QStringLiteral("CmdOK")}));
+        QCOMPARE(OrdreDeTabulation(scene.Montre(), "TxtCherche").join(u' '),
+                 QStringLiteral("TxtCherche LstPatient CmdModifier CmdSupprime CmdNouveauPatient CmdPassage "
+                                "CmdAide CmdAnnule CmdOK"));
     }
 
     void LaRechercheChoisit()
