@@ -61,8 +61,7 @@ private:
     void LieEtLance(QSqlQuery& requete, const QVariantList& valeurs);
     QSqlQuery Lance(const QString& instruction, const QVariantList& valeurs);
     bool Avance(QSqlQuery& requete);
-    void ParcourtUnParUn(const QString& table, const QStringList& noms, qint64 apres, qint64 jusque,
-                         const LecteurDeTextes& lecteur);
+    void ParcourtUnParUn(const QString& table, const QStringList& noms, const LecteurDeTextes& lecteur);
     void Ouvre();
     void Ferme();
 

@@ -1,5 +1,5 @@
 // Reading two columns of 100 000 rows through QSqlQuery costs nearly twice the engine's own time, most of
-// it in the conversion and the packing of each value. Here the engine strings a few thousand values
+// it in the conversion and the packing of each value. Here the engine strings the values of a column
 // together, and one conversion serves them all.
 #include "storage/Base.h"
 
@@ -15,8 +15,9 @@ namespace storage {
 
 namespace {
 
-constexpr int kRangeesParBloc = 8192;
 constexpr QChar kSeparateur(0x1E);
+// The same in a statement as a literal: char(30) would be worked out anew for each row.
+constexpr char16_t kSommeDe[] = u", cast(group_concat(ifnull(%1, ''), '\x1E') as blob)";
 
 /// The engine takes a quoted name that is no column for a text: only the schema tells them apart.
 bool Connait(const Table& table, const QString& nom)
@@ -38,52 +39,45 @@ QStringList NomsCites(const Base& base, const QString& table, const QStringList&
     return noms;
 }
 
-/// One row a block: last key, number of rows, then each column's values strung together.
-QString SelectDesBlocs(const QString& table, const QStringList& noms)
+/// One row: the number of rows, then each column's values strung together. Without an index the engine
+/// visits the rows in stored order.
+QString SelectDesColonnes(const QString& table, const QStringList& noms)
 {
     QString sommes;
-    for (qsizetype i = 0; i < noms.size(); ++i) {
-        sommes += QStringLiteral(", cast(group_concat(ifnull(c%1, ''), char(30)) as blob)").arg(i);
+    for (const QString& nom : noms) {
+        sommes += QString::fromUtf16(kSommeDe).arg(nom);
     }
-    QString internes;
-    for (qsizetype i = 0; i < noms.size(); ++i) {
-        internes += QStringLiteral(", %1 as c%2").arg(noms[i]).arg(i);
-    }
-    return QStringLiteral("select max(cle), count(*)%1 from (select rowid as cle%2 from %3 where rowid > ? "
-                          "order by rowid limit %4)")
-        .arg(sommes, internes, Cite(table))
-        .arg(kRangeesParBloc);
+    return QStringLiteral("select count(*)%1 from %2 not indexed").arg(sommes, Cite(table));
 }
 
-struct Bloc
+struct Colonnes
 {
-    qint64 DerniereCle = 0;
     qsizetype Rangees = 0;
     QStringList Textes; ///< one a column, values parted by `kSeparateur`
 };
 
-Bloc LitBloc(const QSqlQuery& requete, qsizetype colonnes)
+Colonnes LitColonnes(const QSqlQuery& requete, qsizetype nombre)
 {
-    Bloc bloc{requete.value(0).toLongLong(), requete.value(1).toLongLong(), {}};
-    for (qsizetype i = 0; bloc.Rangees > 0 && i < colonnes; ++i) {
-        bloc.Textes.append(QString::fromUtf8(requete.value(static_cast<int>(i) + 2).toByteArray()));
+    Colonnes colonnes{requete.value(0).toLongLong(), {}};
+    for (qsizetype i = 0; i < nombre; ++i) {
+        colonnes.Textes.append(QString::fromUtf8(requete.value(static_cast<int>(i) + 1).toByteArray()));
     }
-    return bloc;
+    return colonnes;
 }
 
 /// A value that holds the separator itself makes the count wrong.
-bool EstSepare(const Bloc& bloc)
+bool SontSeparees(const Colonnes& colonnes)
 {
-    return std::ranges::all_of(bloc.Textes, [&](const QString& texte) {
-        return QStringView(texte).count(kSeparateur) == bloc.Rangees - 1;
+    return std::ranges::all_of(colonnes.Textes, [&](const QString& texte) {
+        return QStringView(texte).count(kSeparateur) == colonnes.Rangees - 1;
     });
 }
 
-void Distribue(const Bloc& bloc, const Base::LecteurDeTextes& lecteur)
+void Distribue(const Colonnes& colonnes, const Base::LecteurDeTextes& lecteur)
 {
-    QList<QStringView> restes(bloc.Textes.begin(), bloc.Textes.end());
+    QList<QStringView> restes(colonnes.Textes.begin(), colonnes.Textes.end());
     QList<QStringView> rangee(restes.size());
-    for (qsizetype n = 0; n < bloc.Rangees; ++n) {
+    for (qsizetype n = 0; n < colonnes.Rangees; ++n) {
         for (qsizetype i = 0; i < restes.size(); ++i) {
             const qsizetype fin = restes[i].indexOf(kSeparateur);
             rangee[i] = fin < 0 ? restes[i] : restes[i].first(fin);
@@ -98,33 +92,24 @@ void Distribue(const Bloc& bloc, const Base::LecteurDeTextes& lecteur)
 void Base::ParcourtTextes(const QString& table, const QStringList& colonnes, const LecteurDeTextes& lecteur)
 {
     const QStringList noms = NomsCites(*this, table, colonnes);
-    QSqlQuery requete = Prepare(SelectDesBlocs(table, noms));
-    for (qint64 cle = std::numeric_limits<qint64>::min();;) {
-        LieEtLance(requete, {cle});
-        if (!Avance(requete)) {
-            return;
-        }
-        const Bloc bloc = LitBloc(requete, noms.size());
-        requete.finish();
-        if (bloc.Rangees == 0) {
-            return;
-        }
-        if (EstSepare(bloc)) {
-            Distribue(bloc, lecteur);
-        } else {
-            ParcourtUnParUn(table, noms, cle, bloc.DerniereCle, lecteur);
-        }
-        cle = bloc.DerniereCle;
+    Colonnes lues;
+    {
+        QSqlQuery requete = Lance(SelectDesColonnes(table, noms), {});
+        Avance(requete);
+        lues = LitColonnes(requete, noms.size());
+    }
+    if (SontSeparees(lues)) {
+        Distribue(lues, lecteur);
+    } else {
+        ParcourtUnParUn(table, noms, lecteur);
     }
 }
 
-void Base::ParcourtUnParUn(const QString& table, const QStringList& noms, qint64 apres, qint64 jusque,
-                           const LecteurDeTextes& lecteur)
+void Base::ParcourtUnParUn(const QString& table, const QStringList& noms, const LecteurDeTextes& lecteur)
 {
     const QString instruction =
-        QStringLiteral("select %1 from %2 where rowid > ? and rowid <= ? order by rowid")
-            .arg(noms.join(u','), Cite(table));
-    Parcourt(instruction, {apres, jusque}, [&](const Rangee& rangee) {
+        QStringLiteral("select %1 from %2 order by rowid").arg(noms.join(u','), Cite(table));
+    Parcourt(instruction, {}, [&](const Rangee& rangee) {
         QStringList textes;
         for (int i = 0; i < noms.size(); ++i) {
             textes.append(rangee.Texte(i));
