@@ -1,0 +1,34 @@
+// The journal of a doctor who keeps one.
+installer();
+const chemin = valeur("CheminMedecin");
+const champs = lire(chemin + "/Options.cfg").split(",");
+champs[champs.length - 5] = "1";
+clic("FrmDepart.CmdQuitter");
+ecrire(chemin + "/Options.cfg", champs.join(","));
+ajouter("Medoc", "BddMed", [5001, null, null, null, "1 matin", "ZZTEST 500 MG"]);
+lancer();
+clic("FrmChoixBase.CmdSuite");
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdNouvelle");
+clic("FrmPatient.CmdNouveauPatient");
+clic("FrmNouveauP.Opt(0)");
+taper("FrmNouveauP.Txt(0)", "martin");
+taper("FrmNouveauP.Txt(1)", "paul");
+taper("FrmNouveauP.MEB", "20/03/1953");
+clic("FrmNouveauP.CmdOK");
+clic("FrmPatient.CmdOK");
+clic("FrmMedoc.TV", "ZZTEST 500 MG");
+clic("FrmMedoc.CmdAjouter1");
+cocher("FrmMedoc.ChkTri", true);
+clic("FrmMedoc.CmdOrdo");
+clic("FrmOrdo.CmdImprime");
+cocher("FrmOptions.Chkimp", true);
+const journal = chemin + "/Journal_Docteur NEIBRE.log";
+egal(travaux().length, 1, "un travail imprimé");
+egal(travaux()[0].pages.length, 3, "de trois feuilles");
+egal(lire(journal), "20/11/2026*MARTIN  Paul*20/03/1953*ZZTEST500MG\n", "une seule ligne");
+clic("FrmOrdo.CmdDate");
+repondre("01/01/2020");
+clic("FrmOrdo.CmdImprime");
+egal(lire(journal).split("\n")[1], "20/11/2026*MARTIN  Paul*20/03/1953*ZZTEST500MG",
+     "le jour de l'impression, pas celui du document");

@@ -1,0 +1,26 @@
+// "Fichier PDF" writes the sheet among the data and opens it.
+horloge("20/11/2026 14:05");
+installer();
+clic("FrmDepart.CmdOptions");
+egal(lignes("FrmOptions.CboPrint"), ["Bureau", "Fichier PDF"], "toujours parmi les imprimantes");
+choisir("FrmOptions.CboPrint", "Fichier PDF");
+clic("FrmOptions.CmdOK(2)");
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdNouvelle");
+clic("FrmPatient.CmdNouveauPatient");
+clic("FrmNouveauP.Opt(0)");
+taper("FrmNouveauP.Txt(0)", "martin");
+taper("FrmNouveauP.Txt(1)", "paul");
+taper("FrmNouveauP.MEB", "20/03/1953");
+clic("FrmNouveauP.CmdOK");
+clic("FrmPatient.CmdOK");
+clic("FrmMedoc.CmdAnnule");
+clic("FrmOrdo.CmdImprime");
+const dossier = valeur("CheminTravail") + "/PDF";
+egal(lister(dossier), ["2026-11-20 14-05 MARTIN Paul.pdf"], "le fichier");
+egal(lireOctets(dossier + "/2026-11-20 14-05 MARTIN Paul.pdf").slice(0, 8).toLowerCase(), "25504446",
+     "est un PDF");
+egal(documents().length, 1, "il est ouvert");
+contient(documents()[0], "2026-11-20 14-05 MARTIN Paul.pdf", "lui et pas un autre");
+clic("FrmOrdo.CmdImprime");
+egal(lister(dossier).length, 2, "un second ne remplace pas le premier");

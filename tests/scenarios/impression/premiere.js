@@ -1,0 +1,28 @@
+// The first print of a run: the printer has to be confirmed, the first job is thrown away.
+installer();
+clic("FrmDepart.CmdQuitter");
+lancer();
+clic("FrmChoixBase.CmdSuite");
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdDate");
+repondre("20/11/2026");
+clic("FrmOrdo.CmdImprime");
+vrai(ouverte("FrmOptions"), "les imprimantes sont demandées");
+egal(titre("FrmOptions"), "        Options de Scriptelle", "le titre");
+faux(visible("FrmOptions.CmdAnnule(2)"), "sans retour possible");
+vrai(visible("FrmOptions.Chkimp"), "la confirmation est offerte");
+egal(lignes("FrmOptions.CboPrint"), ["Bureau", "Fichier PDF"], "les imprimantes");
+fermer("FrmOptions");
+vrai(ouverte("FrmOptions"), "la case de fermeture est refusée");
+capture("FrmOptions-premiere");
+choisir("FrmOptions.CboPrint", "Bureau");
+cocher("FrmOptions.Chkimp", true);
+faux(ouverte("FrmOptions"), "la confirmation ferme la fenêtre");
+egal(valeur("EtatImprimante"), 2, "l'imprimante est confirmée pour cette session");
+egal(travauxAbandonnes().length, 1, "un travail abandonné");
+egal(travaux().length, 1, "un travail imprimé");
+egal(travaux()[0].pages, travauxAbandonnes()[0].pages, "le même");
+contient(lire(valeur("CheminMedecin") + "/Options.cfg"), "\"Bureau\"", "l'imprimante est gardée");
+clic("FrmOrdo.CmdImprime");
+egal(travaux().length, 2, "la suite s'imprime sans question");
+egal(travauxAbandonnes().length, 1, "et sans abandon");
