@@ -42,7 +42,7 @@ OngletImprimantes::OngletImprimantes(application::Contexte& contexte, QWidget* p
     legende->setWordWrap(true);
     groupe->addWidget(legende);
     groupe->addSpacing(style::kEntreGroupes);
-    groupe->addWidget(Chkimp_);
+    groupe->addWidget(Chkimp_, 0, Qt::AlignLeft);
     groupe->addStretch();
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins({});

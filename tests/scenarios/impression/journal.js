@@ -1,11 +1,11 @@
 // The journal of a doctor who keeps one.
 installer();
+ajouter("Medoc", "BddMed", [5001, null, null, null, "1 matin", "ZZTEST 500 MG"]);
 const chemin = valeur("CheminMedecin");
 const champs = lire(chemin + "/Options.cfg").split(",");
 champs[champs.length - 5] = "1";
 clic("FrmDepart.CmdQuitter");
 ecrire(chemin + "/Options.cfg", champs.join(","));
-ajouter("Medoc", "BddMed", [5001, null, null, null, "1 matin", "ZZTEST 500 MG"]);
 lancer();
 clic("FrmChoixBase.CmdSuite");
 clic("FrmDepart.CmdNO");

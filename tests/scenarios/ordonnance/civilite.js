@@ -3,7 +3,7 @@ const textes = () => feuille("FrmOrdo.PctOrdo").filter(i => i.genre === "texte")
 
 installer();
 clic("FrmDepart.CmdNO");
-clic("FrmOrdo.CmdNouvelle");
+clic("FrmOrdo.CmdPatient");
 clic("FrmPatient.CmdNouveauPatient");
 clic("FrmNouveauP.Opt(0)");
 taper("FrmNouveauP.Txt(0)", "martin");
@@ -11,7 +11,6 @@ taper("FrmNouveauP.Txt(1)", "paul");
 taper("FrmNouveauP.MEB", "20/03/1953");
 clic("FrmNouveauP.CmdOK");
 clic("FrmPatient.CmdOK");
-clic("FrmMedoc.CmdAnnule");
 contient(textes(), "Monsieur  MARTIN  Paul", "le nom avec sa civilité");
 clic("FrmOrdo.ChkCiv");
 contient(textes(), "MARTIN  Paul", "le nom seul");
