@@ -22,11 +22,10 @@ void ImprimantesScenario::Imprime(const QString& nom, const outside::Travail& tr
         throw common::Erreur(outside::messages::ImprimanteAbsente(nom), nom);
     }
     Recus.append({nom, travail});
-    if (!DossierPdf.isEmpty()) {
-        outside::EcritPdf(travail, QStringLiteral("%1/travail-%2.pdf").arg(DossierPdf).arg(Recus.size()));
-    }
     if (nom == outside::NomFichierPdf()) {
         outside::ImprimeEnPdf(travail, horloge_, lanceur_, boites_);
+    } else if (!DossierPdf.isEmpty()) {
+        outside::EcritPdf(travail, QStringLiteral("%1/travail-%2.pdf").arg(DossierPdf).arg(Recus.size()));
     }
 }
 

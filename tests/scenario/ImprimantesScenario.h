@@ -28,7 +28,7 @@ public:
 
     QStringList Systeme = {QStringLiteral("Bureau")};
     QString Defaut = QStringLiteral("Bureau");
-    /// Where every job is kept as "travail-N.pdf"; empty for nowhere.
+    /// Where each job of a system's printer is kept as "travail-N.pdf"; empty for nowhere.
     QString DossierPdf;
     QList<Recu> Recus;
     QList<outside::Travail> Abandonnes;

@@ -7,10 +7,12 @@
 
 namespace scenario {
 
-Session::Session(scenario::Monde monde, QString sortie, scenario::Fabrique& fabrique)
-    : Monde(std::move(monde)), Sortie(std::move(sortie)), Fabrique(fabrique),
+Session::Session(scenario::Monde monde, const QString& sortie, scenario::Fabrique& fabrique)
+    : Monde(std::move(monde)), Sortie(sortie.isEmpty() ? Monde.Racine() : sortie), Fabrique(fabrique),
       Imprimantes(Horloge, Lanceur, Boites)
-{}
+{
+    Imprimantes.DossierPdf = sortie;
+}
 
 Session::~Session() = default;
 

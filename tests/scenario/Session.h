@@ -15,7 +15,8 @@ class Session : public QObject
     Q_OBJECT
 
 public:
-    Session(scenario::Monde monde, QString sortie, scenario::Fabrique& fabrique);
+    /// `sortie`: where screenshots and a PDF file of each job are kept; empty for nowhere.
+    Session(scenario::Monde monde, const QString& sortie, scenario::Fabrique& fabrique);
     ~Session() override;
 
     /// Starts the program anew. Throws `Echec` while one runs.
@@ -30,7 +31,7 @@ public:
     const QString& Accident() const { return accident_; }
 
     scenario::Monde Monde;
-    /// Where screenshots and PDF files go.
+    /// Where screenshots go: the output directory, or the world without one.
     QString Sortie;
     scenario::Fabrique& Fabrique;
     HorlogeScenario Horloge;

@@ -7,12 +7,15 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyleOptionButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -105,6 +108,22 @@ QTabBar* Onglets(QWidget* widget)
     return classeur ? classeur->tabBar() : qobject_cast<QTabBar*>(widget);
 }
 
+/// The centre of what takes a click: of a box or option that is wider than its words, the words and the mark.
+QPoint Centre(QWidget* widget)
+{
+    QStyleOptionButton option;
+    option.initFrom(widget);
+    const auto* bouton = qobject_cast<QAbstractButton*>(widget);
+    option.text = bouton ? bouton->text() : QString();
+    if (qobject_cast<QCheckBox*>(widget)) {
+        return widget->style()->subElementRect(QStyle::SE_CheckBoxClickRect, &option, widget).center();
+    }
+    if (qobject_cast<QRadioButton*>(widget)) {
+        return widget->style()->subElementRect(QStyle::SE_RadioButtonClickRect, &option, widget).center();
+    }
+    return widget->rect().center();
+}
+
 Lieu LieuVoulu(const Controle& controle, const QVariant& rangee)
 {
     if (QTabBar* onglets = Onglets(controle.Widget); onglets && !EstNul(rangee)) {
@@ -117,7 +136,7 @@ Lieu LieuVoulu(const Controle& controle, const QVariant& rangee)
     if (vue && !EstNul(rangee)) {
         return LieuRangee(vue, RangeeVoulue(vue, rangee));
     }
-    return {controle.Widget, controle.Widget->rect().center()};
+    return {controle.Widget, Centre(controle.Widget)};
 }
 
 void CliqueEntree(QAction* entree)

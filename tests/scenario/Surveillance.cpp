@@ -1,7 +1,6 @@
 #include "scenario/Surveillance.h"
 
 #include "scenario/Echec.h"
-#include "scenario/Monde.h"
 #include "scenario/Rapport.h"
 
 #include <QCoreApplication>
@@ -77,19 +76,25 @@ QString Execution::PrepareMonde()
     return temporaire_->path();
 }
 
+QStringList Execution::Arguments(const Monde& monde) const
+{
+    QStringList arguments = {QStringLiteral("--un"), QStringLiteral("--monde"), monde.Racine(),
+                             QStringLiteral("--limite"), QString::number(commande_.Limite)};
+    if (!commande_.Sortie.isEmpty()) {
+        const QString sortie =
+            commande_.Monde.isEmpty() ? monde.Racine() : QDir(commande_.Sortie).absolutePath();
+        QDir().mkpath(sortie);
+        arguments << QStringLiteral("--sortie") << sortie;
+    }
+    return arguments << fichier_;
+}
+
 void Execution::Demarre()
 {
-    QString sortie;
     try {
         const Monde monde = Monde::Cree(PrepareMonde(), QStringLiteral(INSTALLATION));
         processus_.setProcessEnvironment(Environnement(monde));
-        const bool ailleurs = !commande_.Monde.isEmpty() && !commande_.Sortie.isEmpty();
-        sortie = ailleurs ? QDir(commande_.Sortie).absolutePath() : monde.Racine();
-        QDir().mkpath(sortie);
-        processus_.start(QCoreApplication::applicationFilePath(),
-                         {QStringLiteral("--un"), QStringLiteral("--monde"), monde.Racine(),
-                          QStringLiteral("--sortie"), sortie, QStringLiteral("--limite"),
-                          QString::number(commande_.Limite), fichier_});
+        processus_.start(QCoreApplication::applicationFilePath(), Arguments(monde));
     } catch (const Echec& echec) {
         Echoue(echec.Phrase);
         QTimer::singleShot(0, this, &Execution::Finie);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scenario/Commande.h"
+#include "scenario/Monde.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -30,6 +31,7 @@ Q_SIGNALS:
 
 private:
     QString PrepareMonde();
+    QStringList Arguments(const Monde& monde) const;
     void Recoit();
     void RecoitLigne(const QByteArray& ligne);
     void Fin();

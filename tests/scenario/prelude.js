@@ -30,6 +30,11 @@
             Object.keys(partie).every(cle => memes(tout[cle], partie[cle]));
     }
 
+    function abrege(texte) {
+        const debut = texte.trim().split("\n")[0];
+        return debut.length > 70 ? debut.slice(0, 70) + "..." : debut;
+    }
+
     function controle(reussi, texte, attendu, obtenu) {
         const nom = texte === undefined ? "sans texte" : String(texte);
         langage.controle(reussi, nom, "attendu " + attendu + ", obtenu " + montre(obtenu), new Error().stack);
@@ -54,7 +59,7 @@
         for (const [attendu, reponse] of liste) {
             const texte = boite().texte;
             const convient = attendu instanceof RegExp ? attendu.test(texte) : attendu === texte;
-            controle(convient, "boîte « " + texte + " »",
+            controle(convient, "boîte « " + abrege(texte) + " »",
                 attendu instanceof RegExp ? String(attendu) : montre(attendu), texte);
             repondre(reponse);
         }

@@ -163,6 +163,7 @@ QWidget* FrmEssai::Boutons()
     auto* disposition = new QHBoxLayout(parent);
     auto* coche = new QCheckBox(QStringLiteral("&Coche"));
     coche->setObjectName(QStringLiteral("Chk"));
+    coche->setMinimumWidth(200);
     disposition->addWidget(coche);
     auto* cache = new QPushButton(parent);
     cache->setObjectName(QStringLiteral("CmdCache"));
