@@ -58,8 +58,8 @@ void Langage::AjouteGestes()
 
 void Langage::AjouteClavier()
 {
-    AjouteGeste(QStringLiteral("__caractere"), 2, 2, [](const Controle& controle, const Valeurs& valeurs) {
-        TapeCaractere(controle, valeurs.Texte(1).at(0));
+    AjouteGeste(QStringLiteral("__caractere"), 3, 3, [](const Controle& controle, const Valeurs& valeurs) {
+        TapeCaractere(controle, valeurs.Texte(1).at(0), valeurs.Booleen(2));
     });
     AjouteGeste(QStringLiteral("saisir"), 2, 2,
                 [](const Controle& controle, const Valeurs& valeurs) { Saisit(controle, valeurs.Texte(1)); });
@@ -94,7 +94,7 @@ void Langage::AjouteFenetres()
         }
         const bool gauche = bouton == QLatin1String("gauche");
         relais_.Agit([this, gauche] {
-            session_.Plateau.Clique(gauche ? outside::Plateau::Clic::Gauche : outside::Plateau::Clic::Droit);
+            session_.CliqueIcone(gauche ? outside::Plateau::Clic::Gauche : outside::Plateau::Clic::Droit);
         });
         return QVariant();
     });

@@ -168,9 +168,9 @@ void Langage::AjouteFin()
     Ajoute(QStringLiteral("relances"), 0, 0, [this](const Valeurs&) {
         return relais_.Lit([this] {
             QVariantList relances;
-            for (const auto& lancement : session_.Lanceur.Relances) {
-                relances.append(QVariantMap{{QStringLiteral("chemin"), lancement.Chemin},
-                                            {QStringLiteral("arguments"), Textes(lancement.Arguments)}});
+            for (const QStringList& lancement : session_.Lanceur.Relances) {
+                relances.append(QVariantMap{{QStringLiteral("chemin"), lancement.value(0)},
+                                            {QStringLiteral("arguments"), Textes(lancement.mid(1))}});
             }
             return QVariant(relances);
         });

@@ -118,9 +118,11 @@ void DonneFocus(const Controle& controle)
     Vise(controle, Qt::TabFocusReason);
 }
 
-void TapeCaractere(const Controle& controle, QChar caractere)
+void TapeCaractere(const Controle& controle, QChar caractere, bool suit)
 {
-    Vise(controle, Qt::OtherFocusReason);
+    if (!suit) {
+        Vise(controle, Qt::OtherFocusReason);
+    }
     QWidget* receveur = Receveur(controle);
     if (caractere == QLatin1Char('\n')) {
         QTest::keyClick(receveur, Qt::Key_Return);

@@ -59,6 +59,14 @@ void Session::ErreurNonGardee(const QString& phrase, const QString& lieu)
     }
 }
 
+void Session::CliqueIcone(outside::Plateau::Clic clic)
+{
+    if (Plateau.Bulle.isEmpty() || !Plateau.Receveur) {
+        throw Echec{QStringLiteral("aucune icône à côté de l'horloge")};
+    }
+    Plateau.Receveur(clic);
+}
+
 /// Deletes an ended program once the outermost loop is back in control.
 void Session::Libere()
 {

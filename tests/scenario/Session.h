@@ -1,10 +1,10 @@
 #pragma once
 
 #include "scenario/BoitesScenario.h"
-#include "scenario/Bords.h"
 #include "scenario/ImprimantesScenario.h"
 #include "scenario/Monde.h"
 #include "scenario/Programme.h"
+#include "support/DehorsFeint.h"
 
 namespace scenario {
 
@@ -27,6 +27,8 @@ public:
     bool ConstateFin();
     /// A failure that no handler caught. The program is told; an end that the script does not notice counts.
     void ErreurNonGardee(const QString& phrase, const QString& lieu);
+    /// A click on the tray icon. Throws `Echec` when there is none.
+    void CliqueIcone(outside::Plateau::Clic clic);
     /// What ended the program before its time; empty when nothing did.
     const QString& Accident() const { return accident_; }
 
@@ -34,10 +36,10 @@ public:
     /// Where screenshots go: the output directory, or the world without one.
     QString Sortie;
     scenario::Fabrique& Fabrique;
-    HorlogeScenario Horloge;
-    PlateauScenario Plateau;
-    DemarrageScenario Demarrage;
-    LanceurScenario Lanceur;
+    support::HorlogeFixe Horloge;
+    support::PlateauFeint Plateau;
+    support::DemarrageSystemeFeint Demarrage;
+    support::LanceurFeint Lanceur;
     BoitesScenario Boites;
     ImprimantesScenario Imprimantes;
 

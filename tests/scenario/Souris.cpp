@@ -75,6 +75,7 @@ void CliqueLieu(const Lieu& lieu, Geste geste)
     FermeMenusSauf(lieu.Widget->window());
     QWidget* fenetre = lieu.Widget->window();
     const QPoint point = PointFenetre(lieu);
+    QTest::mouseMove(fenetre->windowHandle(), point);
     if (geste == Geste::DoubleClic) {
         QTest::mouseDClick(fenetre->windowHandle(), Qt::LeftButton, {}, point);
     } else {

@@ -52,7 +52,8 @@
 
     global.taper = (nom, texte) => {
         if (typeof texte !== "string") throw new Error("taper attend un texte");
-        for (const caractere of texte.split("")) __caractere(nom, caractere);
+        // The first key goes to the control, the others to whatever has the focus by then.
+        texte.split("").forEach((caractere, rang) => __caractere(nom, caractere, rang > 0));
     };
 
     global.boites = liste => {

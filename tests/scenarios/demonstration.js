@@ -35,6 +35,7 @@ ajouter(ordo, "Misenpage", [0, "Arial", 12, 1, 0, 0]);
 ajouter(ordo, "Misenpage", [1, "Arial", 11, 0, 0, 0]);
 ecrire(valeur("CheminMedecin") + "/Options.cfg",
     '0,1,1,1,0,0,1,1,1,0,0,1,1,"",1,1,"",0,0,0,0,0,0,0,1,1,1,1,1\r\n');
+ecrire(valeur("CheminMedecin") + "/Dupli.cfg", '"Arial",30,0,1,12632256,100,28,1,"DUPLICATA"\r\n');
 
 choisir("FrmChoixBase.CboBase", 0);
 capture("FrmChoixBase");
@@ -49,6 +50,10 @@ fermer("FrmMedecins");
 clic("FrmDepart.CmdAP");
 capture("FrmAPROPOS");
 fermer("FrmAPROPOS");
+
+// A medication with notes in the local pharmacy
+ajouter("Medoc", "BddMed", [9001, null, null, "A prendre au milieu du repas.\nPas plus de 3 g par jour.",
+    "1 comprimé matin* et soir", "METFORMINE 1 G CPR (NOTES)"]);
 
 // The patient
 clic("FrmDepart.CmdNO");
@@ -65,6 +70,11 @@ egal(texte("FrmPatient.LblTitre"), "Monsieur  MARTIN  Paul", "le patient est ins
 capture("FrmPatient");
 clic("FrmPatient.CmdOK");
 vrai(ouverte("FrmMedoc"), "la pharmacie");
+
+clic("FrmMedoc.TV", "METFORMINE 1 G CPR (NOTES)");
+touche("FrmMedoc", "F2");
+capture("FrmIAM");
+fermer("FrmIAM");
 
 // Three medications of the long illness, two others, and a line that is none
 function prescrit(bouton, nom, titre, posologie) {

@@ -1,0 +1,17 @@
+# Plays two files at a time and looks at what the output directory keeps.
+file(REMOVE_RECURSE ${OUTPUT})
+execute_process(COMMAND ${RUNNER} ${FILES}/accueil/premier_patient.js ${FILES}/accueil/icone.js
+    --sortie ${OUTPUT} -j 2 OUTPUT_VARIABLE output RESULT_VARIABLE status)
+message("${output}")
+if(NOT status EQUAL 0 OR NOT output MATCHES "premier_patient.js\n.*icone.js\n.* passed, 0 failed\n$")
+    message(FATAL_ERROR "exit status ${status}")
+endif()
+foreach(kept premier_patient/travail-1.pdf premier_patient/programme/CheminData.cfg icone/utilisateur)
+    if(NOT EXISTS ${OUTPUT}/${kept})
+        message(FATAL_ERROR "not kept: ${kept}")
+    endif()
+endforeach()
+execute_process(COMMAND ${RUNNER} --inconnue OUTPUT_QUIET ERROR_QUIET RESULT_VARIABLE status)
+if(NOT status EQUAL 2)
+    message(FATAL_ERROR "a wrong command line gives ${status}")
+endif()

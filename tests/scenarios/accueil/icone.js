@@ -1,0 +1,22 @@
+installer();
+reduire("FrmDepart");
+egal(etat("FrmDepart"), "cachee", "réduite, la fenêtre se cache");
+icone("gauche");
+egal(etat("FrmOrdo"), "agrandie", "un clic gauche montre l'éditeur en grand");
+icone("droit");
+clic("FrmDepart.mnuAccueil");
+egal(etat("FrmDepart"), "normale", "le menu ramène l'accueil");
+faux(ouverte("FrmOrdo"), "l'éditeur est caché");
+clic("FrmDepart.CmdQuitter");
+vrai(fini(), "le programme est terminé");
+egal(relances(), [], "rien n'est relancé");
+
+lancer();
+clic("FrmChoixBase.CmdAnn");
+vrai(fini(), "Annuler termine le programme");
+plateau(false);
+lancer();
+egal(selection("FrmChoixBase.CboBase"), 0, "le choix de la veille est proposé");
+clic("FrmChoixBase.CmdSuite");
+reduire("FrmDepart");
+egal(etat("FrmDepart"), "reduite", "sans plateau, rien ne s'y cache");
