@@ -8,8 +8,10 @@
 
 #include <QLocale>
 #include <QThread>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
 
 namespace scenario {
 
@@ -22,6 +24,17 @@ void TendFilet(application::ApplicationQt& boucle, Session& session)
         session.ErreurNonGardee(phrase, lieu);
         TendFilet(boucle, session);
     });
+}
+
+constexpr int kFinInattendue = 3;
+
+/// Ends this process some time after its limit, should nobody watch it any more.
+void LimiteDuree(int secondes)
+{
+    std::thread([secondes] {
+        std::this_thread::sleep_for(std::chrono::seconds(secondes));
+        std::_Exit(kFinInattendue);
+    }).detach();
 }
 
 /// A screen of the smallest size that the program is made for, 96 dots an inch.
@@ -58,6 +71,7 @@ int JoueUn(const Commande& commande, int argc, char** argv, Fabrique& fabrique)
 {
     const Monde monde(commande.Monde);
     qInstallMessageHandler(Note);
+    LimiteDuree(commande.Limite + 10);
     PrepareEcran(monde);
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     application::ApplicationQt application(argc, argv);
@@ -78,6 +92,9 @@ int JoueUn(const Commande& commande, int argc, char** argv, Fabrique& fabrique)
     QObject::connect(fil.get(), &QThread::finished, &relais, [&] { Conclut(session, rapport); });
     fil->start();
     const int code = QApplication::exec();
+    if (!fil->isFinished()) {
+        std::_Exit(kFinInattendue); // the program ended the event loop under the script
+    }
     fil->wait();
     return code;
 }

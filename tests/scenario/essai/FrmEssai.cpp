@@ -177,6 +177,8 @@ QWidget* FrmEssai::Boutons()
         Ecris(trace_->text() + dehors_.Boites.Demande({QStringLiteral("Nom"), QStringLiteral("a")})
                                    .value_or(QStringLiteral(" rien")));
     });
+    Bouton(parent, QStringLiteral("CmdDialogues"), [this] { MontreDialogues(); });
+    Bouton(parent, QStringLiteral("CmdBoucleFinie"), [] { QCoreApplication::exit(); });
     Bouton(parent, QStringLiteral("CmdPaliers"), [this] {
         for (int i = 0; i < 50; ++i) {
             QCoreApplication::processEvents();
@@ -227,6 +229,24 @@ void FrmEssai::OuvreModale()
     connect(fin, &QPushButton::clicked, &modale, &QDialog::accept);
     modale.exec();
     Ecris(QStringLiteral("modale fermée"));
+}
+
+void FrmEssai::MontreDialogues()
+{
+    outside::Boites& boites = dehors_.Boites;
+    const QString rien = QStringLiteral("rien");
+    QStringList reponses;
+    reponses << boites.Dossier(QStringLiteral("Quel dossier ?")).value_or(rien);
+    const outside::ChoixFichier choix{QStringLiteral("Quel fichier ?"), QStringLiteral("Images (*.bmp)"),
+                                      QStringLiteral("/depart")};
+    reponses << boites.Ouvre(choix).value_or(rien) << boites.Enregistre(choix).value_or(rien);
+    const auto police = boites.ChoisitPolice({});
+    reponses << (police ? QStringLiteral("%1 %2 %3").arg(police->Nom).arg(police->Taille).arg(police->Gras)
+                        : rien);
+    const auto couleur = boites.ChoisitCouleur(255);
+    reponses << (couleur ? QString::number(*couleur) : rien);
+    boites.Stop(QStringLiteral("Fini"));
+    Ecris(reponses.join(QLatin1Char('|')));
 }
 
 void FrmEssai::OuvreMenu()

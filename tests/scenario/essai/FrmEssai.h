@@ -31,6 +31,7 @@ private:
     void Ecris(const QString& texte);
     void OuvreModale();
     void OuvreMenu();
+    void MontreDialogues();
 
     application::Dehors dehors_;
     QLabel* trace_ = nullptr;

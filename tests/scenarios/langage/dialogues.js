@@ -1,0 +1,21 @@
+lancer();
+clic("FrmEssai.CmdDialogues");
+egal(boite().genre, "dossier", "un dossier");
+egal(boite().titre, "Quel dossier ?", "son titre");
+repondre("/tmp/a");
+egal([boite().genre, boite().filtre, boite().depart], ["fichier", "Images (*.bmp)", "/depart"], "un fichier");
+repondre(null);
+egal(boite().genre, "enregistrer", "un fichier à écrire");
+repondre("/tmp/b.bmp");
+egal(boite().genre, "police", "une police");
+egal(boite().valeur, {nom: "Arial", taille: 10, gras: false, italique: false, souligne: false}, "celle de départ");
+repondre({nom: "Times", taille: 12.5, gras: true, italique: false, souligne: false});
+egal([boite().genre, boite().valeur], ["couleur", 255], "une couleur");
+repondre(255 + 65536);
+egal([boite().genre, boite().boutons], ["stop", ["OK"]], "un arrêt");
+repondre("OK");
+egal(texte("FrmEssai.LblTrace"), "/tmp/a|rien|/tmp/b.bmp|Times 12.5 1|65791", "les réponses");
+
+clic("FrmEssai.CmdDialogues");
+boites([["Quel dossier ?", null], ["Quel fichier ?", "/x"], ["Quel fichier ?", null], ["", null], ["", null], ["Fini", "OK"]]);
+egal(texte("FrmEssai.LblTrace"), "rien|/x|rien|rien|rien", "annulés");
