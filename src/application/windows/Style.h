@@ -62,6 +62,8 @@ QPushButton* BoutonAccueil(const QString& nomObjet, const QString& nomLegende, c
                            const QString& icone, QWidget* parent);
 /// Icon and caption at the left, for buttons that stand in a column. Before the button is first shown.
 void AligneAGauche(QPushButton* bouton);
+/// Less room beside the caption, for buttons that stand in a long row. Before the button is first shown.
+void Serre(QPushButton* bouton);
 /// A text that acts as a link: underlined under the mouse and in focus.
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent);
 /// A square button with an icon alone; the caption is its accessible name and tool tip.

@@ -98,6 +98,11 @@ void AligneAGauche(QPushButton* bouton)
     bouton->setProperty("alignement", QStringLiteral("gauche"));
 }
 
+void Serre(QPushButton* bouton)
+{
+    bouton->setProperty("alignement", QStringLiteral("serre"));
+}
+
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent)
 {
     auto* lien = BoutonDuGenre("lien", nomObjet, texte, QIcon(), parent);

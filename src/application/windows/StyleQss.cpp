@@ -36,6 +36,9 @@ QPushButton[genre="lien"] { background: transparent; border: 1px solid transpare
 QPushButton[genre="lien"]:hover { text-decoration: underline; }
 QPushButton[genre="lien"]:focus { border: 1px solid @encre@; text-decoration: underline; }
 QPushButton[alignement="gauche"] { text-align: left; }
+QPushButton[alignement="serre"], QPushButton[alignement="serre"]:disabled { padding: 6px 8px; }
+QPushButton[alignement="serre"]:focus { padding: 5px 7px; }
+QPushButton[alignement="serre"][genre="principal"]:focus { padding: 4px 6px; }
 QPushButton::menu-indicator { image: url(:/indicateurs/chevron-down-034ba2.png); subcontrol-position: right center;
     subcontrol-origin: padding; right: 8px; width: 12px; height: 12px; }
 QToolButton { background: @blanc@; border: 1px solid @filet@; border-radius: 6px; padding: 6px; }

@@ -50,6 +50,8 @@ QPushButton* BarreCommandes::CreeBouton(const Commande& commande, QWidget* carte
                               : style::Bouton(commande.Nom, texte, commande.Icone, carte);
     if (sens_ == Qt::Vertical) {
         style::AligneAGauche(bouton);
+    } else {
+        style::Serre(bouton);
     }
     style::Nomme(bouton, commande.Bulle, commande.Touche.toString(QKeySequence::NativeText));
     if (commande.Action) {
