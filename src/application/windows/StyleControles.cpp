@@ -12,7 +12,6 @@ namespace application::style {
 namespace {
 
 constexpr int kIconeAccueil = 36;
-constexpr int kHauteurAccueil = 84;
 constexpr int kIconeEnseigne = 40;
 constexpr int kEntreIconeEtMot = 5; // added to the style's own gap
 
@@ -80,7 +79,6 @@ QPushButton* BoutonAccueil(const QString& nomObjet, const QString& nomLegende, c
 {
     auto* tuile = BoutonDuGenre("accueil", nomObjet, {}, Icone(icone), parent);
     tuile->setIconSize({kIconeAccueil, kIconeAccueil});
-    tuile->setMinimumHeight(kHauteurAccueil);
     auto* legende = BoutonDuGenre("accueilLegende", nomLegende, texte, {}, tuile);
     legende->setShortcut({});
     legende->setFocusPolicy(Qt::NoFocus);

@@ -25,13 +25,13 @@ QPushButton[genre="destructeur"]:hover { background: @rougeSurvol@; border-color
 QPushButton[genre="destructeur"]:focus { border-color: @rouge@; }
 QPushButton[genre="destructeur"]:disabled { color: @eteint@; }
 QPushButton[genre="accueil"] { background: @accueil@; border: 1px solid @encre@; border-radius: 10px; text-align: left;
-    padding: 0 0 0 21px; }
+    min-height: 84px; padding: 0 0 0 21px; }
 QPushButton[genre="accueil"]:hover { background: @page@; }
 QPushButton[genre="accueil"]:pressed { background: @filet@; }
 QPushButton[genre="accueil"]:focus { border-width: 2px; padding-left: 20px; }
 QPushButton[genre="accueilLegende"] { background: transparent; border: none; color: @encre@; font-size: 13pt;
     font-weight: bold; text-align: left; padding: 0; }
-QPushButton[genre="lien"] { background: transparent; border: 1px solid transparent; color: @encre@; padding: 2px 4px;
+QPushButton[genre="lien"] { background: transparent; border: 1px solid transparent; color: @encre@; padding: 2px 1px;
     min-height: 18px; text-align: left; }
 QPushButton[genre="lien"]:hover { text-decoration: underline; }
 QPushButton[genre="lien"]:focus { border: 1px solid @encre@; text-decoration: underline; }
@@ -124,6 +124,7 @@ QMenuBar::item:selected { background: @page@; color: @encre@; }
 QMenu { background: @blanc@; border: 1px solid @filet@; padding: 6px 4px; }
 QMenu::item { padding: 6px 28px 6px 12px; min-height: 16px; border-radius: 4px; }
 QMenu::item:selected { background: @page@; color: @encre@; }
+QMenu::item:default { font-weight: bold; }
 QMenu::item:disabled { color: @eteint@; background: transparent; }
 QMenu::separator { height: 1px; background: @filet@; margin: 5px 8px; }
 QMenu::icon { padding-left: 8px; }

@@ -3,7 +3,7 @@
 #include "page/Peintres.h"
 #include "page/Rejeu.h"
 
-#include <QSize>
+#include <QPainter>
 
 namespace startup {
 
@@ -24,6 +24,11 @@ int Bleu(page::Couleur couleur)
     return static_cast<int>(couleur >> 16 & 255);
 }
 
+QRgb VersQt(page::Couleur couleur)
+{
+    return qRgb(Rouge(couleur), Vert(couleur), Bleu(couleur));
+}
+
 } // namespace
 
 void FondPeint::Ajuste(const QSize& taille)
@@ -35,8 +40,17 @@ void FondPeint::Ajuste(const QSize& taille)
     dessin_ = surface.Resultat();
 }
 
+void PeintBouts(QPainter& peintre, page::Couleur haut, page::Couleur bas)
+{
+    const int largeur = peintre.device()->width();
+    const int hauteur = peintre.device()->height();
+    peintre.fillRect(0, 0, largeur, hauteur / 2, VersQt(haut));
+    peintre.fillRect(0, hauteur / 2, largeur, hauteur, VersQt(bas));
+}
+
 void FondPeint::Montre(QPainter& peintre) const
 {
+    PeintBouts(peintre, haut_, bas_);
     page::Rejoue(dessin_, peintre, page::kPixelsParMillimetre);
 }
 

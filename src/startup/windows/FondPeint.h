@@ -26,4 +26,7 @@ private:
     page::Dessin dessin_;
 };
 
+/// Fills a window with both colours, so that the ends that a graded ground leaves out go on in them.
+void PeintBouts(QPainter& peintre, page::Couleur haut, page::Couleur bas);
+
 } // namespace startup

@@ -8,6 +8,7 @@
 #include "settings/Reglages.h"
 #include "startup/GestionMedecins.h"
 #include "startup/Medecins.h"
+#include "startup/windows/FondPeint.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -73,6 +74,7 @@ void FrmDepart::Restaure()
 void FrmDepart::paintEvent(QPaintEvent*)
 {
     QPainter peintre(this);
+    PeintBouts(peintre, page::Rvb(255, 255, 255), page::Rvb(222, 235, 250));
     page::Rejoue(face_, peintre, page::kPixelsParMillimetre);
 }
 
