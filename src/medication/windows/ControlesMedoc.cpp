@@ -215,12 +215,13 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
 }
 
 template <typename Controle>
-void DeBanque(ControlesMedoc& c, QWidget* parent, const QString& nom, const QString& texte)
+Controle* DeBanque(ControlesMedoc& c, QWidget* parent, const QString& nom, const QString& texte)
 {
     auto* controle = new Controle(texte, parent);
     controle->setObjectName(nom);
     controle->hide();
     c.DeBanque.append(controle);
+    return controle;
 }
 
 // What a drug bank brings. The local mode keeps it out of sight.
@@ -242,9 +243,8 @@ void ConstruitBanque(ControlesMedoc& c, QDialog* f)
     for (const auto* nom : {"CmdCopyright", "CmdPerso", "CmdVD"}) {
         DeBanque<QPushButton>(c, f, QLatin1String(nom), {});
     }
-    for (const auto* nom : {"ChkMono", "ChkDCI"}) {
-        DeBanque<QCheckBox>(c, f, QLatin1String(nom), {});
-    }
+    c.ChkMono = DeBanque<QCheckBox>(c, f, QStringLiteral("ChkMono"), {});
+    DeBanque<QCheckBox>(c, f, QStringLiteral("ChkDCI"), {});
 }
 
 void OrdonneTabulation(const ControlesMedoc& c)

@@ -49,6 +49,7 @@ struct ControlesMedoc
     QPushButton* CmdAnnule = nullptr;
     QPushButton* CmdOrdo = nullptr;
 
+    QCheckBox* ChkMono = nullptr;
     QList<QWidget*> DeBanque; ///< what the local mode hides
 };
 

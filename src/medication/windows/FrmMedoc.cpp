@@ -143,6 +143,7 @@ void FrmMedoc::showEvent(QShowEvent* event)
 void FrmMedoc::Active()
 {
     Choix& choix = contexte_.Choix;
+    c_.ChkMono->setChecked(contexte_.Reglages.Options.EtatChkMono == 1);
     ConfigureModeBase();
     if (choix.BaseChangee != 2) {
         ChargeMedicaments();
