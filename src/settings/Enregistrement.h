@@ -53,15 +53,21 @@ template <typename... Champs> Lecture LitEnregistrement(const QString& chemin, s
     return octets.isNull() ? Lecture::Absente : LitChamps(octets, champs);
 }
 
-/// Writes a record file; a damaged former one is kept beside. Throws `Erreur`.
+/// Writes a record file; a damaged former one is kept beside, one that reads the same already is left
+/// alone. Throws `Erreur`.
 template <typename... Champs> void EcritEnregistrement(const QString& chemin, std::tuple<Champs&...> champs)
 {
+    const QByteArray aEcrire = TexteEnregistrement(champs);
+    const QByteArray ancien = OctetsEnregistrement(chemin);
+    if (ancien == aEcrire) {
+        return;
+    }
     std::tuple<std::remove_const_t<Champs>...> brouillon;
     const auto references = std::apply([](auto&... champ) { return std::tie(champ...); }, brouillon);
-    if (LitEnregistrement(chemin, references) == Lecture::Abimee) {
+    if (!ancien.isNull() && LitChamps(ancien, references) == Lecture::Abimee) {
         GardeAbime(chemin);
     }
-    EcritOctets(chemin, TexteEnregistrement(champs));
+    EcritOctets(chemin, aEcrire);
 }
 
 } // namespace settings

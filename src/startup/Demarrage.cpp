@@ -26,6 +26,14 @@ using common::Tolere;
 
 namespace {
 
+/// A tree that has vanished is not made again: its doctor would take the empty one for his data.
+void ExigeCheminData(const Chemins& chemins)
+{
+    if (!common::DossierExiste(chemins.CheminData)) {
+        throw common::Erreur(messages::CheminDataDisparu(), common::CheminAffiche(chemins.CheminData));
+    }
+}
+
 /// A template that the tree has just received goes to the doctor too, when there is one.
 void CopieChezMedecin(const Chemins& chemins, const QString& nom)
 {
@@ -167,6 +175,7 @@ bool Demarrage::PrepareDonnees()
     if (!chemins.CheminData.contains(QLatin1String("DataScriptelle")) && !DemandeCheminData(contexte_)) {
         return false;
     }
+    ExigeCheminData(chemins);
     DeplaceInstallation(chemins);
     DeplaceCommun(contexte_);
     common::CreeDossierPrive(Joint(chemins.CheminData, QStringLiteral("Certificats")));

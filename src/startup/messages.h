@@ -58,6 +58,11 @@ inline QString CheminInenregistrable()
                           "enregistrer.\nChoisissez un autre répertoire.");
 }
 
+inline QString CheminDataDisparu()
+{
+    return QStringLiteral("Le répertoire des données n'existe plus, ou n'est pas accessible.");
+}
+
 // The first doctor.
 
 inline QString PremierMedecin()

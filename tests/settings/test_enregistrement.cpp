@@ -5,6 +5,8 @@
 #include "settings/Enregistrement.h"
 #include "settings/Reglages.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -54,6 +56,7 @@ private Q_SLOTS:
     void supporteNImporteQuoi();
     void gardeLeFichierAbime();
     void neGardePasUnFichierCourt();
+    void nEcritPasLeMeme();
     void laisseLeFichierQuandLaCopieEchoue();
 };
 
@@ -224,6 +227,23 @@ void TestEnregistrement::neGardePasUnFichierCourt()
     Marges marges;
     EcritEnregistrement(chemin, ChampsMarges(marges));
     QVERIFY(!common::FichierExiste(chemin + QStringLiteral(".abime")));
+}
+
+void TestEnregistrement::nEcritPasLeMeme()
+{
+    QTemporaryDir dossier;
+    const QString chemin = common::Joint(dossier.path(), QStringLiteral("Marges.cfg"));
+    Marges marges;
+    EcritEnregistrement(chemin, ChampsMarges(marges));
+    const QDateTime hier(QDate(2026, 11, 19), QTime(8, 0));
+    QFile fichier(chemin);
+    QVERIFY(fichier.open(QIODevice::ReadWrite) && fichier.setFileTime(hier, QFile::FileModificationTime));
+    fichier.close();
+    EcritEnregistrement(chemin, ChampsMarges(marges));
+    QCOMPARE(QFileInfo(chemin).lastModified(), hier);
+    marges.HauteurSaut = 3;
+    EcritEnregistrement(chemin, ChampsMarges(marges));
+    QVERIFY(QFileInfo(chemin).lastModified() != hier);
 }
 
 void TestEnregistrement::laisseLeFichierQuandLaCopieEchoue()

@@ -1,4 +1,5 @@
 #include "MondeDemarrage.h"
+#include "common/Erreur.h"
 #include "settings/FichiersReglages.h"
 
 #include <QTest>
@@ -20,6 +21,7 @@ class TestPreparation : public QObject
 private Q_SLOTS:
     void cheminSansDataScriptelle();
     void cheminDataAbime();
+    void arbreDisparu();
     void deplaceLInstallation();
     void deplaceCommun();
     void optionsCourtes();
@@ -50,6 +52,15 @@ void TestPreparation::cheminDataAbime()
     monde.AttendPremierDemarrage();
     QVERIFY(monde.Demarre());
     QCOMPARE(common::LitFichier(monde.Programme("CheminData.cfg.abime")), abime);
+}
+
+void TestPreparation::arbreDisparu()
+{
+    MondeDemarrage monde;
+    monde.Premier();
+    common::SupprimeDossier(monde.Data);
+    QVERIFY_THROWS_EXCEPTION(common::Erreur, monde.Demarre());
+    QVERIFY(!common::DossierExiste(monde.Data));
 }
 
 void TestPreparation::deplaceLInstallation()
