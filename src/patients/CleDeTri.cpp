@@ -44,18 +44,64 @@ Repli CalculeRepli(char16_t c)
     return {base.unicode()};
 }
 
-constexpr int kTable = 0x180; // ASCII, Latin-1 and Latin Extended-A
-
-Repli Replie(char16_t c)
+/// A letter's class in the key, growing with the letter. Letters of one class that are not the same end
+/// the key, so that the order of the keys never contradicts the order of the texts.
+struct Classe
 {
-    static const auto table = [] {
-        std::array<Repli, kTable> replis;
+    quint8 Valeur = 0;
+    bool Finale = false;
+};
+
+constexpr Classe ClasseDe(char16_t lettre)
+{
+    if (lettre >= u'A' && lettre <= u'Z') {
+        return {quint8(19 + (lettre - u'A')), false};
+    }
+    if (lettre >= u'-' && lettre <= u'9') {
+        return {quint8(5 + (lettre - u'-')), false};
+    }
+    if (lettre == u' ') {
+        return {1, false};
+    }
+    if (lettre == u'\'') {
+        return {3, false};
+    }
+    if (lettre < u'\'') {
+        return {quint8(lettre < u' ' ? 0 : 2), true};
+    }
+    return {quint8(lettre < u'-' ? 4 : lettre < u'A' ? 18 : 45), true};
+}
+
+/// All that is asked of a character.
+struct Caractere
+{
+    Repli Lettres;
+    std::array<Classe, 2> Classes;
+    quint8 Majuscule = 0; ///< characters beyond Latin-1 share one value
+};
+
+Caractere Calcule(char16_t c)
+{
+    const Repli repli = CalculeRepli(c);
+    const char16_t majuscule = Majuscule(QChar(c)).unicode();
+    return {repli,
+            {ClasseDe(repli.Premier), ClasseDe(repli.Second)},
+            static_cast<quint8>(majuscule < 0x100 ? majuscule : 1)};
+}
+
+constexpr int kTable = 0x180; // ASCII, Latin-1 and Latin Extended-A
+using Table = std::array<Caractere, kTable>;
+
+const Table& Caracteres()
+{
+    static const Table table = [] {
+        Table caracteres;
         for (int i = 0; i < kTable; ++i) {
-            replis[size_t(i)] = CalculeRepli(char16_t(i));
+            caracteres[size_t(i)] = Calcule(char16_t(i));
         }
-        return replis;
+        return caracteres;
     }();
-    return c < kTable ? table[c] : CalculeRepli(c);
+    return table;
 }
 
 /// Reads a text letter by letter as it is sorted; 0 at its end.
@@ -70,7 +116,8 @@ public:
             return std::exchange(attente_, char16_t(0));
         }
         while (place_ < texte_.size()) {
-            const Repli repli = Replie(texte_[place_++].unicode());
+            const char16_t c = texte_[place_++].unicode();
+            const Repli repli = c < kTable ? caracteres_[c].Lettres : CalculeRepli(c);
             if (repli.Premier != 0) {
                 attente_ = repli.Second;
                 return repli.Premier;
@@ -80,72 +127,48 @@ public:
     }
 
 private:
+    const Table& caracteres_ = Caracteres();
     QStringView texte_;
     qsizetype place_ = 0;
     char16_t attente_ = 0;
 };
 
-constexpr int kBitsParLettre = 5;
-constexpr int kLettres = 12;
-constexpr int kBitsDeCle = kBitsParLettre * kLettres;
+constexpr int kBitsParLettre = 6;
+constexpr int kLettresParMot = 10;
+constexpr int kBitsDeMot = kBitsParLettre * kLettresParMot;
 
-/// A letter's class in the key. Two letters of one class that are not the same end the key, so that the
-/// order of the keys never contradicts the order of the texts.
-struct Classe
+/// Writes letter after letter into both words of a key.
+class Ecrivain
 {
-    quint64 Valeur;
-    bool Finale;
+public:
+    explicit Ecrivain(CleDeTri& cle) : cle_(cle) {}
+
+    /// False when the key is full, or ends with this letter.
+    bool Ajoute(Classe classe)
+    {
+        quint64& mot = nombre_ < kLettresParMot ? cle_.Repliee : cle_.Suite;
+        mot |= quint64(classe.Valeur) << (kBitsDeMot - kBitsParLettre * (nombre_ % kLettresParMot + 1));
+        ++nombre_;
+        return !classe.Finale && nombre_ < 2 * kLettresParMot;
+    }
+    /// The bits of the first word that no letter has written.
+    quint64 Reste() const
+    {
+        return (quint64(1) << (kBitsDeMot - kBitsParLettre * std::min(nombre_, kLettresParMot))) - 1;
+    }
+
+private:
+    CleDeTri& cle_;
+    int nombre_ = 0;
 };
 
-Classe ClasseDe(char16_t lettre)
+bool AjouteLettres(Ecrivain& ecrivain, const Caractere& caractere)
 {
-    if (lettre >= u'A' && lettre <= u'Z') {
-        return {5u + (lettre - u'A'), false};
+    if (caractere.Lettres.Premier == 0) {
+        return true;
     }
-    if (lettre == u' ') {
-        return {1, false};
-    }
-    if (lettre == u'-') {
-        return {3, false};
-    }
-    if (lettre < u' ') {
-        return {0, true};
-    }
-    return {lettre < u'-' ? 2u : lettre < u'A' ? 4u : 31u, true};
-}
-
-void CalculeRepliee(QStringView texte, CleDeTri& cle)
-{
-    Lecteur lecteur(texte);
-    int reste = kBitsDeCle;
-    bool finale = false;
-    while (reste > 0 && !finale) {
-        const char16_t lettre = lecteur.Suivant();
-        if (lettre == 0) {
-            break;
-        }
-        const Classe classe = ClasseDe(lettre);
-        reste -= kBitsParLettre;
-        cle.Repliee |= classe.Valeur << reste;
-        finale = classe.Finale;
-    }
-    cle.FinRepliee = cle.Repliee | ((quint64(1) << reste) - 1);
-}
-
-/// Characters beyond Latin-1 share one byte: equal bytes need `CommencePar`.
-quint64 OctetMajuscule(QChar c)
-{
-    const char16_t unite = Majuscule(c).unicode();
-    return unite < 0x100 ? unite : 1;
-}
-
-void CalculeMajuscule(QStringView texte, CleDeTri& cle)
-{
-    const qsizetype nombre = std::min<qsizetype>(8, texte.size());
-    for (qsizetype i = 0; i < nombre; ++i) {
-        cle.Majuscule |= OctetMajuscule(texte[i]) << (8 * i);
-        cle.Masque |= quint64(0xFF) << (8 * i);
-    }
+    return ecrivain.Ajoute(caractere.Classes[0]) &&
+           (caractere.Lettres.Second == 0 || ecrivain.Ajoute(caractere.Classes[1]));
 }
 
 } // namespace
@@ -165,9 +188,21 @@ std::strong_ordering CompareReplie(QStringView a, QStringView b)
 
 CleDeTri Cle(QStringView texte)
 {
+    constexpr qsizetype kMajuscules = 8;
+    const Table& caracteres = Caracteres();
     CleDeTri cle;
-    CalculeRepliee(texte, cle);
-    CalculeMajuscule(texte, cle);
+    Ecrivain ecrivain(cle);
+    bool ouverte = true;
+    for (qsizetype i = 0; i < texte.size() && (ouverte || i < kMajuscules); ++i) {
+        const char16_t c = texte[i].unicode();
+        const Caractere& caractere = c < kTable ? caracteres[c] : Calcule(c);
+        if (i < kMajuscules) {
+            cle.Majuscule |= quint64(caractere.Majuscule) << (8 * i);
+            cle.Masque |= quint64(0xFF) << (8 * i);
+        }
+        ouverte = ouverte && AjouteLettres(ecrivain, caractere);
+    }
+    cle.FinRepliee = cle.Repliee | ecrivain.Reste();
     return cle;
 }
 

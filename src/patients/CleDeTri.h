@@ -12,7 +12,8 @@ std::strong_ordering CompareReplie(QStringView a, QStringView b);
 /// What a text gives to a sort and to a search, in a few numbers.
 struct CleDeTri
 {
-    quint64 Repliee = 0;    ///< grows with the folded text; equal keys need `CompareReplie`
+    quint64 Repliee = 0;    ///< grows with the folded text, as far as its first letters tell
+    quint64 Suite = 0;      ///< the same for the letters behind; when both are equal `CompareReplie` decides
     quint64 FinRepliee = 0; ///< the greatest `Repliee` of the texts that begin with this one
     quint64 Majuscule = 0;  ///< the first eight characters in upper case, accents kept
     quint64 Masque = 0;     ///< the bytes of `Majuscule` that this text fills
@@ -24,6 +25,13 @@ CleDeTri Cle(QStringView texte);
 inline QChar Majuscule(QChar c)
 {
     return c.unicode() < 0x80 ? (c >= u'a' && c <= u'z' ? QChar(c.unicode() - 0x20) : c) : c.toUpper();
+}
+
+/// The text without the blanks around it; what `trimmed` gives, quicker where there are none.
+inline QStringView SansBlancs(QStringView texte)
+{
+    const auto lettre = [](QChar c) { return c > u' ' && c.unicode() < 0x7F; };
+    return !texte.isEmpty() && lettre(texte.front()) && lettre(texte.back()) ? texte : texte.trimmed();
 }
 
 /// True when the text begins with the other one, both in upper case. Accents are significant.

@@ -7,6 +7,27 @@
 
 namespace patients {
 
+namespace {
+
+/// A key in decimal digits, without the cost of a locale.
+int Entier(QStringView texte)
+{
+    constexpr qsizetype kChiffresSurs = 9;
+    if (texte.size() > kChiffresSurs) {
+        return texte.toInt();
+    }
+    int valeur = 0;
+    for (const QChar c : texte) {
+        if (c < u'0' || c > u'9') {
+            return texte.toInt();
+        }
+        valeur = valeur * 10 + (c.unicode() - u'0');
+    }
+    return valeur;
+}
+
+} // namespace
+
 int ListePatients::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : repertoire_.Nombre();
@@ -39,7 +60,7 @@ void ListePatients::Charge(storage::Base& medoc)
     Repertoire relu;
     medoc.ParcourtTextes(
         QStringLiteral("Patients"), {QStringLiteral("Index"), QStringLiteral("NomPatient")},
-        [&relu](std::span<const QStringView> textes) { relu.Ajoute(textes[0].toInt(), textes[1]); });
+        [&relu](std::span<const QStringView> textes) { relu.Ajoute(Entier(textes[0]), textes[1]); });
     relu.Trie();
     beginResetModel();
     repertoire_ = std::move(relu);

@@ -5,6 +5,8 @@
 
 namespace patients {
 
+struct Repere;
+
 /// Names with their keys, always in the order of a French reader: by the folded name, ties by the name
 /// itself, then by the key. Made for 100 000 names: one block of text, fixed-size rows.
 class Repertoire
@@ -35,6 +37,7 @@ private:
     struct Rangee
     {
         quint64 Repliee;
+        quint64 Suite;
         quint64 Majuscule;
         int Index;
         quint32 Debut; // in noms_, as the length
@@ -45,8 +48,10 @@ private:
     {
         return QStringView(noms_).mid(rangee.Debut, rangee.Longueur);
     }
-    Rangee Prepare(int index, QStringView nom);
-    bool Precede(const Rangee& a, quint64 repliee, int index, QStringView nom) const;
+    static Rangee Prepare(int index, QStringView nom);
+    std::vector<Repere> Reperes() const;
+    void TrieLesEgalites();
+    bool Precede(const Rangee& a, const Rangee& b, QStringView nomDeB) const;
 
     QString noms_;
     std::vector<Rangee> rangees_;

@@ -53,7 +53,7 @@ int ChercheParParcours(const Repertoire& repertoire, const QString& texte)
 /// A short text of letters that are easily mistaken for one another.
 QString AuHasard(QRandomGenerator& hasard, int longueurMaximale)
 {
-    const QString lettres = QStringLiteral("aAbBeEéÉèêoOœŒæ -'.1ZzßÿŸłÑ\u0301Ж");
+    const QString lettres = QStringLiteral("aAbBeEéÉèêoOœŒæ -'.1(9:~ZzßÿŸłÑ\u0301Ж");
     QString texte;
     for (int reste = hasard.bounded(longueurMaximale + 1); reste > 0; --reste) {
         texte += lettres[hasard.bounded(int(lettres.size()))];
@@ -146,9 +146,12 @@ private Q_SLOTS:
     {
         QRandomGenerator hasard(7);
         for (int tour = 0; tour < 20000; ++tour) {
-            const QString a = AuHasard(hasard, 15);
-            const QString b = AuHasard(hasard, 15);
-            if (Cle(a).Repliee < Cle(b).Repliee) {
+            const QString a = AuHasard(hasard, 25);
+            const QString b = AuHasard(hasard, 25);
+            const auto mots = [](const QString& texte) {
+                return std::pair(Cle(texte).Repliee, Cle(texte).Suite);
+            };
+            if (mots(a) < mots(b)) {
                 QVERIFY2(CompareReplie(a, b) < 0, qPrintable(a + u'|' + b));
             }
         }
