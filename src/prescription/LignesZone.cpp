@@ -16,7 +16,7 @@ int LignesZone::rowCount(const QModelIndex& parent) const
 
 QVariant LignesZone::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+    if (!index.isValid() || index.row() >= lignes_.size()) {
         return {};
     }
     const Ligne& ligne = lignes_[index.row()];

@@ -7,6 +7,7 @@
 #include "drugbank/Banque.h"
 #include "medication/Choix.h"
 #include "outside/Boites.h"
+#include "prescription/Editeur.h"
 #include "settings/FichiersReglages.h"
 #include "startup/Chemins.h"
 #include "startup/MedecinIni.h"
@@ -48,6 +49,14 @@ void ChargeLookOuDitPourquoi(Contexte& contexte)
     } catch (const common::Erreur& erreur) {
         contexte.Reglages.Look = {};
         contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
+    }
+}
+
+void SignaleLogo(Contexte& contexte)
+{
+    const QString defaut = prescription::DefautDuLogo(contexte.Reglages.Options);
+    if (!defaut.isEmpty()) {
+        contexte.Dehors.Boites.Information(defaut);
     }
 }
 
@@ -103,6 +112,7 @@ void ChangeMedecin(Contexte& contexte, int rang)
     ChargeBanque(contexte.Banque, contexte.Chemins.CheminMedecin);
     ChargeLookOuDitPourquoi(contexte);
     Annonce(contexte.Signaux);
+    SignaleLogo(contexte);
 }
 
 bool ExigeMedecin(Contexte& contexte)
