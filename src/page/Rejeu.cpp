@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QRawFont>
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace page {
@@ -44,6 +45,7 @@ private:
     bool PlaceGlyphes(const ItemTexte& item, const PoliceRejouee& police);
     void EcritUnAUn(const ItemTexte& item, double base);
     void Souligne(const ItemTexte& item, double base);
+    void Filet(double x, double x2, double milieu, double epaisseur);
     double EpaisseurDeTrait(int epaisseur) const;
 
     QPainter& peintre_;
@@ -120,9 +122,18 @@ void Rejeu::EcritUnAUn(const ItemTexte& item, double base)
 void Rejeu::Souligne(const ItemTexte& item, double base)
 {
     const Soulignement trait = MesureSoulignement(item.Police);
-    const double haut = base + (trait.Distance - trait.Epaisseur / 2) * unites_;
-    peintre_.fillRect(QRectF(item.X * unites_, haut, item.Largeur * unites_, trait.Epaisseur * unites_),
-                      CouleurQt(item.Encre));
+    Filet(item.X * unites_, (item.X + item.Largeur) * unites_, base + trait.Distance * unites_,
+          trait.Epaisseur * unites_);
+}
+
+// A level rule in the pen's colour, on whole points of the target: two rules of one thickness look alike.
+void Rejeu::Filet(double x, double x2, double milieu, double epaisseur)
+{
+    const double points = peintre_.device()->devicePixelRatioF();
+    const double hauteur = std::max(1.0, std::round(epaisseur * points)) / points;
+    const double haut = std::round((milieu - hauteur / 2) * points) / points;
+    peintre_.fillRect(QRectF(QPointF(x, haut), QPointF(x2, haut + hauteur)).normalized(),
+                      peintre_.pen().color());
 }
 
 // Never thinner than a unit: a line of the screen is at least one pixel.
@@ -134,15 +145,12 @@ double Rejeu::EpaisseurDeTrait(int epaisseur) const
 void Rejeu::operator()(const ItemTrait& item)
 {
     const double epaisseur = EpaisseurDeTrait(item.Epaisseur);
-    const QPointF debut(item.X * unites_, item.Y * unites_);
-    const QPointF fin(item.X2 * unites_, item.Y2 * unites_);
-    const QPointF demi(0, epaisseur / 2);
-    if (item.Y == item.Y2) {
-        peintre_.fillRect(QRectF(debut - demi, fin + demi).normalized(), CouleurQt(item.Encre));
-        return;
-    }
     peintre_.setPen(QPen(CouleurQt(item.Encre), epaisseur, Qt::SolidLine, Qt::FlatCap));
-    peintre_.drawLine(debut, fin);
+    if (item.Y == item.Y2) {
+        Filet(item.X * unites_, item.X2 * unites_, item.Y * unites_, epaisseur);
+    } else {
+        peintre_.drawLine(QPointF(item.X, item.Y) * unites_, QPointF(item.X2, item.Y2) * unites_);
+    }
 }
 
 void Rejeu::operator()(const ItemCadre& item)

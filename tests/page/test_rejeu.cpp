@@ -22,6 +22,18 @@ QImage Image(const page::Dessin& dessin, double parPouce)
     return image;
 }
 
+/// As a window shows it at 96 points an inch, on a screen of that density.
+QImage ImageAuZoom(const page::Dessin& dessin, double densite)
+{
+    const QSizeF taille = QSizeF(dessin.Largeur, dessin.Hauteur) * page::kPixelsParMillimetre;
+    QImage image((taille * densite).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(densite);
+    image.fill(Qt::white);
+    QPainter peintre(&image);
+    page::Rejoue(dessin, peintre, page::kPixelsParMillimetre);
+    return image;
+}
+
 bool EstEncre(const QImage& image, int x, int y)
 {
     return image.valid(x, y) && qGray(image.pixel(x, y)) < 200;
@@ -72,6 +84,7 @@ private Q_SLOTS:
     void unCaractereDUneAutrePolice();
     void leSoulignementCourtSousToutLeTexte();
     void lesTraitsOntLeurEpaisseur();
+    void deuxTraitsEgauxLeRestentALEcran();
     void leCadreNEstPasRempli();
     void lImageRemplitSaPlace();
     void laCouleurEstRougeVertBleu();
@@ -191,6 +204,20 @@ void TestRejeu::lesTraitsOntLeurEpaisseur()
     }
 }
 
+void TestRejeu::deuxTraitsEgauxLeRestentALEcran()
+{
+    for (const double densite : {1.0, 2.0}) {
+        QSet<int> hauteurs;
+        for (int dixieme = 0; dixieme < 20; ++dixieme) {
+            Surface cible(Cible::Imprimante, 40, 20);
+            cible.DrawWidth(2);
+            cible.Line(10, 10 + dixieme / 10.0, 30, 10 + dixieme / 10.0);
+            hauteurs.insert(qRound(BoiteDEncre(ImageAuZoom(cible.Resultat(), densite), 25.4).height()));
+        }
+        QCOMPARE(hauteurs.size(), 1);
+    }
+}
+
 void TestRejeu::leCadreNEstPasRempli()
 {
     Surface cible(Cible::Imprimante, 40, 20);
@@ -227,8 +254,8 @@ void TestRejeu::leFondCouvreChaquePixel()
 {
     Surface face(Cible::Depart, 30, 60);
     page::PeintFond(face, 100, 100, 100, 120, 120, 120, 0, 0, true);
-    for (const double parPouce : {96.0, 192.0}) {
-        const QImage image = Image(face.Resultat(), parPouce);
+    for (const double densite : {1.0, 1.5, 2.0}) {
+        const QImage image = ImageAuZoom(face.Resultat(), densite);
         for (int y = 0; y < image.height() - 2; ++y) {
             QVERIFY2(EstEncre(image, 20, y), qPrintable(QString::number(y)));
         }
