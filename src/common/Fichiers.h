@@ -52,7 +52,8 @@ void CopieDossier(const QString& source, const QString& destination);
 /// Deletes a directory with all below it. Throws `Erreur`.
 void SupprimeDossier(const QString& chemin);
 
-/// The directory and every one below it, breadth first. Hidden ones and those that cannot be read are passed over.
+/// The directory and every one below it, breadth first. Hidden ones and those that cannot be read are passed
+/// over.
 QStringList ListeDirectories(const QString& racine);
 
 } // namespace common

@@ -33,16 +33,14 @@ public:
     /// The window if it is loaded, else null.
     template <typename F> F* Presente() const
     {
-        const auto place =
-            std::ranges::find(fenetres_, std::type_index(typeid(F)), &Element::Genre);
+        const auto place = std::ranges::find(fenetres_, std::type_index(typeid(F)), &Element::Genre);
         return place == fenetres_.end() ? nullptr : static_cast<F*>(place->Fenetre.get());
     }
 
     /// Hides and unloads a window; it is deleted when control is back in the event loop.
     template <typename F> void Decharge()
     {
-        const auto place =
-            std::ranges::find(fenetres_, std::type_index(typeid(F)), &Element::Genre);
+        const auto place = std::ranges::find(fenetres_, std::type_index(typeid(F)), &Element::Genre);
         if (place != fenetres_.end()) {
             place->Fenetre->hide();
             place->Fenetre.release()->deleteLater();
