@@ -61,8 +61,10 @@ void Note(QtMsgType, const QMessageLogContext&, const QString& texte)
 void Conclut(Session& session, Rapport& rapport)
 {
     rapport.Termine();
-    if (QThread::currentThread()->loopLevel() > 1 || session.Boites.Ouverte()) {
-        std::_Exit(0); // a modal window is still open: its handler cannot return any more
+    // A handler that waits in a modal window cannot return any more, and one that threw has left the
+    // toolkit's own event behind: nothing is taken down then.
+    if (QThread::currentThread()->loopLevel() > 1 || session.Boites.Ouverte() || session.AEuUneErreur()) {
+        std::_Exit(0);
     }
     QCoreApplication::exit(0);
 }

@@ -53,6 +53,7 @@ bool Session::ConstateFin()
 
 void Session::ErreurNonGardee(const QString& phrase, const QString& lieu)
 {
+    erreur_ = true;
     accident_ = lieu.isEmpty() ? phrase : QStringLiteral("%1 (%2)").arg(phrase, lieu);
     if (programme_ && !fini_) {
         programme_->ArreteSurErreur(phrase, lieu);

@@ -27,6 +27,8 @@ public:
     bool ConstateFin();
     /// A failure that no handler caught. The program is told; an end that the script does not notice counts.
     void ErreurNonGardee(const QString& phrase, const QString& lieu);
+    /// True when a failure reached the net under the event loop, in this start or an earlier one.
+    bool AEuUneErreur() const { return erreur_; }
     /// A click on the tray icon. Throws `Echec` when there is none.
     void CliqueIcone(outside::Plateau::Clic clic);
     /// What ended the program before its time; empty when nothing did.
@@ -48,6 +50,7 @@ private:
 
     std::unique_ptr<Programme> programme_;
     bool fini_ = false;
+    bool erreur_ = false;
     QString accident_;
 };
 
