@@ -48,9 +48,7 @@ void FrmPatient::Branche()
 
 void FrmPatient::Ouvre(bool ouvreMedocApres)
 {
-    if (cheminCharge_ != contexte_.Chemins.CheminTravail) {
-        Charge();
-    }
+    Charge();
     if (exec() == QDialog::Accepted && ConfirmePatient(contexte_, ouvreMedocApres)) {
         fenetres_.Donne<medication::FrmMedoc>().exec();
     }
@@ -73,9 +71,9 @@ bool FrmPatient::event(QEvent* evenement)
 
 void FrmPatient::Charge()
 {
-    cheminCharge_ = contexte_.Chemins.CheminTravail;
-    if (!cheminCharge_.isEmpty()) {
-        liste_.Charge(contexte_.Bases.Medoc(cheminCharge_));
+    const QString& chemin = contexte_.Chemins.CheminTravail;
+    if (!chemin.isEmpty()) {
+        liste_.Charge(contexte_.Bases.Medoc(chemin));
     }
     Deselectionne();
 }

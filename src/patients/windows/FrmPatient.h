@@ -64,7 +64,6 @@ private:
     application::Contexte& contexte_;
     application::Fenetres& fenetres_;
     ListePatients liste_;
-    QString cheminCharge_;
     QListView* lstPatient_ = nullptr;
     ZoneRecherche* txtCherche_ = nullptr;
     QLabel* lblTitre_ = nullptr;

@@ -288,6 +288,18 @@ private Q_SLOTS:
         QCOMPARE(TexteDe(fenetre, "LblTitre"), QString());
     }
 
+    void UnPatientEntreAilleursEstLaALOuverture()
+    {
+        Scene scene;
+        scene.Fenetre();
+        scene.Enregistre({}, QStringLiteral("BERNARD  Luc"));
+        QuandOuverte<FrmPatient>([](FrmPatient& fenetre) {
+            QCOMPARE(Lignes(fenetre).first(), QStringLiteral("  BERNARD  Luc"));
+            fenetre.reject();
+        });
+        scene.Fenetre().Ouvre(false);
+    }
+
     void UnPatientSupprimeAilleursEstSignale()
     {
         Scene scene;
