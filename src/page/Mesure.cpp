@@ -44,13 +44,21 @@ QFontMetricsF MetriquesDeReference(const Police& police)
     return {PoliceQt(police), &reference};
 }
 
+// Some bold fonts put their underline on the baseline, where it would stick to the letters.
+double SousLaLigne(const Police& police, const QFontMetricsF& metriques)
+{
+    constexpr double emParPoint = kPointsParPouce / 72;
+    constexpr double jourMinimal = 0.05; // of the em
+    return std::max(metriques.underlinePos(), police.Taille * emParPoint * jourMinimal);
+}
+
 std::unique_ptr<MesuresDePolice> MesurePolice(const Police& police)
 {
     const QFontMetricsF metriques = MetriquesDeReference(police);
     auto mesures = std::make_unique<MesuresDePolice>();
     mesures->Ascendante = metriques.ascent() * kMillimetresParPoint;
     mesures->Hauteur = (metriques.ascent() + metriques.descent()) * kMillimetresParPoint;
-    mesures->Soulignement = {metriques.underlinePos() * kMillimetresParPoint,
+    mesures->Soulignement = {SousLaLigne(police, metriques) * kMillimetresParPoint,
                              metriques.lineWidth() * kMillimetresParPoint};
     mesures->Latines.fill(-1);
     return mesures;

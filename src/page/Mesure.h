@@ -23,7 +23,7 @@ double MesureHauteur(const Police& police);
 /// From the top of a line to its baseline.
 double MesureAscendante(const Police& police);
 
-/// From the baseline down to the middle of the underline, and the underline's thickness.
+/// From the baseline down to the top of the underline, and the underline's thickness.
 struct Soulignement
 {
     double Distance = 0;

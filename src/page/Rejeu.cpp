@@ -122,8 +122,8 @@ void Rejeu::EcritUnAUn(const ItemTexte& item, double base)
 void Rejeu::Souligne(const ItemTexte& item, double base)
 {
     const Soulignement trait = MesureSoulignement(item.Police);
-    Filet(item.X * unites_, (item.X + item.Largeur) * unites_, base + trait.Distance * unites_,
-          trait.Epaisseur * unites_);
+    Filet(item.X * unites_, (item.X + item.Largeur) * unites_,
+          base + (trait.Distance + trait.Epaisseur / 2) * unites_, trait.Epaisseur * unites_);
 }
 
 // A level rule in the pen's colour, on whole points of the target: two rules of one thickness look alike.

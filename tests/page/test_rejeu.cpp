@@ -83,6 +83,7 @@ private Q_SLOTS:
     void lesCaracteresRestentOuIlsSontMesures();
     void unCaractereDUneAutrePolice();
     void leSoulignementCourtSousToutLeTexte();
+    void leSoulignementNeCollePasAuxLettres();
     void lesTraitsOntLeurEpaisseur();
     void deuxTraitsEgauxLeRestentALEcran();
     void leCadreNEstPasRempli();
@@ -184,9 +185,28 @@ void TestRejeu::leSoulignementCourtSousToutLeTexte()
     const page::ItemTexte item = support::Textes(cible.Resultat())[0];
     const QImage image = Image(cible.Resultat(), 600);
     const double parMm = 600 / 25.4;
-    const double base = page::MesureAscendante(police) + page::MesureSoulignement(police).Distance;
+    const page::Soulignement trait = page::MesureSoulignement(police);
+    const double base = page::MesureAscendante(police) + trait.Distance + trait.Epaisseur / 2;
     for (double x = item.X + 0.1; x < item.X + item.Largeur - 0.1; x += 0.5) {
         QVERIFY(EstEncre(image, qRound(x * parMm), qRound(base * parMm)));
+    }
+}
+
+// In bold too there is paper between the letters and their underline.
+void TestRejeu::leSoulignementNeCollePasAuxLettres()
+{
+    for (const bool gras : {false, true}) {
+        Surface cible(Cible::Imprimante, 60, 12);
+        cible.Font({.Taille = 12, .Gras = gras, .Souligne = true});
+        cible.CurrentX(5);
+        cible.Print(u"MMM"_s);
+        const QImage image = Image(cible.Resultat(), 600);
+        int traversees = 0;
+        const int x = qRound(5.6 * 600 / 25.4); // through the first letter's left stem
+        for (int y = 1; y < image.height(); ++y) {
+            traversees += EstEncre(image, x, y) && !EstEncre(image, x, y - 1) ? 1 : 0;
+        }
+        QCOMPARE(traversees, 2);
     }
 }
 
