@@ -75,8 +75,10 @@ constexpr Classe ClasseDe(char16_t lettre)
 /// All that is asked of a character.
 struct Caractere
 {
-    Repli Lettres;
-    std::array<Classe, 2> Classes;
+    Repli Lettres = {};
+    std::array<Classe, 2> Classes = {};
+    quint8 Nombre = 0;    ///< of its letters
+    bool Simple = false;  ///< one letter that does not end a key
     quint8 Majuscule = 0; ///< characters beyond Latin-1 share one value
 };
 
@@ -84,9 +86,11 @@ Caractere Calcule(char16_t c)
 {
     const Repli repli = CalculeRepli(c);
     const char16_t majuscule = Majuscule(QChar(c)).unicode();
-    return {repli,
-            {ClasseDe(repli.Premier), ClasseDe(repli.Second)},
-            static_cast<quint8>(majuscule < 0x100 ? majuscule : 1)};
+    Caractere caractere{repli, {ClasseDe(repli.Premier), ClasseDe(repli.Second)}};
+    caractere.Nombre = static_cast<quint8>((repli.Premier != 0) + (repli.Second != 0));
+    caractere.Simple = caractere.Nombre == 1 && !caractere.Classes[0].Finale;
+    caractere.Majuscule = static_cast<quint8>(majuscule < 0x100 ? majuscule : 1);
+    return caractere;
 }
 
 constexpr int kTable = 0x180; // ASCII, Latin-1 and Latin Extended-A
@@ -137,38 +141,79 @@ constexpr int kBitsParLettre = 6;
 constexpr int kLettresParMot = 10;
 constexpr int kBitsDeMot = kBitsParLettre * kLettresParMot;
 
-/// Writes letter after letter into both words of a key.
-class Ecrivain
+/// One word of a key, filled letter after letter from the highest.
+struct Mot
 {
-public:
-    explicit Ecrivain(CleDeTri& cle) : cle_(cle) {}
+    quint64 Bits = 0;
+    int Nombre = 0;
 
-    /// False when the key is full, or ends with this letter.
-    bool Ajoute(Classe classe)
+    bool Plein() const { return Nombre == kLettresParMot; }
+    void Ajoute(quint8 valeur)
     {
-        quint64& mot = nombre_ < kLettresParMot ? cle_.Repliee : cle_.Suite;
-        mot |= quint64(classe.Valeur) << (kBitsDeMot - kBitsParLettre * (nombre_ % kLettresParMot + 1));
-        ++nombre_;
-        return !classe.Finale && nombre_ < 2 * kLettresParMot;
+        Bits = Bits << kBitsParLettre | valeur;
+        ++Nombre;
     }
-    /// The bits of the first word that no letter has written.
-    quint64 Reste() const
-    {
-        return (quint64(1) << (kBitsDeMot - kBitsParLettre * std::min(nombre_, kLettresParMot))) - 1;
-    }
-
-private:
-    CleDeTri& cle_;
-    int nombre_ = 0;
+    int Reste() const { return kBitsDeMot - kBitsParLettre * Nombre; }
+    quint64 Cale() const { return Nombre == 0 ? 0 : Bits << Reste(); }
 };
 
-bool AjouteLettres(Ecrivain& ecrivain, const Caractere& caractere)
+/// The plain way for all but a few characters: one letter, whose class does not end the key. Gives the
+/// place where it stops, at the text's end, at the word's or at another character.
+qsizetype RemplitSimples(QStringView texte, qsizetype place, Mot& mot)
 {
-    if (caractere.Lettres.Premier == 0) {
-        return true;
+    const Table& caracteres = Caracteres();
+    while (place < texte.size() && !mot.Plein()) {
+        const char16_t c = texte[place].unicode();
+        if (c >= kTable || !caracteres[c].Simple) {
+            break;
+        }
+        mot.Ajoute(caracteres[c].Classes[0].Valeur);
+        ++place;
     }
-    return ecrivain.Ajoute(caractere.Classes[0]) &&
-           (caractere.Lettres.Second == 0 || ecrivain.Ajoute(caractere.Classes[1]));
+    return place;
+}
+
+/// The letters of any one character. False when the key ends with it.
+bool AjouteLettres(char16_t c, Mot& premier, Mot& second)
+{
+    const Caractere caractere = c < kTable ? Caracteres()[c] : Calcule(c);
+    for (int n = 0; n < caractere.Nombre; ++n) {
+        Mot& mot = premier.Plein() ? second : premier;
+        if (mot.Plein()) {
+            return false;
+        }
+        mot.Ajoute(caractere.Classes[size_t(n)].Valeur);
+        if (caractere.Classes[size_t(n)].Finale) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void CalculeRepliee(QStringView texte, CleDeTri& cle)
+{
+    Mot premier;
+    Mot second;
+    for (qsizetype place = 0; place < texte.size() && !second.Plein();) {
+        place = RemplitSimples(texte, place, premier.Plein() ? second : premier);
+        if (place < texte.size() && !AjouteLettres(texte[place++].unicode(), premier, second)) {
+            break;
+        }
+    }
+    cle.Repliee = premier.Cale();
+    cle.Suite = second.Cale();
+    cle.FinRepliee = cle.Repliee | ((quint64(1) << premier.Reste()) - 1);
+}
+
+void CalculeMajuscule(QStringView texte, CleDeTri& cle)
+{
+    const Table& caracteres = Caracteres();
+    const qsizetype nombre = std::min<qsizetype>(8, texte.size());
+    for (qsizetype i = nombre - 1; i >= 0; --i) {
+        const char16_t c = texte[i].unicode();
+        cle.Majuscule = cle.Majuscule << 8 | (c < kTable ? caracteres[c].Majuscule : Calcule(c).Majuscule);
+        cle.Masque = cle.Masque << 8 | 0xFF;
+    }
 }
 
 } // namespace
@@ -188,21 +233,9 @@ std::strong_ordering CompareReplie(QStringView a, QStringView b)
 
 CleDeTri Cle(QStringView texte)
 {
-    constexpr qsizetype kMajuscules = 8;
-    const Table& caracteres = Caracteres();
     CleDeTri cle;
-    Ecrivain ecrivain(cle);
-    bool ouverte = true;
-    for (qsizetype i = 0; i < texte.size() && (ouverte || i < kMajuscules); ++i) {
-        const char16_t c = texte[i].unicode();
-        const Caractere& caractere = c < kTable ? caracteres[c] : Calcule(c);
-        if (i < kMajuscules) {
-            cle.Majuscule |= quint64(caractere.Majuscule) << (8 * i);
-            cle.Masque |= quint64(0xFF) << (8 * i);
-        }
-        ouverte = ouverte && AjouteLettres(ecrivain, caractere);
-    }
-    cle.FinRepliee = cle.Repliee | ecrivain.Reste();
+    CalculeRepliee(texte, cle);
+    CalculeMajuscule(texte, cle);
     return cle;
 }
 

@@ -58,6 +58,7 @@ QString ListePatients::Texte(int rang) const
 void ListePatients::Charge(storage::Base& medoc)
 {
     Repertoire relu;
+    relu.Reserve(repertoire_.Nombre());
     medoc.ParcourtTextes(
         QStringLiteral("Patients"), {QStringLiteral("Index"), QStringLiteral("NomPatient")},
         [&relu](std::span<const QStringView> textes) { relu.Ajoute(Entier(textes[0]), textes[1]); });

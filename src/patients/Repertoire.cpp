@@ -43,11 +43,13 @@ bool Repertoire::Precede(const Rangee& a, const Rangee& b, QStringView nomDeB) c
         return a.Suite < b.Suite;
     }
     const QStringView nomDeA = Nom(a);
+    if (nomDeA == nomDeB) {
+        return a.Index < b.Index;
+    }
     if (const auto ordre = CompareReplie(SansBlancs(nomDeA), SansBlancs(nomDeB)); ordre != 0) {
         return ordre < 0;
     }
-    const int ordre = nomDeA.compare(nomDeB);
-    return ordre != 0 ? ordre < 0 : a.Index < b.Index;
+    return nomDeA.compare(nomDeB) < 0;
 }
 
 void Repertoire::Trie()

@@ -26,14 +26,20 @@ QString NomDePatient(int rang)
     static const QStringList fins = {QStringLiteral("N"),  QStringLiteral("D"),   QStringLiteral("T"),
                                      QStringLiteral("ER"), QStringLiteral("OT"),  QStringLiteral("LE"),
                                      QStringLiteral("AC"), QStringLiteral("ÈRE"), QStringLiteral("-DUVAL")};
-    static const QStringList prenoms = {QStringLiteral("Paul"),  QStringLiteral("Anne-Marie"),
-                                        QStringLiteral("Émile"), QStringLiteral("Jean"),
-                                        QStringLiteral("Zoé"),   QStringLiteral("Catherine")};
+    static const QStringList prenoms = {
+        QStringLiteral("Paul"),        QStringLiteral("Anne-Marie"), QStringLiteral("Émile"),
+        QStringLiteral("Jean"),        QStringLiteral("Zoé"),        QStringLiteral("Catherine"),
+        QStringLiteral("Jean-Pierre"), QStringLiteral("Marie"),      QStringLiteral("Nathalie"),
+        QStringLiteral("Philippe"),    QStringLiteral("Isabelle"),   QStringLiteral("Michel"),
+        QStringLiteral("Françoise"),   QStringLiteral("Alain"),      QStringLiteral("Sylvie"),
+        QStringLiteral("Nicolas"),     QStringLiteral("Camille"),    QStringLiteral("Théo"),
+        QStringLiteral("Léa"),         QStringLiteral("Hugo"),       QStringLiteral("Chloé"),
+        QStringLiteral("Bernard"),     QStringLiteral("Monique"),    QStringLiteral("Hervé"),
+        QStringLiteral("Aurélie")};
     const int tire = static_cast<int>(qint64(rang) * 48271 % 2147483647);
     const auto choisit = [](const QStringList& mots, int tirage) { return mots[tirage % mots.size()]; };
     return choisit(debuts, tire) + choisit(milieux, tire / 12) + choisit(milieux, tire / 108) +
-           choisit(fins, tire / 972) + QStringLiteral("  ") + choisit(prenoms, tire / 8748) +
-           QStringLiteral(" %1").arg(tire % 97);
+           choisit(fins, tire / 972) + QStringLiteral("  ") + choisit(prenoms, tire / 8748);
 }
 
 struct Cabinet : MondePatients
