@@ -5,19 +5,20 @@
 
 namespace patients {
 
-/// One choice of `Opt(0)` to `Opt(5)`: the word that is stored, the abbreviation beside the button.
+/// One choice of `Opt(0)` to `Opt(5)`: the word that is stored, the abbreviation
+/// beside the button with its Alt letter.
 struct Civilite
 {
     const char16_t* Mot;
     const char16_t* Libelle;
 };
 
-constexpr std::array<Civilite, 6> kCivilites = {{{u"Monsieur", u"M."},
-                                                 {u"Madame", u"Mme"},
-                                                 {u"Mademoiselle", u"Mlle"},
-                                                 {u"Enfant", u"Enfant"},
-                                                 {u"Nourrisson", u"Nourrisson"},
-                                                 {u"", u"Pas de civilité"}}};
+constexpr std::array<Civilite, 6> kCivilites = {{{u"Monsieur", u"&M."},
+                                                 {u"Madame", u"Mm&e"},
+                                                 {u"Mademoiselle", u"Ml&le"},
+                                                 {u"Enfant", u"En&fant"},
+                                                 {u"Nourrisson", u"Nou&rrisson"},
+                                                 {u"", u"Pas de &civilité"}}};
 constexpr int kSansCivilite = 5;
 
 /// The option of a stored word; -1 for a word that no option has.

@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 
 namespace patients {
 
@@ -33,6 +34,9 @@ void FrmNouveauP::Branche()
     }
     connect(cmdCI_, &QPushButton::clicked, this, &FrmNouveauP::AjoutePrecautions);
     connect(lstCi_, &QListView::doubleClicked, this, &FrmNouveauP::RetirePrecaution);
+    auto* suppression = new QShortcut(QKeySequence(Qt::Key_Delete), lstCi_);
+    suppression->setContext(Qt::WidgetShortcut);
+    connect(suppression, &QShortcut::activated, this, &FrmNouveauP::RetirePrecaution);
     connect(cmdOK_, &QPushButton::clicked, this, &FrmNouveauP::Valide);
     connect(cmdAnnuler_, &QPushButton::clicked, this, &FrmNouveauP::reject);
 }

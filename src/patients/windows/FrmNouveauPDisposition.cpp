@@ -75,11 +75,9 @@ QLineEdit* FrmNouveauP::FaitTxt(int numero, QWidget* carte)
 
 QBoxLayout* FrmNouveauP::FaitCivilites(QWidget* carte)
 {
-    constexpr std::array<const char16_t*, 6> kLettres = {u"&M.",     u"Mm&e",        u"Ml&le",
-                                                         u"En&fant", u"Nou&rrisson", u"Pas de &civilité"};
     auto* rangee = new QHBoxLayout;
     for (size_t i = 0; i < opt_.size(); ++i) {
-        opt_[i] = new QRadioButton(QString::fromUtf16(kLettres[i]), carte);
+        opt_[i] = new QRadioButton(QString::fromUtf16(kCivilites[i].Libelle), carte);
         opt_[i]->setObjectName(QStringLiteral("Opt(%1)").arg(i));
         opt_[i]->setToolTip(MotDeCivilite(static_cast<int>(i)));
         rangee->addWidget(opt_[i]);
@@ -142,7 +140,7 @@ QWidget* FrmNouveauP::FaitPrecautions()
     lstCi_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     lstCi_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     lstCi_->setMinimumHeight(3 * style::kHauteurRangee);
-    lstCi_->setToolTip(QStringLiteral("Double-cliquez sur une précaution pour la supprimer"));
+    lstCi_->setToolTip(QStringLiteral("Double-cliquez sur une précaution pour la supprimer (Suppr)"));
     cmdCI_ = style::Bouton(QStringLiteral("CmdCI"), QStringLiteral("A&jouter une précaution"),
                            QStringLiteral("plus-lg"), carte);
     colonne->addWidget(style::Titre({}, QStringLiteral("Précau&tions"), carte, lstCi_));
