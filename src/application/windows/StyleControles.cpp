@@ -146,6 +146,7 @@ QWidget* Carte(QWidget* parent)
 QWidget* Enseigne(QWidget* parent)
 {
     auto* enseigne = new QWidget(parent);
+    enseigne->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     auto* disposition = new QHBoxLayout(enseigne);
     disposition->setContentsMargins(0, 0, 0, 0);
     disposition->setSpacing(kEntreGroupes);
