@@ -1,5 +1,8 @@
 #include "medication/windows/FrmMedoc.h"
+#include "prescription/Journal.h"
 #include "prescription/windows/FrmOrdo.h"
+#include "settings/FichiersReglages.h"
+#include "settings/windows/FrmOptions.h"
 #include "startup/messagesDepart.h"
 #include "startup/windows/FrmAPROPOS.h"
 #include "startup/windows/ProgrammeDeTest.h"
@@ -199,6 +202,66 @@ private Q_SLOTS:
         common::EcritFichier(pdf, "%PDF-1.4");
         Entree(depart, "mnuAideNewIT")->trigger();
         QCOMPARE(programme.Lanceur.Documents, QStringList{pdf});
+    }
+
+    void TheJournalIsOpened()
+    {
+        ProgrammeDeTest programme;
+        startup::FrmDepart& depart = programme.Installe();
+        const application::Contexte& contexte = programme.Contexte();
+        programme.Contexte().Reglages.Options.TenirJournal = 1;
+        Q_EMIT programme.Contexte().Signaux.ReglagesChanges();
+        programme.Boites.AttendInformation(startup::messages::JournalVide());
+        Entree(depart, "mnuJournal")->trigger();
+        const QString journal = prescription::CheminJournal(contexte.Chemins.CheminMedecin,
+                                                            contexte.Medecins.NomMedecinSignature);
+        prescription::TientJournal(journal, QStringLiteral("une ligne"));
+        Entree(depart, "mnuJournal")->trigger();
+        QCOMPARE(programme.Lanceur.Documents, QStringList{journal});
+    }
+
+    void TheTrayOpensTheOptions()
+    {
+        ProgrammeDeTest programme;
+        startup::FrmDepart& depart = programme.Installe();
+        bool ouverte = false;
+        QTimer::singleShot(0, &depart, [&] {
+            auto& options = programme.Fenetres().Donne<settings::FrmOptions>();
+            ouverte = options.isVisible() && options.isModal() && !depart.isVisible();
+            QTest::keyClick(&options, Qt::Key_Escape);
+        });
+        Entree(depart, "mnuOptions")->trigger();
+        QVERIFY(ouverte);
+        QCOMPARE(programme.Fenetres().Donne<prescription::FrmOrdo>().cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void TheTrayMinimisesTheEditor()
+    {
+        ProgrammeDeTest programme;
+        startup::FrmDepart& depart = programme.Installe();
+        auto& ordo = programme.Fenetres().Donne<prescription::FrmOrdo>();
+        ordo.show();
+        Entree(depart, "mnuMinimiser")->trigger();
+        QVERIFY(ordo.isMinimized());
+        Entree(depart, "mnuOrdonnance")->trigger();
+        QVERIFY(ordo.isMaximized());
+    }
+
+    void ReducedAtTheStartItWaitsInTheTray()
+    {
+        ProgrammeDeTest programme;
+        programme.Installe();
+        settings::Options options = programme.Contexte().Reglages.Options;
+        options.ReduitLancement = 1;
+        settings::EcritOptions(options, programme.Contexte().Chemins.CheminMedecin);
+        programme.Cree();
+        programme.Demarre([](startup::FrmChoixBase& choix) { QTest::keyClick(&choix, Qt::Key_Return); });
+        auto& depart = programme.Fenetres().Donne<startup::FrmDepart>();
+        QTest::qWait(20);
+        QVERIFY(!depart.isVisible());
+        QVERIFY(depart.isMinimized());
+        Entree(depart, "mnuAccueil")->trigger();
+        QVERIFY(depart.isVisible());
     }
 
     void WithoutDoctorTheToolsRefuse()
