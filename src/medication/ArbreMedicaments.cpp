@@ -1,6 +1,6 @@
 #include "medication/ArbreMedicaments.h"
 
-#include "medication/Tri.h"
+#include "common/CleDeTri.h"
 
 #include <QBrush>
 #include <QFont>
@@ -25,12 +25,6 @@ QVariant AspectUtile(int role)
     default:
         return {};
     }
-}
-
-// The rule of the search: the text cut to the length of what is searched, trimmed, in capitals.
-bool Commence(const QString& texte, const QString& capitales)
-{
-    return Capitales(QStringView(texte).left(capitales.size()).trimmed()) == capitales;
 }
 
 } // namespace
@@ -78,17 +72,15 @@ void ArbreMedicaments::Retire(int rang)
 
 int ArbreMedicaments::Cherche(const QString& recherche) const
 {
-    const QString capitales = Capitales(QStringView(recherche).trimmed());
-    const QString cle = CleTri(capitales);
-    const auto debut = [&](const Noeud& noeud) { return CleTri(noeud.Texte).left(cle.size()); };
-    auto noeud = std::ranges::lower_bound(noeuds_, cle, {}, debut);
-    while (noeud != noeuds_.end() && debut(*noeud) == cle) {
-        if (Commence(noeud->Texte, capitales)) {
-            return static_cast<int>(noeud - noeuds_.begin());
-        }
-        ++noeud;
-    }
-    return -1;
+    // The texts that begin so lie between both keys; the accents decide among them.
+    const QStringView cherche = common::SansBlancs(recherche);
+    const common::CleDeTri cle = common::Cle(cherche);
+    const auto repliee = [](const Noeud& noeud) { return common::Cle(noeud.Texte).Repliee; };
+    const auto debut = std::ranges::lower_bound(noeuds_, cle.Repliee, {}, repliee);
+    const auto fin = std::ranges::upper_bound(debut, noeuds_.end(), cle.FinRepliee, {}, repliee);
+    const auto noeud = std::find_if(
+        debut, fin, [&](const Noeud& candidat) { return common::CommencePar(candidat.Texte, cherche); });
+    return noeud == fin ? -1 : static_cast<int>(noeud - noeuds_.begin());
 }
 
 } // namespace medication

@@ -22,7 +22,7 @@ public:
     const QList<Noeud>& Noeuds() const { return noeuds_; }
     /// The node of a row; null outside the tree.
     const Noeud* Lis(int rang) const;
-    /// Replaces all nodes. They are in the order of `CleTri` where a search is to find them.
+    /// Replaces all nodes. They are in the order of `Trie` where a search is to find them.
     void Remplit(QList<Noeud> noeuds);
     void Retire(int rang);
 

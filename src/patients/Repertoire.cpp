@@ -1,12 +1,13 @@
 #include "patients/Repertoire.h"
 
-#include "patients/CleDeTri.h"
-#include "patients/TriParCle.h"
+#include "common/CleDeTri.h"
+#include "common/TriParCle.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace patients {
+
+using common::SansBlancs;
 
 void Repertoire::Vide()
 {
@@ -23,7 +24,7 @@ void Repertoire::Reserve(int nombre)
 
 Repertoire::Rangee Repertoire::Prepare(int index, QStringView nom)
 {
-    const CleDeTri cle = Cle(SansBlancs(nom));
+    const common::CleDeTri cle = common::Cle(SansBlancs(nom));
     return {cle.Repliee, cle.Suite, cle.Majuscule, index, 0, static_cast<quint32>(nom.size())};
 }
 
@@ -46,7 +47,7 @@ bool Repertoire::Precede(const Rangee& a, const Rangee& b, QStringView nomDeB) c
     if (nomDeA == nomDeB) {
         return a.Index < b.Index;
     }
-    if (const auto ordre = CompareReplie(SansBlancs(nomDeA), SansBlancs(nomDeB)); ordre != 0) {
+    if (const auto ordre = common::CompareReplie(SansBlancs(nomDeA), SansBlancs(nomDeB)); ordre != 0) {
         return ordre < 0;
     }
     return nomDeA.compare(nomDeB) < 0;
@@ -54,36 +55,8 @@ bool Repertoire::Precede(const Rangee& a, const Rangee& b, QStringView nomDeB) c
 
 void Repertoire::Trie()
 {
-    std::vector<Repere> ordre = TrieParCle(Reperes());
-    std::vector<Rangee> triees;
-    triees.reserve(rangees_.size());
-    std::ranges::transform(ordre, std::back_inserter(triees),
-                           [this](const Repere& repere) { return rangees_[repere.Place]; });
-    rangees_ = std::move(triees);
-    TrieLesEgalites();
-}
-
-std::vector<Repere> Repertoire::Reperes() const
-{
-    std::vector<Repere> reperes;
-    reperes.reserve(rangees_.size());
-    for (const Rangee& rangee : rangees_) {
-        reperes.push_back({rangee.Repliee, static_cast<quint32>(reperes.size())});
-    }
-    return reperes;
-}
-
-void Repertoire::TrieLesEgalites()
-{
-    const auto precede = [this](const Rangee& a, const Rangee& b) { return Precede(a, b, Nom(b)); };
-    for (auto debut = rangees_.begin(); debut != rangees_.end();) {
-        const auto fin = std::find_if(debut, rangees_.end(),
-                                      [&](const Rangee& rangee) { return rangee.Repliee != debut->Repliee; });
-        if (fin - debut > 1) {
-            std::sort(debut, fin, precede);
-        }
-        debut = fin;
-    }
+    common::TrieParCle(rangees_, &Rangee::Repliee,
+                       [this](const Rangee& a, const Rangee& b) { return Precede(a, b, Nom(b)); });
 }
 
 int Repertoire::RangDe(int index) const
@@ -115,11 +88,11 @@ int Repertoire::Cherche(QStringView texte) const
         return -1;
     }
     // The names that begin so lie between both keys; the accents decide among them.
-    const CleDeTri cle = Cle(cherche);
+    const common::CleDeTri cle = common::Cle(cherche);
     auto place = std::ranges::lower_bound(rangees_, cle.Repliee, {}, &Rangee::Repliee);
     for (; place != rangees_.end() && place->Repliee <= cle.FinRepliee; ++place) {
         if (((place->Majuscule ^ cle.Majuscule) & cle.Masque) == 0 &&
-            CommencePar(SansBlancs(Nom(*place)), cherche)) {
+            common::CommencePar(SansBlancs(Nom(*place)), cherche)) {
             return static_cast<int>(place - rangees_.begin());
         }
     }

@@ -5,8 +5,6 @@
 
 namespace patients {
 
-struct Repere;
-
 /// Names with their keys, always in the order of a French reader: by the folded name, ties by the name
 /// itself, then by the key. Made for 100 000 names: one block of text, fixed-size rows.
 class Repertoire
@@ -49,8 +47,6 @@ private:
         return QStringView(noms_).mid(rangee.Debut, rangee.Longueur);
     }
     static Rangee Prepare(int index, QStringView nom);
-    std::vector<Repere> Reperes() const;
-    void TrieLesEgalites();
     bool Precede(const Rangee& a, const Rangee& b, QStringView nomDeB) const;
 
     QString noms_;

@@ -1,9 +1,10 @@
+#include "common/CleDeTri.h"
 #include "medication/ArbreMedicaments.h"
 #include "medication/Tri.h"
+#include "support/Hasard.h"
 
 #include <QAbstractItemModelTester>
 #include <QFont>
-#include <QRandomGenerator>
 #include <QTest>
 #include <algorithm>
 
@@ -30,26 +31,26 @@ QStringList Textes(const QList<Noeud>& noeuds)
     return textes;
 }
 
+QString Capitales(const QString& texte)
+{
+    QString capitales;
+    for (const QChar c : texte) {
+        capitales += c.toUpper();
+    }
+    return capitales;
+}
+
 // The walk that the search stands for, word by word.
 int Marche(const QList<Noeud>& noeuds, const QString& recherche)
 {
     const QString cherche = recherche.trimmed();
     for (int rang = 0; rang < noeuds.size(); ++rang) {
-        if (Capitales(noeuds[rang].Texte.left(cherche.size()).trimmed()) == Capitales(cherche)) {
+        const QString debut = noeuds[rang].Texte.left(cherche.size()).trimmed();
+        if (Capitales(debut) == Capitales(cherche)) {
             return rang;
         }
     }
     return -1;
-}
-
-QString Hasard(QRandomGenerator& hasard, int longueur)
-{
-    static const QString lettres = QStringLiteral("aAbBéÉèEœŒæoçC -ß'1zZ");
-    QString texte;
-    for (int i = 0; i < longueur; ++i) {
-        texte += lettres[hasard.bounded(static_cast<int>(lettres.size()))];
-    }
-    return texte;
 }
 
 } // namespace
@@ -111,14 +112,17 @@ private Q_SLOTS:
         for (int tour = 0; tour < 60; ++tour) {
             QStringList noms;
             for (int i = 0; i < 150; ++i) {
-                noms.append(Hasard(hasard, 1 + hasard.bounded(tour % 2 ? 6 : 12)));
+                noms.append(support::TexteAuHasard(hasard, tour % 2 ? 6 : 24));
             }
             ArbreMedicaments arbre;
             arbre.Remplit(Tries(noms));
-            std::ranges::sort(noms, {}, [](const QString& nom) { return std::pair(CleTri(nom), nom); });
+            std::ranges::sort(noms, [](const QString& a, const QString& b) {
+                const auto ordre = common::CompareReplie(a, b);
+                return ordre != 0 ? ordre < 0 : a < b;
+            });
             QCOMPARE(Textes(arbre.Noeuds()), noms);
             for (int i = 0; i < 100; ++i) {
-                const QString recherche = Hasard(hasard, hasard.bounded(4));
+                const QString recherche = support::TexteAuHasard(hasard, i % 3 == 0 ? 10 : 3);
                 QCOMPARE(arbre.Cherche(recherche), Marche(arbre.Noeuds(), recherche));
             }
         }

@@ -1,7 +1,7 @@
-#include "patients/CleDeTri.h"
+#include "common/CleDeTri.h"
 #include "patients/Repertoire.h"
+#include "support/Hasard.h"
 
-#include <QRandomGenerator>
 #include <QTest>
 
 using namespace patients;
@@ -32,7 +32,7 @@ QString Majuscules(QStringView texte)
 {
     QString majuscules;
     for (const QChar c : texte) {
-        majuscules += Majuscule(c);
+        majuscules += common::Majuscule(c);
     }
     return majuscules;
 }
@@ -48,17 +48,6 @@ int ChercheParParcours(const Repertoire& repertoire, const QString& texte)
         }
     }
     return -1;
-}
-
-/// A short text of letters that are easily mistaken for one another.
-QString AuHasard(QRandomGenerator& hasard, int longueurMaximale)
-{
-    const QString lettres = QStringLiteral("aAbBeEéÉèêoOœŒæ -'.1(9:~ZzßÿŸłÑ\u0301Ж");
-    QString texte;
-    for (int reste = hasard.bounded(longueurMaximale + 1); reste > 0; --reste) {
-        texte += lettres[hasard.bounded(int(lettres.size()))];
-    }
-    return texte;
 }
 
 } // namespace
@@ -129,30 +118,15 @@ private Q_SLOTS:
         for (int tour = 0; tour < 60; ++tour) {
             QStringList noms;
             for (int i = hasard.bounded(200); i > 0; --i) {
-                noms << AuHasard(hasard, 16);
+                noms << support::TexteAuHasard(hasard, 16);
             }
             const Repertoire repertoire = Fait(noms);
             for (int i = 0; i < 300; ++i) {
-                const QString texte = AuHasard(hasard, i % 3 == 0 ? 14 : 4);
+                const QString texte = support::TexteAuHasard(hasard, i % 3 == 0 ? 14 : 4);
                 QCOMPARE(repertoire.Cherche(texte), ChercheParParcours(repertoire, texte));
             }
             for (const QString& nom : noms) {
                 QCOMPARE(repertoire.Cherche(nom), ChercheParParcours(repertoire, nom));
-            }
-        }
-    }
-
-    void OrdreSansContradiction()
-    {
-        QRandomGenerator hasard(7);
-        for (int tour = 0; tour < 20000; ++tour) {
-            const QString a = AuHasard(hasard, 25);
-            const QString b = AuHasard(hasard, 25);
-            const auto mots = [](const QString& texte) {
-                return std::pair(Cle(texte).Repliee, Cle(texte).Suite);
-            };
-            if (mots(a) < mots(b)) {
-                QVERIFY2(CompareReplie(a, b) < 0, qPrintable(a + u'|' + b));
             }
         }
     }
@@ -163,7 +137,7 @@ private Q_SLOTS:
         Repertoire peuAPeu;
         QStringList noms;
         for (int i = 1; i <= 300; ++i) {
-            noms << AuHasard(hasard, 14);
+            noms << support::TexteAuHasard(hasard, 14);
             peuAPeu.Insere(peuAPeu.Place(i, noms.last()), i, noms.last());
         }
         const Repertoire dUnCoup = Fait(noms);

@@ -1,6 +1,6 @@
 // The list of 100 000 patients: filling it and one keystroke of its search.
 #include "bench/Rapport.h"
-#include "patients/CleDeTri.h"
+#include "common/CleDeTri.h"
 #include "patients/MondePatients.h"
 #include "patients/windows/FrmPatient.h"
 
@@ -174,7 +174,7 @@ void UneFrappe(benchmark::State& state)
         for (const QString& frappe : frappes) {
             benchmark::DoNotOptimize(
                 std::ranges::lower_bound(tries, frappe, [](QStringView a, QStringView b) {
-                    return patients::CompareReplie(a, b) < 0;
+                    return common::CompareReplie(a, b) < 0;
                 }));
         }
     };

@@ -3,7 +3,7 @@
 #include <QStringView>
 #include <compare>
 
-namespace patients {
+namespace common {
 
 /// How a French reader sorts names: accents and case count for nothing, "œ" reads as "oe"; a blank comes
 /// before a hyphen, and both before the letters.
@@ -37,4 +37,4 @@ inline QStringView SansBlancs(QStringView texte)
 /// True when the text begins with the other one, both in upper case. Accents are significant.
 bool CommencePar(QStringView texte, QStringView debut);
 
-} // namespace patients
+} // namespace common

@@ -1,10 +1,10 @@
-#include "patients/TriParCle.h"
+#include "common/TriParCle.h"
 
 #include <array>
 #include <numeric>
 #include <utility>
 
-namespace patients {
+namespace common {
 
 namespace {
 
@@ -32,7 +32,7 @@ void Distribue(const std::vector<Repere>& source, std::vector<Repere>& destinati
 
 } // namespace
 
-std::vector<Repere> TrieParCle(std::vector<Repere> reperes)
+std::vector<Repere> TrieReperes(std::vector<Repere> reperes)
 {
     std::vector<Repere> autre(reperes.size());
     for (int decalage = 0; decalage < kBitsDeCle; decalage += kBits) {
@@ -42,4 +42,4 @@ std::vector<Repere> TrieParCle(std::vector<Repere> reperes)
     return reperes;
 }
 
-} // namespace patients
+} // namespace common

@@ -1,10 +1,10 @@
-#include "patients/CleDeTri.h"
+#include "common/CleDeTri.h"
 
 #include <QString>
 #include <algorithm>
 #include <array>
 
-namespace patients {
+namespace common {
 
 namespace {
 
@@ -246,4 +246,4 @@ bool CommencePar(QStringView texte, QStringView debut)
                       [](QChar x, QChar y) { return Majuscule(x) == Majuscule(y); });
 }
 
-} // namespace patients
+} // namespace common
