@@ -79,11 +79,11 @@ void Feuille::paintEvent(QPaintEvent* evenement)
 void Feuille::PeintPapier(QPainter& peintre) const
 {
     const QRectF feuille(QPointF(), TailleDeLaFeuille());
-    for (int ombre = style::kBordFeuille - 1; ombre > 0; --ombre) {
-        peintre.setPen(Qt::NoPen);
-        peintre.setBrush(QColor::fromRgba(style::kOmbre));
-        peintre.drawRoundedRect(feuille.adjusted(-ombre, style::kDescenteOmbre - ombre, ombre, ombre), ombre,
-                                ombre);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(QColor::fromRgba(style::kOmbre));
+    const QRectF dessous = feuille.translated(0, style::kDescenteOmbre);
+    for (int ombre = style::kEtendueOmbre; ombre > 0; --ombre) {
+        peintre.drawRoundedRect(dessous.adjusted(-ombre, -ombre, ombre, ombre), ombre, ombre);
     }
     peintre.fillRect(feuille, QColor(style::kPapier));
     peintre.setPen(QPen(QColor(style::kBordDuPapier), 1));

@@ -27,6 +27,7 @@ FrmOptions::FrmOptions(application::Contexte& contexte, application::Fenetres& f
     setWindowTitle(QStringLiteral("        Options de Scriptelle"));
     TS_->setObjectName(QStringLiteral("TS"));
     TS_->setExpanding(false);
+    TS_->setDrawBase(false);
     style::Nomme(TS_, QStringLiteral("Rubriques des options"));
     CmdFoc_->setObjectName(QStringLiteral("CmdFoc"));
     CmdFoc_->setFixedSize(0, 0);

@@ -35,8 +35,7 @@ OngletImprimantes::OngletImprimantes(application::Contexte& contexte, QWidget* p
     groupe->addWidget(CboPrint_);
     auto* legende = style::Legende(
         QStringLiteral("LblPdf"),
-        QStringLiteral(
-            "« %1 » enregistre la feuille dans le dossier PDF de vos données et l'ouvre à l'écran.")
+        QStringLiteral("« %1 » enregistre la feuille dans le dossier PDF de vos données et l'ouvre.")
             .arg(outside::NomFichierPdf()),
         carte);
     legende->setWordWrap(true);
