@@ -5,6 +5,8 @@
 #include "outside/messages.h"
 #include "page/Rejeu.h"
 
+#include <QCursor>
+#include <QGuiApplication>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrinter>
@@ -16,6 +18,7 @@ namespace {
 
 constexpr double kMillimetresParPouce = 25.4;
 
+/// Each sheet of the job once, on paper of its own, whatever the printer is set to by itself.
 void Prepare(QPrinter& imprimante, const QString& titre)
 {
     imprimante.setDocName(titre);
@@ -24,7 +27,16 @@ void Prepare(QPrinter& imprimante, const QString& titre)
     imprimante.setPageSize(QPageSize(QPageSize::A4));
     imprimante.setPageOrientation(QPageLayout::Portrait);
     imprimante.setPageMargins(QMarginsF(), QPageLayout::Millimeter);
+    imprimante.setDuplex(QPrinter::DuplexNone);
 }
+
+/// The busy pointer as long as it lives.
+struct Sablier
+{
+    Sablier() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Sablier() { QGuiApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(Sablier)
+};
 
 /// The origin of full page stands on the sheet's corner, whatever the printer cannot reach.
 void RejoueSur(QPrinter& imprimante, const Travail& travail)
@@ -71,6 +83,7 @@ void ImprimantesQt::Imprime(const QString& nom, const Travail& travail)
     if (info.isNull()) {
         throw common::Erreur(messages::ImprimanteAbsente(nom), nom);
     }
+    const Sablier sablier;
     QPrinter imprimante(info, QPrinter::HighResolution);
     Prepare(imprimante, travail.Titre);
     RejoueSur(imprimante, travail);
