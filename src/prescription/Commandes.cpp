@@ -10,6 +10,7 @@
 #include "prescription/Editeur.h"
 #include "prescription/Ordonnance.h"
 #include "prescription/messages.h"
+#include "startup/Chemins.h"
 #include "startup/GestionMedecins.h"
 #include "startup/Medecins.h"
 
@@ -66,6 +67,13 @@ void RevientAuxMedicaments(application::Contexte& contexte)
     EffaceApercu(contexte);
     contexte.Apercu.ModeApercu = 0;
     Q_EMIT contexte.Signaux.OrdonnanceChange();
+}
+
+void DemandeCertificat(application::Contexte& contexte)
+{
+    if (!contexte.Chemins.CheminMedecin.isEmpty()) {
+        contexte.Dehors.Boites.Information(messages::CertificatsAVenir());
+    }
 }
 
 void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang)

@@ -13,19 +13,20 @@ namespace startup {
 
 namespace {
 
-void Ouvre(application::Contexte& contexte, const QString& fichier, const QString& siAbsent)
+// The system is asked first, since it knows best what it opens.
+void Ouvre(application::Contexte& contexte, const QString& fichier)
 {
-    if (!common::FichierExiste(fichier)) {
-        contexte.Dehors.Boites.Information(siAbsent);
-    } else if (!contexte.Dehors.Lanceur.Ouvre(fichier)) {
-        contexte.Dehors.Boites.Information(messages::DocumentSansLecteur(common::CheminAffiche(fichier)));
+    if (!contexte.Dehors.Lanceur.Ouvre(fichier)) {
+        const QString affiche = common::CheminAffiche(fichier);
+        contexte.Dehors.Boites.Information(common::FichierExiste(fichier)
+                                               ? messages::DocumentSansLecteur(affiche)
+                                               : messages::DocumentAbsent(affiche));
     }
 }
 
 void OuvreDuProgramme(application::Contexte& contexte, const QString& nom)
 {
-    const QString fichier = common::Joint(contexte.Chemins.CheminProgramme, nom);
-    Ouvre(contexte, fichier, messages::DocumentAbsent(common::CheminAffiche(fichier)));
+    Ouvre(contexte, common::Joint(contexte.Chemins.CheminProgramme, nom));
 }
 
 } // namespace
@@ -42,11 +43,15 @@ void OuvreNouvelleAide(application::Contexte& contexte)
 
 void OuvreJournal(application::Contexte& contexte)
 {
-    if (ExigeMedecin(contexte)) {
-        Ouvre(contexte,
-              prescription::CheminJournal(contexte.Chemins.CheminMedecin,
-                                          contexte.Medecins.NomMedecinSignature),
-              messages::JournalVide());
+    if (!ExigeMedecin(contexte)) {
+        return;
+    }
+    const QString journal =
+        prescription::CheminJournal(contexte.Chemins.CheminMedecin, contexte.Medecins.NomMedecinSignature);
+    if (common::FichierExiste(journal)) {
+        Ouvre(contexte, journal);
+    } else {
+        contexte.Dehors.Boites.Information(messages::JournalVide());
     }
 }
 

@@ -1,9 +1,9 @@
 #include "prescription/windows/BarreCommandes.h"
 
 #include "application/windows/Style.h"
-#include "startup/messagesDepart.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QPushButton>
 
 namespace prescription {
@@ -54,13 +54,14 @@ QPushButton* BarreCommandes::CreeBouton(const Commande& commande, QWidget* carte
         style::Serre(bouton);
     }
     style::Nomme(bouton, commande.Bulle, commande.Touche.toString(QKeySequence::NativeText));
-    if (commande.Action) {
-        connect(bouton, &QPushButton::clicked, this, [action = commande.Action] { action(); });
-    } else {
-        bouton->setEnabled(false);
-        bouton->setToolTip(startup::messages::ProchaineVersion());
-    }
+    connect(bouton, &QPushButton::clicked, this, [action = commande.Action] { action(); });
+    bouton->installEventFilter(this);
     return bouton;
+}
+
+bool BarreCommandes::eventFilter(QObject* objet, QEvent* evenement)
+{
+    return evenement->type() == QEvent::MouseButtonDblClick || QWidget::eventFilter(objet, evenement);
 }
 
 QPushButton* BarreCommandes::BoutonDe(const QString& nom) const

@@ -18,7 +18,7 @@ struct Commande
     QString Bulle;
     QString Icone;
     prescription::Groupe Groupe = Groupe::Document;
-    std::function<void()> Action; ///< empty: not available yet
+    std::function<void()> Action;
     QKeySequence Touche = {};
 };
 

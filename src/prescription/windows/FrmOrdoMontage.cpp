@@ -2,6 +2,7 @@
 #include "prescription/Apercu.h"
 #include "prescription/Commandes.h"
 #include "prescription/Editeur.h"
+#include "prescription/Memoire.h"
 #include "prescription/Ordonnance.h"
 #include "prescription/messages.h"
 #include "prescription/windows/BarreCommandes.h"
@@ -40,13 +41,9 @@ QList<Commande> FrmOrdo::CommandesDuDocument()
         {QStringLiteral("CmdDate"), QStringLiteral("&Date"), QStringLiteral("&Date"),
          QStringLiteral("Changer la date de l'ordonnance"), QStringLiteral("calendar3"), Groupe::Document,
          [this] { Date(); }},
-        {QStringLiteral("CmdCertif"),
-         QStringLiteral("&Certificat"),
-         QStringLiteral("&Certificat"),
-         QStringLiteral("Certificats"),
-         QStringLiteral("file-earmark-text"),
-         Groupe::Document,
-         {}},
+        {QStringLiteral("CmdCertif"), QStringLiteral("&Certificat"), QStringLiteral("&Certificat"),
+         QStringLiteral("Certificats"), QStringLiteral("file-earmark-text"), Groupe::Document,
+         [this] { DemandeCertificat(contexte_); }},
         {QStringLiteral("CmdImprime"), QStringLiteral("&Imprimer"), QStringLiteral("&Imprimer"),
          QStringLiteral("Imprimer l'ordonnance"), QStringLiteral("printer"), Groupe::Papier,
          [this] { Imprime(); }, QKeySequence(QKeySequence::Print)},
@@ -56,20 +53,12 @@ QList<Commande> FrmOrdo::CommandesDuDocument()
 QList<Commande> FrmOrdo::CommandesDuProgramme()
 {
     return {
-        {QStringLiteral("CmdEnr"),
-         QStringLiteral("&Mémoriser"),
-         QStringLiteral("&Mémoriser"),
-         QStringLiteral("Mémoriser l'ordonnance"),
-         QStringLiteral("bookmark-plus"),
-         Groupe::Memoire,
-         {}},
-        {QStringLiteral("CmdSupp"),
-         QStringLiteral("&Supprimer"),
-         QStringLiteral("&Supprimer"),
-         QStringLiteral("Supprimer l'ordonnance mémorisée"),
-         QStringLiteral("trash3"),
-         Groupe::Memoire,
-         {}},
+        {QStringLiteral("CmdEnr"), QStringLiteral("&Mémoriser"), QStringLiteral("&Mémoriser"),
+         QStringLiteral("Mémoriser l'ordonnance"), QStringLiteral("bookmark-plus"), Groupe::Memoire,
+         [this] { MemoriseOrdonnance(contexte_); }},
+        {QStringLiteral("CmdSupp"), QStringLiteral("&Supprimer"), QStringLiteral("&Supprimer"),
+         QStringLiteral("Supprimer l'ordonnance mémorisée"), QStringLiteral("trash3"), Groupe::Memoire,
+         [this] { SupprimeOrdonnanceMemorisee(contexte_); }},
         {QStringLiteral("CmdAccueil"), QStringLiteral("&Accueil"), QStringLiteral("&Accueil"),
          QStringLiteral("Revenir à la fenêtre d'accueil"), QStringLiteral("house"), Groupe::Programme,
          [this] { Accueil(); }},

@@ -5,6 +5,7 @@
 #include "application/windows/Style.h"
 #include "page/windows/Feuille.h"
 #include "prescription/Editeur.h"
+#include "prescription/messages.h"
 #include "support/Cabinet.h"
 
 #include <QApplication>
@@ -57,6 +58,7 @@ private Q_SLOTS:
     void TheStateAtOpening();
     void TheTabOrderFollowsTheEye();
     void WhatIsNotThereYetSaysSo();
+    void ADoubleClickPrintsOnce();
     void EveryCommandNeedsADoctor_data();
     void EveryCommandNeedsADoctor();
     void TheBarFollowsTheSettings();
@@ -106,28 +108,42 @@ void TestFrmOrdo::TheTabOrderFollowsTheEye()
         }
         suivant = suivant->nextInFocusChain();
     } while (suivant != depart);
-    QCOMPARE(ordre, QStringList({QStringLiteral("CmdNouvelle"), QStringLiteral("CmdPatient"),
-                                 QStringLiteral("CmdPharma"), QStringLiteral("CmdDate"),
-                                 QStringLiteral("CmdImprime"), QStringLiteral("CmdAccueil"),
-                                 QStringLiteral("CmdAide"), QStringLiteral("CmdFermer"),
-                                 QStringLiteral("ChkCiv"), QStringLiteral("CboMed")}));
+    QCOMPARE(ordre,
+             QStringList({QStringLiteral("CmdNouvelle"), QStringLiteral("CmdPatient"),
+                          QStringLiteral("CmdPharma"), QStringLiteral("CmdDate"), QStringLiteral("CmdCertif"),
+                          QStringLiteral("CmdImprime"), QStringLiteral("CmdEnr"), QStringLiteral("CmdSupp"),
+                          QStringLiteral("CmdAccueil"), QStringLiteral("CmdAide"),
+                          QStringLiteral("CmdFermer"), QStringLiteral("ChkCiv"), QStringLiteral("CboMed")}));
 }
 
 void TestFrmOrdo::WhatIsNotThereYetSaysSo()
 {
     Bureau bureau;
+    bureau.Prescrit(QStringLiteral("ASPIRINE"));
     bureau.Ouvre();
-    for (const char* nom : {"CmdCertif", "CmdEnr", "CmdSupp"}) {
-        QVERIFY(!bureau.Un<QPushButton>(nom).isEnabled());
-        QCOMPARE(bureau.Un<QPushButton>(nom).toolTip(),
-                 QStringLiteral("Disponible dans une prochaine version"));
-    }
+    bureau.Boites.AttendInformation(messages::CertificatsAVenir())
+        .AttendInformation(messages::MemoireAVenir());
+    bureau.Fenetre->Execute(QStringLiteral("CmdCertif"));
+    bureau.Fenetre->Execute(QStringLiteral("CmdEnr"));
+    QVERIFY(bureau.Boites.Epuise());
+    QCOMPARE(bureau.Etat.Ordonnance.LstChoix1.Lignes().size(), 1);
+}
+
+void TestFrmOrdo::ADoubleClickPrintsOnce()
+{
+    Bureau bureau;
+    bureau.Ouvre();
+    auto& imprime = bureau.Un<QPushButton>("CmdImprime");
+    QTest::mouseClick(&imprime, Qt::LeftButton);
+    QTest::mouseDClick(&imprime, Qt::LeftButton);
+    QCOMPARE(bureau.Imprimantes.Travaux.size(), 1);
 }
 
 void TestFrmOrdo::EveryCommandNeedsADoctor_data()
 {
     QTest::addColumn<QString>("commande");
-    for (const char* nom : {"CmdNouvelle", "CmdPatient", "CmdPharma", "CmdDate", "CmdImprime"}) {
+    for (const char* nom :
+         {"CmdNouvelle", "CmdPatient", "CmdPharma", "CmdDate", "CmdEnr", "CmdSupp", "CmdImprime"}) {
         QTest::newRow(nom) << QString::fromLatin1(nom);
     }
 }

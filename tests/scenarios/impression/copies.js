@@ -2,16 +2,11 @@
 const textes = page => page.filter(i => i.genre === "texte").map(i => i.texte);
 
 installer();
+ajouter("Medoc", "Patients", [1, "Monsieur", "MARTIN  Paul", "20/03/1953", "0", "", "", "", "", "", ""]);
 ajouter("Medoc", "BddMed", [5001, null, null, null, "1 comprimé matin* et soir", "ZZTEST 500 MG"]);
 clic("FrmDepart.CmdNO");
 clic("FrmOrdo.CmdNouvelle");
-clic("FrmPatient.CmdNouveauPatient");
-clic("FrmNouveauP.Opt(0)");
-taper("FrmNouveauP.Txt(0)", "martin");
-taper("FrmNouveauP.Txt(1)", "paul");
-taper("FrmNouveauP.MEB", "20/03/1953");
-clic("FrmNouveauP.CmdOK");
-clic("FrmPatient.CmdOK");
+doubleClic("FrmPatient.LstPatient", 0);
 clic("FrmMedoc.TV", "ZZTEST 500 MG");
 clic("FrmMedoc.CmdAjouter1");
 clic("FrmMedoc.CmdOrdo");

@@ -1,5 +1,6 @@
 // The journal of a doctor who keeps one.
 installer();
+ajouter("Medoc", "Patients", [1, "Monsieur", "MARTIN  Paul", "20/03/1953", "0", "", "", "", "", "", ""]);
 ajouter("Medoc", "BddMed", [5001, null, null, null, "1 matin", "ZZTEST 500 MG"]);
 const chemin = valeur("CheminMedecin");
 const champs = lire(chemin + "/Options.cfg").split(",");
@@ -10,13 +11,7 @@ lancer();
 clic("FrmChoixBase.CmdSuite");
 clic("FrmDepart.CmdNO");
 clic("FrmOrdo.CmdNouvelle");
-clic("FrmPatient.CmdNouveauPatient");
-clic("FrmNouveauP.Opt(0)");
-taper("FrmNouveauP.Txt(0)", "martin");
-taper("FrmNouveauP.Txt(1)", "paul");
-taper("FrmNouveauP.MEB", "20/03/1953");
-clic("FrmNouveauP.CmdOK");
-clic("FrmPatient.CmdOK");
+doubleClic("FrmPatient.LstPatient", 0);
 clic("FrmMedoc.TV", "ZZTEST 500 MG");
 clic("FrmMedoc.CmdAjouter1");
 cocher("FrmMedoc.ChkTri", true);

@@ -1,19 +1,14 @@
 // "Fichier PDF" writes the sheet among the data and opens it.
 horloge("20/11/2026 14:05");
 installer();
+ajouter("Medoc", "Patients", [1, "Monsieur", "MARTIN  Paul", "20/03/1953", "0", "", "", "", "", "", ""]);
 clic("FrmDepart.CmdOptions");
 egal(lignes("FrmOptions.CboPrint"), ["Bureau", "Fichier PDF"], "toujours parmi les imprimantes");
 choisir("FrmOptions.CboPrint", "Fichier PDF");
 clic("FrmOptions.CmdOK(2)");
 clic("FrmDepart.CmdNO");
 clic("FrmOrdo.CmdNouvelle");
-clic("FrmPatient.CmdNouveauPatient");
-clic("FrmNouveauP.Opt(0)");
-taper("FrmNouveauP.Txt(0)", "martin");
-taper("FrmNouveauP.Txt(1)", "paul");
-taper("FrmNouveauP.MEB", "20/03/1953");
-clic("FrmNouveauP.CmdOK");
-clic("FrmPatient.CmdOK");
+doubleClic("FrmPatient.LstPatient", 0);
 clic("FrmMedoc.CmdAnnule");
 clic("FrmOrdo.CmdImprime");
 const dossier = valeur("CheminTravail") + "/PDF";

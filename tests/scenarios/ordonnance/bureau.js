@@ -9,9 +9,6 @@ faux(visible("FrmOrdo.PctMenu2"), "la seconde ne l'est pas");
 egal(coche("FrmOrdo.ChkCiv"), 1, "la civilité est imprimée");
 egal(texte("FrmOrdo.CboMed"), "DR NEIBRE", "le médecin courant");
 egal(donnees("FrmOrdo.CboMed"), [1], "le numéro du médecin");
-faux(actif("FrmOrdo.CmdCertif"), "les certificats viendront");
-faux(actif("FrmOrdo.CmdEnr"), "la mémorisation viendra");
-faux(actif("FrmOrdo.CmdSupp"), "la suppression aussi");
 faux(actif("FrmOrdo.mnuHauteurN"), "pas de hauteur personnelle à quitter");
 capture("FrmOrdo-vide");
 

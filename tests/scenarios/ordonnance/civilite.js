@@ -2,15 +2,10 @@
 const textes = () => feuille("FrmOrdo.PctOrdo").filter(i => i.genre === "texte").map(i => i.texte);
 
 installer();
+ajouter("Medoc", "Patients", [1, "Monsieur", "MARTIN  Paul", "20/03/1953", "0", "", "", "", "", "", ""]);
 clic("FrmDepart.CmdNO");
 clic("FrmOrdo.CmdPatient");
-clic("FrmPatient.CmdNouveauPatient");
-clic("FrmNouveauP.Opt(0)");
-taper("FrmNouveauP.Txt(0)", "martin");
-taper("FrmNouveauP.Txt(1)", "paul");
-taper("FrmNouveauP.MEB", "20/03/1953");
-clic("FrmNouveauP.CmdOK");
-clic("FrmPatient.CmdOK");
+doubleClic("FrmPatient.LstPatient", 0);
 contient(textes(), "Monsieur  MARTIN  Paul", "le nom avec sa civilité");
 clic("FrmOrdo.ChkCiv");
 contient(textes(), "MARTIN  Paul", "le nom seul");

@@ -197,11 +197,13 @@ private Q_SLOTS:
         startup::FrmDepart& depart = programme.Installe();
         const QString aide = programme.Chemin(QStringLiteral("programme/Ordo.hlp"));
         const QString pdf = programme.Chemin(QStringLiteral("programme/Aide.pdf"));
-        programme.Boites.AttendInformation(startup::messages::DocumentAbsent(common::CheminAffiche(aide)));
+        programme.Lanceur.Reussit = false;
+        programme.Boites.AttendInformation(startup::messages::DocumentAbsent(common::CheminAffiche(aide)))
+            .AttendInformation(startup::messages::DocumentSansLecteur(common::CheminAffiche(pdf)));
         Entree(depart, "mnuAideOld")->trigger();
         common::EcritFichier(pdf, "%PDF-1.4");
         Entree(depart, "mnuAideNewIT")->trigger();
-        QCOMPARE(programme.Lanceur.Documents, QStringList{pdf});
+        QCOMPARE(programme.Lanceur.Documents, QStringList({aide, pdf}));
     }
 
     void TheJournalIsOpened()

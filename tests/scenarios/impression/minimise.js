@@ -1,0 +1,22 @@
+// The desk minimised behind a print; a preview painted afterwards changes nothing in the journal.
+installer();
+const chemin = valeur("CheminMedecin");
+const champs = lire(chemin + "/Options.cfg").split(",");
+champs[5] = "1";
+champs[24] = "1";
+clic("FrmDepart.CmdQuitter");
+ecrire(chemin + "/Options.cfg", champs.join(","));
+lancer();
+clic("FrmChoixBase.CmdSuite");
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdImprime");
+cocher("FrmOptions.Chkimp", true);
+egal(travaux().length, 1, "imprimé");
+egal(etat("FrmOrdo"), "cachee", "le bureau se range à côté de l'horloge");
+icone("gauche");
+egal(etat("FrmOrdo"), "agrandie", "et en revient");
+const journal = chemin + "/Journal_Docteur NEIBRE.log";
+egal(lire(journal), "20/11/2026**\n", "ni patient ni médicament");
+clic("FrmOrdo.CmdDate");
+repondre("01/02/2026");
+egal(lire(journal), "20/11/2026**\n", "l'aperçu n'y inscrit rien");
