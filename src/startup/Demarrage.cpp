@@ -34,11 +34,12 @@ void ExigeCheminData(const Chemins& chemins)
     }
 }
 
-/// A template that the tree has just received goes to the doctor too, when there is one.
+/// A template that the tree has just received goes to the doctor too, when there is one and he has none.
 void CopieChezMedecin(const Chemins& chemins, const QString& nom)
 {
-    if (!chemins.CheminMedecin.isEmpty()) {
-        common::CopieFichier(Joint(chemins.CheminData, nom), Joint(chemins.CheminMedecin, nom));
+    const QString& medecin = chemins.CheminMedecin;
+    if (!medecin.isEmpty() && !FichierExiste(Joint(medecin, nom))) {
+        common::CopieFichier(Joint(chemins.CheminData, nom), Joint(medecin, nom));
     }
 }
 
@@ -72,11 +73,15 @@ void PrepareMarges(Contexte& contexte)
     }
 }
 
-void PrepareDupli(Contexte& contexte)
+void PrepareDupli(Contexte& contexte, const QString& police)
 {
-    contexte.Reglages.Dupli = {};
+    settings::Dupli& dupli = contexte.Reglages.Dupli;
+    dupli = {};
+    if (!police.isEmpty()) {
+        dupli.DupliPolice = police;
+    }
     if (!FichierExiste(Joint(contexte.Chemins.CheminData, QStringLiteral("Dupli.cfg")))) {
-        settings::EcritDupli(contexte.Reglages.Dupli, contexte.Chemins.CheminData);
+        settings::EcritDupli(dupli, contexte.Chemins.CheminData);
         CopieChezMedecin(contexte.Chemins, QStringLiteral("Dupli.cfg"));
     }
 }
@@ -119,7 +124,9 @@ void OuvreBanque(Contexte& contexte)
     drugbank::Banque& banque = contexte.Banque;
     banque.FiltreBanque = 64;
     banque.ProduitBanque = 2;
-    settings::LitBaseCfg(banque, contexte.Chemins.CheminMedecin);
+    if (!contexte.Chemins.CheminMedecin.isEmpty()) {
+        settings::LitBaseCfg(banque, contexte.Chemins.CheminMedecin);
+    }
     if (!banque.ModuleAide) {
         banque.TypeBase = QStringLiteral("BIP");
     }
@@ -202,7 +209,7 @@ bool Demarrage::RegleDepuisOptions()
 {
     Q_EMIT contexte_.Signaux.ReglagesChanges();
     PrepareMarges(contexte_);
-    PrepareDupli(contexte_);
+    PrepareDupli(contexte_, ecrans_.PoliceFenetre);
     const int rangStockage = LitChoixDeStockage(contexte_);
     ChercheMedecinParDefaut(contexte_);
     if (ecrans_.MontreChoixBase && !ecrans_.MontreChoixBase(rangStockage)) {

@@ -64,8 +64,7 @@ void CreeMedecin(Contexte& contexte, const QString& nom, int numero)
 {
     const Chemins& chemins = contexte.Chemins;
     const QString& racine = chemins.CheminTravail;
-    const QString dossier =
-        CreeDossierMedecin(contexte.Dehors.Boites, chemins, racine, nom, ModeleOrdo(chemins));
+    const QString dossier = CreeDossierMedecin(chemins, racine, nom, ModeleOrdo(chemins));
     CopieReglages(racine, dossier);
     Medecins avecLui = contexte.Medecins;
     AjouteALaListe(avecLui, nom, numero);

@@ -60,7 +60,9 @@ inline QString CheminInenregistrable()
 
 inline QString CheminDataDisparu()
 {
-    return QStringLiteral("Le répertoire des données n'existe plus, ou n'est pas accessible.");
+    return QStringLiteral(
+        "Le répertoire des données, que désigne le fichier « CheminData.cfg », n'existe plus ou "
+        "n'est pas accessible.");
 }
 
 // The first doctor.
@@ -118,12 +120,6 @@ inline QString TraitUnion(const QString& nom)
 inline QString DejaInscrit(const QString& nom)
 {
     return QStringLiteral("Un médecin est déjà inscrit sous le nom \"") + nom + QStringLiteral("\".");
-}
-
-inline QString RepertoireExistant(const QString& dossier)
-{
-    return QStringLiteral("Le répertoire \"") + dossier +
-           QStringLiteral("\" existe déjà : les données qu'il contient sont conservées.");
 }
 
 inline QString TropDeMedecins()
