@@ -78,12 +78,12 @@ void FrmOptions::Ouvre(int onglet)
     exec();
 }
 
-void FrmOptions::OuvrePourPremiereImpression()
+bool FrmOptions::OuvrePourPremiereImpression()
 {
     Selectionne(imprimantes_->Numero());
     boutons_.at(TS_->currentIndex()).Annule->hide();
     imprimantes_->MontreConfirmation();
-    exec();
+    return exec() == QDialog::Accepted;
 }
 
 void FrmOptions::Selectionne(int onglet)
