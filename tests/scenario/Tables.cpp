@@ -13,6 +13,13 @@ namespace scenario {
 
 namespace {
 
+/// A text without characters is no null to the driver only when it is not the null text.
+QVariant SansTexteNul(const QVariant& valeur)
+{
+    const bool vide = valeur.typeId() == QMetaType::QString && valeur.toString().isEmpty();
+    return vide ? QVariant(QLatin1String("")) : valeur;
+}
+
 /// One connection for one call.
 class Connexion
 {
@@ -36,7 +43,7 @@ public:
         QSqlQuery requete(base_);
         requete.prepare(instruction);
         for (const QVariant& valeur : valeurs) {
-            requete.addBindValue(EstNul(valeur) ? QVariant() : valeur);
+            requete.addBindValue(EstNul(valeur) ? QVariant() : SansTexteNul(valeur));
         }
         if (!requete.exec()) {
             throw Echec{QStringLiteral("%1 : %2").arg(instruction, requete.lastError().text())};
