@@ -83,7 +83,11 @@ bool FrmOptions::OuvrePourPremiereImpression()
     Selectionne(imprimantes_->Numero());
     boutons_.at(TS_->currentIndex()).Annule->hide();
     imprimantes_->MontreConfirmation();
-    return exec() == QDialog::Accepted;
+    bool acceptee = false; // the window is unloaded by then
+    const auto suite = connect(this, &QDialog::accepted, this, [&acceptee] { acceptee = true; });
+    exec();
+    disconnect(suite);
+    return acceptee;
 }
 
 void FrmOptions::Selectionne(int onglet)
