@@ -5,8 +5,8 @@
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "drugbank/Banque.h"
-#include "outside/Boites.h"
 #include "outside/Plateau.h"
+#include "outside/Tente.h"
 #include "settings/FichiersReglages.h"
 #include "startup/DialoguesStockage.h"
 #include "startup/FichiersChemins.h"
@@ -146,16 +146,6 @@ void Appelle(const std::function<void()>& ecran)
     }
 }
 
-/// A failure here ends nothing, but a window that could not be filled is told of.
-void AppelleOuDitPourquoi(Contexte& contexte, const std::function<void()>& ecran)
-{
-    try {
-        Appelle(ecran);
-    } catch (const common::Erreur& erreur) {
-        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
-    }
-}
-
 } // namespace
 
 QString Version()
@@ -230,7 +220,7 @@ void Demarrage::TermineChargement()
         Tolere([&] { Appelle(ecrans_.Minimise); }); // the window is then shown at its size
     }
     if (!contexte_.Medecins.Liste.isEmpty()) {
-        AppelleOuDitPourquoi(contexte_, ecrans_.ChargeFenetres);
+        outside::Tente(contexte_.Dehors.Boites, [&] { Appelle(ecrans_.ChargeFenetres); });
         Q_EMIT contexte_.Signaux.FaceChange();
     }
     NettoieCheminData(contexte_.Chemins);

@@ -1,10 +1,9 @@
 #include "startup/GestionMedecins.h"
 
 #include "application/Signaux.h"
-#include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "startup/Chemins.h"
 #include "startup/FichiersChemins.h"
 #include "startup/InscriptionMedecin.h"
@@ -138,7 +137,7 @@ void InscritMedecin(Contexte& contexte)
         }
         CreeMedecin(contexte, nom, numero);
     } catch (const common::Erreur& erreur) {
-        boites.Stop(messages::CreationIncomplete(messages::Panne(erreur.Phrase(), erreur.Lieu())));
+        boites.Stop(messages::CreationIncomplete(outside::messages::Panne(erreur.Phrase(), erreur.Lieu())));
         return;
     }
     Q_EMIT contexte.Signaux.MedecinsChanges();
@@ -151,9 +150,13 @@ void SupprimeMedecin(Contexte& contexte)
     if (!SuppressionVoulue(contexte.Dehors.Boites, contexte.Medecins)) {
         return;
     }
-    RetireDeMedecinIni(contexte.Chemins.CheminTravail, contexte.Medecins.Liste[rang]);
+    outside::Boites& boites = contexte.Dehors.Boites;
+    const Medecin medecin = contexte.Medecins.Liste[rang];
+    if (!outside::Tente(boites, [&] { RetireDeMedecinIni(contexte.Chemins.CheminTravail, medecin); })) {
+        return;
+    }
     contexte.Bases.FermeOrdo();
-    SupprimeDonnees(contexte.Chemins.CheminMedecin);
+    outside::Tente(boites, [&] { SupprimeDonnees(contexte.Chemins.CheminMedecin); });
     RetireDeLaListe(contexte, rang);
 }
 
@@ -168,7 +171,7 @@ void PoseMedecinParDefaut(Contexte& contexte)
     } else {
         boites.Information(messages::SelectionnezUnMedecin());
     }
-    EcritCheminBase(contexte.Chemins, medecins);
+    outside::Tente(boites, [&] { EcritCheminBase(contexte.Chemins, medecins); });
 }
 
 bool QuitteMedecins(Contexte& contexte)

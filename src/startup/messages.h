@@ -167,11 +167,6 @@ inline QString ChoisissezMedecin()
     return QStringLiteral("Choisissez d'abord un médecin utilisateur.");
 }
 
-inline QString Panne(const QString& phrase, const QString& lieu)
-{
-    return phrase + QLatin1Char('\n') + lieu;
-}
-
 // The daily choice.
 
 inline QString ChoixObligatoire()
