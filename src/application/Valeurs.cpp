@@ -1,6 +1,8 @@
 #include "application/Valeurs.h"
 
 #include "application/Etat.h"
+#include "common/Nombres.h"
+#include "startup/Demarrage.h"
 
 #include <QHash>
 #include <functional>
@@ -14,10 +16,10 @@ using Registre = QHash<QString, Lecture>;
 
 template <typename Champ> QVariant EnVariant(const Champ& champ)
 {
-    if constexpr (std::is_same_v<Champ, bool>) {
-        return champ;
-    } else if constexpr (std::is_integral_v<Champ>) {
+    if constexpr (std::is_integral_v<Champ>) {
         return static_cast<int>(champ);
+    } else if constexpr (std::is_same_v<Champ, float>) {
+        return common::TexteSimple(champ).toDouble();
     } else if constexpr (std::is_floating_point_v<Champ>) {
         return static_cast<double>(champ);
     } else {
@@ -32,6 +34,7 @@ template <typename Champ> QVariant EnVariant(const Champ& champ)
 
 void AjouteChemins(Registre& registre)
 {
+    registre.insert(QStringLiteral("Version"), [](const Contexte&) { return startup::Version(); });
     VARIABLE(Chemins, CheminProgramme);
     VARIABLE(Chemins, CheminInstallation);
     VARIABLE(Chemins, CheminData);

@@ -23,13 +23,13 @@ void TestValeurs::LaValeurSuitLaVariable()
     QCOMPARE(lit("TypeStockage"), QVariant(0));
     monde.Etat.Chemins.TypeStockage = 3;
     monde.Etat.Patient.PatientCourant = QStringLiteral("Monsieur  MARTIN  Paul");
-    monde.Etat.Reglages.Marges.LongueurLigne = 12.5F;
+    monde.Etat.Reglages.Marges.LongueurLigne = 12.3F;
     monde.Etat.Reglages.Marges.MargeHauteDDN = -4;
     monde.Etat.Banque.ProduitBanque = -1;
     monde.Etat.Impression.NbCopies = 3;
     QCOMPARE(lit("TypeStockage"), QVariant(3));
     QCOMPARE(lit("PatientCourant"), QVariant(QStringLiteral("Monsieur  MARTIN  Paul")));
-    QCOMPARE(lit("LongueurLigne"), QVariant(12.5));
+    QCOMPARE(lit("LongueurLigne"), QVariant(12.3));
     QCOMPARE(lit("MargeHauteDDN"), QVariant(-4));
     QCOMPARE(lit("ProduitBanque"), QVariant(-1));
     QCOMPARE(lit("NbCopies"), QVariant(3));
@@ -57,9 +57,9 @@ void TestValeurs::LesPolicesOntCinqVariables()
     monde.Etat.Reglages.Look.Poso = {QStringLiteral("Times"), 9.5F, true, false, true};
     QCOMPARE(Valeur(monde.Contexte, QStringLiteral("PolicePoso")), QVariant(QStringLiteral("Times")));
     QCOMPARE(Valeur(monde.Contexte, QStringLiteral("TaillePoso")), QVariant(9.5));
-    QCOMPARE(Valeur(monde.Contexte, QStringLiteral("GrasPoso")), QVariant(true));
-    QCOMPARE(Valeur(monde.Contexte, QStringLiteral("ItaliquePoso")), QVariant(false));
-    QCOMPARE(Valeur(monde.Contexte, QStringLiteral("SoulignePoso")), QVariant(true));
+    QCOMPARE(Valeur(monde.Contexte, QStringLiteral("GrasPoso")), QVariant(1));
+    QCOMPARE(Valeur(monde.Contexte, QStringLiteral("ItaliquePoso")), QVariant(0));
+    QCOMPARE(Valeur(monde.Contexte, QStringLiteral("SoulignePoso")), QVariant(1));
     QCOMPARE(Valeur(monde.Contexte, QStringLiteral("PoliceTitre")), QVariant(QStringLiteral("Arial")));
 }
 
