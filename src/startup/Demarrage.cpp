@@ -5,8 +5,8 @@
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "drugbank/Banque.h"
+#include "outside/Boites.h"
 #include "outside/Plateau.h"
-#include "outside/Tente.h"
 #include "settings/FichiersReglages.h"
 #include "startup/DialoguesStockage.h"
 #include "startup/FichiersChemins.h"
@@ -34,12 +34,11 @@ void ExigeCheminData(const Chemins& chemins)
     }
 }
 
-/// A template that the tree has just received goes to the doctor too, when there is one and he has none.
+/// A template that the tree has just received goes to the doctor too, when there is one.
 void CopieChezMedecin(const Chemins& chemins, const QString& nom)
 {
-    const QString& medecin = chemins.CheminMedecin;
-    if (!medecin.isEmpty() && !FichierExiste(Joint(medecin, nom))) {
-        common::CopieFichier(Joint(chemins.CheminData, nom), Joint(medecin, nom));
+    if (!chemins.CheminMedecin.isEmpty()) {
+        common::CopieFichier(Joint(chemins.CheminData, nom), Joint(chemins.CheminMedecin, nom));
     }
 }
 
@@ -73,15 +72,11 @@ void PrepareMarges(Contexte& contexte)
     }
 }
 
-void PrepareDupli(Contexte& contexte, const QString& police)
+void PrepareDupli(Contexte& contexte)
 {
-    settings::Dupli& dupli = contexte.Reglages.Dupli;
-    dupli = {};
-    if (!police.isEmpty()) {
-        dupli.DupliPolice = police;
-    }
+    contexte.Reglages.Dupli = {};
     if (!FichierExiste(Joint(contexte.Chemins.CheminData, QStringLiteral("Dupli.cfg")))) {
-        settings::EcritDupli(dupli, contexte.Chemins.CheminData);
+        settings::EcritDupli(contexte.Reglages.Dupli, contexte.Chemins.CheminData);
         CopieChezMedecin(contexte.Chemins, QStringLiteral("Dupli.cfg"));
     }
 }
@@ -124,9 +119,7 @@ void OuvreBanque(Contexte& contexte)
     drugbank::Banque& banque = contexte.Banque;
     banque.FiltreBanque = 64;
     banque.ProduitBanque = 2;
-    if (!contexte.Chemins.CheminMedecin.isEmpty()) {
-        settings::LitBaseCfg(banque, contexte.Chemins.CheminMedecin);
-    }
+    settings::LitBaseCfg(banque, contexte.Chemins.CheminMedecin);
     if (!banque.ModuleAide) {
         banque.TypeBase = QStringLiteral("BIP");
     }
@@ -143,6 +136,16 @@ void Appelle(const std::function<void()>& ecran)
 {
     if (ecran) {
         ecran();
+    }
+}
+
+/// A failure here ends nothing, but a window that could not be filled is told of.
+void AppelleOuDitPourquoi(Contexte& contexte, const std::function<void()>& ecran)
+{
+    try {
+        Appelle(ecran);
+    } catch (const common::Erreur& erreur) {
+        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
     }
 }
 
@@ -199,7 +202,7 @@ bool Demarrage::RegleDepuisOptions()
 {
     Q_EMIT contexte_.Signaux.ReglagesChanges();
     PrepareMarges(contexte_);
-    PrepareDupli(contexte_, ecrans_.PoliceFenetre);
+    PrepareDupli(contexte_);
     const int rangStockage = LitChoixDeStockage(contexte_);
     ChercheMedecinParDefaut(contexte_);
     if (ecrans_.MontreChoixBase && !ecrans_.MontreChoixBase(rangStockage)) {
@@ -220,7 +223,7 @@ void Demarrage::TermineChargement()
         Tolere([&] { Appelle(ecrans_.Minimise); }); // the window is then shown at its size
     }
     if (!contexte_.Medecins.Liste.isEmpty()) {
-        outside::Tente(contexte_.Dehors.Boites, [&] { Appelle(ecrans_.ChargeFenetres); });
+        AppelleOuDitPourquoi(contexte_, ecrans_.ChargeFenetres);
         Q_EMIT contexte_.Signaux.FaceChange();
     }
     NettoieCheminData(contexte_.Chemins);

@@ -1,7 +1,8 @@
 #include "startup/DialoguesStockage.h"
 
+#include "common/Erreur.h"
 #include "common/Fichiers.h"
-#include "outside/Tente.h"
+#include "outside/Boites.h"
 #include "settings/Enregistrement.h"
 #include "startup/Chemins.h"
 #include "startup/FichiersChemins.h"
@@ -203,7 +204,10 @@ bool DemandeCheminData(Contexte& contexte)
 void RegleCheminTravail(Contexte& contexte)
 {
     TravailleSurDisque(contexte);
-    if (!outside::Tente(contexte.Dehors.Boites, [&] { RegleChoisi(contexte); })) {
+    try {
+        RegleChoisi(contexte);
+    } catch (const common::Erreur& erreur) {
+        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
         contexte.Dehors.Boites.Information(messages::TravailSurDisque());
         TravailleSurDisque(contexte);
     }

@@ -6,8 +6,6 @@
 #include "startup/InscriptionMedecin.h"
 #include "startup/messages.h"
 
-#include <QFileInfo>
-
 namespace startup {
 
 using common::FichierExiste;
@@ -35,9 +33,7 @@ void DeplaceParDessus(const Chemins& chemins, const QString& nom)
 void SupprimeSiEnDouble(const Chemins& chemins, const QString& nom)
 {
     const QString source = Joint(chemins.CheminInstallation, nom);
-    const QString destination = Joint(chemins.CheminData, nom);
-    const bool enDouble = FichierExiste(source) && FichierExiste(destination);
-    if (enDouble && QFileInfo(source).canonicalFilePath() != QFileInfo(destination).canonicalFilePath()) {
+    if (FichierExiste(source) && FichierExiste(Joint(chemins.CheminData, nom))) {
         common::SupprimeFichier(source);
     }
 }

@@ -7,7 +7,7 @@
 #include "startup/windows/FrmChoixBase.h"
 #include "startup/windows/FrmDepart.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 
 namespace application {
 
@@ -44,8 +44,7 @@ void Application::ArretSurErreur(const QString& phrase, const QString& lieu)
 
 startup::Ecrans Application::Ecrans()
 {
-    return {.PoliceFenetre = QApplication::font().family(),
-            .MontreChoixBase = [this](int rang) { return MontreChoixBase(rang); },
+    return {.MontreChoixBase = [this](int rang) { return MontreChoixBase(rang); },
             .ChargeConfOrdo = {},
             .Minimise = [this] { fenetres_.Donne<startup::FrmDepart>().Reduit(); },
             .ChargeFenetres = [this] { ChargeFenetres(); }};
@@ -63,7 +62,7 @@ bool Application::MontreChoixBase(int rangStockage)
 void Application::ChargeFenetres()
 {
     fenetres_.Donne<patients::FrmPatient>();
-    QApplication::processEvents();
+    QCoreApplication::processEvents();
 }
 
 void Application::Arrete()

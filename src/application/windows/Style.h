@@ -6,8 +6,10 @@
 #include <QPushButton>
 #include <QString>
 
+class QAction;
 class QApplication;
 class QLabel;
+class QMenu;
 class QToolButton;
 class QVBoxLayout;
 class QWidget;
@@ -64,8 +66,6 @@ QPushButton* BoutonAccueil(const QString& nomObjet, const QString& nomLegende, c
 void AligneAGauche(QPushButton* bouton);
 /// Less room beside the caption, for buttons that stand in a long row. Before the button is first shown.
 void Serre(QPushButton* bouton);
-/// The caption is underlined while the mouse is over the button.
-void SouligneSousLaSouris(QPushButton* bouton);
 /// A text that acts as a link: underlined under the mouse and in focus.
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent);
 /// A square button with an icon alone; the caption is its accessible name and tool tip.
@@ -82,6 +82,9 @@ QLabel* Avertissement(const QString& nomObjet, const QString& texte, QWidget* pa
 
 /// A white card with rounded corners; lay the group out in it (margins `kMargeCarte`).
 QWidget* Carte(QWidget* parent);
+
+/// Makes an entry the menu's default one, in bold.
+void EntreeParDefaut(QMenu* menu, QAction* entree);
 
 /// The program's name in large letters beside its icon.
 QWidget* Enseigne(QWidget* parent);

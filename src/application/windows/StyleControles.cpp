@@ -1,8 +1,10 @@
 #include "application/windows/Style.h"
 
+#include <QAction>
 #include <QFrame>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QScreen>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -101,11 +103,6 @@ void Serre(QPushButton* bouton)
     bouton->setProperty("alignement", QStringLiteral("serre"));
 }
 
-void SouligneSousLaSouris(QPushButton* bouton)
-{
-    bouton->setProperty("survol", QStringLiteral("souligne"));
-}
-
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent)
 {
     auto* lien = BoutonDuGenre("lien", nomObjet, texte, QIcon(), parent);
@@ -146,6 +143,14 @@ QWidget* Carte(QWidget* parent)
     auto* carte = new QFrame(parent);
     carte->setProperty("genre", QStringLiteral("carte"));
     return carte;
+}
+
+void EntreeParDefaut(QMenu* menu, QAction* entree)
+{
+    QFont gras = entree->font();
+    gras.setBold(true);
+    entree->setFont(gras);
+    menu->setDefaultAction(entree);
 }
 
 QWidget* Enseigne(QWidget* parent)

@@ -49,10 +49,7 @@ MenusOrdo::MenusOrdo(QWidget* fenetre, const ActionsMenus& actions)
            actions.Minimise);
     QAction* quitter = Entree(mnuInvisible_, "mnuQuitter", QStringLiteral("&Quitter"),
                               QStringLiteral("power"), actions.Quitte);
-    QFont gras = quitter->font();
-    gras.setBold(true);
-    quitter->setFont(gras);
-    mnuInvisible_->setDefaultAction(quitter);
+    application::style::EntreeParDefaut(mnuInvisible_, quitter);
 }
 
 } // namespace prescription

@@ -89,7 +89,7 @@ void MenusDepart::RemplitInvisible()
     mnuAideNewIT = Entree(aide, "mnuAideNewIT", QStringLiteral("&Nouvelle version"));
     mnuAPropos = Entree(mnuInvisible, "mnuAPropos", QStringLiteral("A p&ropos"), "info-circle");
     mnuQuitter = Entree(mnuInvisible, "mnuQuitter", QStringLiteral("&Quitter"), "box-arrow-right");
-    mnuInvisible->setDefaultAction(mnuQuitter);
+    application::style::EntreeParDefaut(mnuInvisible, mnuQuitter);
 }
 
 } // namespace startup
