@@ -140,13 +140,15 @@ void RangsEntete::Peint(const QList<LigneEntete>& lignes, quint8 mode)
 
 void RangsEntete::PeintLigne(const LigneEntete& ligne)
 {
+    if (!ligne.AvecTexte) {
+        return;
+    }
     const bool suit = ligne.Texte.endsWith(QLatin1Char('*')) || ligne.Texte.endsWith(QLatin1Char('$'));
-    if (!suit && !ligne.Nulles[kTexte] && !ligne.Nulles[kEspaces]) {
+    if (!suit && ligne.AvecEspaces) {
         cible_.CurrentX(ligne.Espaces);
     }
-    cible_.Font(ligne.PoliceApres(cible_.Font()));
-    if (ligne.Nulles[kTexte]) {
-        return;
+    if (ligne.AvecPolice) {
+        cible_.Font(ligne.Police);
     }
     if (ligne.Texte.isEmpty() || ligne.Texte == QLatin1String("*")) {
         SauteLignes(ligne);

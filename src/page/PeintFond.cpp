@@ -19,12 +19,14 @@ struct Degrade
     }
 };
 
+// The middle of the pixel, which the line then covers whole.
 void TraceLigne(Surface& cible, int place, bool vertical)
 {
+    const double milieu = place + 0.5;
     if (vertical) {
-        cible.Line(0, place, cible.ScaleWidth(), place);
+        cible.Line(0, milieu, cible.ScaleWidth(), milieu);
     } else {
-        cible.Line(place, 0, place, cible.ScaleHeight());
+        cible.Line(milieu, 0, milieu, cible.ScaleHeight());
     }
 }
 

@@ -77,10 +77,8 @@ void Langage::AjouteFenetres()
     const auto ajouteEtat = [this](const QString& nom, Changement changement) {
         Ajoute(nom, 1, 1, [this, changement](const Valeurs& valeurs) {
             const QString fenetre = valeurs.Texte(0);
-            relais_.Agit([this, fenetre, changement] {
-                session_.EnCours();
-                (Trouve(fenetre).Fenetre->*changement)();
-            });
+            AttendsExistence(fenetre);
+            relais_.Agit([fenetre, changement] { (Trouve(fenetre).Fenetre->*changement)(); });
             return QVariant();
         });
     };

@@ -12,15 +12,7 @@ void Langage::AjouteLecture(const QString& nom, int maximum,
 {
     Ajoute(nom, 1, maximum, [this, lecture](const Valeurs& valeurs) {
         const QString controle = valeurs.Texte(0);
-        Attends([this, &controle] {
-            session_.EnCours();
-            try {
-                Trouve(controle);
-                return QString();
-            } catch (const Echec& echec) {
-                return echec.Phrase;
-            }
-        });
+        AttendsExistence(controle);
         return relais_.Lit([&] { return lecture(Trouve(controle), valeurs); });
     });
 }
@@ -77,7 +69,7 @@ void Langage::AjouteEtats()
     });
     Ajoute(QStringLiteral("valeur"), 1, 1, [this](const Valeurs& valeurs) {
         const QString nom = valeurs.Texte(0);
-        const QVariant valeur = relais_.Lit([&] { return session_.EnCours().Valeur(nom); });
+        const QVariant valeur = relais_.Lit([&] { return session_.Valeur(nom); });
         return valeur.isValid() ? valeur
                                 : throw Echec{QStringLiteral("la variable « %1 » n'existe pas").arg(nom)};
     });
@@ -109,10 +101,9 @@ void Langage::AjouteBoites()
             return session_.Boites.Ouverte() ? session_.Boites.Description()[QStringLiteral("texte")] : Nul();
         });
     });
-    Ajoute(QStringLiteral("__confirmeImprimante"), 1, 1, [this](const Valeurs& valeurs) {
-        const QString nom = valeurs.Texte(0);
-        return relais_.Lit([&] {
-            session_.EnCours().ConfirmeImprimante(nom);
+    Ajoute(QStringLiteral("__confirmeImprimante"), 0, 0, [this](const Valeurs&) {
+        return relais_.Lit([this] {
+            session_.EnCours().ConfirmeImprimante(session_.Imprimantes.ParDefaut());
             return QVariant();
         });
     });

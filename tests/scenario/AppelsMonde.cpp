@@ -107,16 +107,7 @@ void Langage::AjouteFichiers()
 
 QString Langage::CheminBase(const QString& nom)
 {
-    const bool medoc = nom == QLatin1String("Medoc");
-    if (!medoc && nom != QLatin1String("Ordo")) {
-        return nom;
-    }
-    const QString variable = medoc ? QStringLiteral("CheminTravail") : QStringLiteral("CheminMedecin");
-    const QString dossier = relais_.Lit([&] { return session_.EnCours().Valeur(variable); }).toString();
-    if (dossier.isEmpty()) {
-        throw Echec{QStringLiteral("la base « %1 » n'est pas encore choisie").arg(nom)};
-    }
-    return dossier + QLatin1Char('/') + nom + QStringLiteral(".mdb");
+    return relais_.Lit([&] { return session_.CheminBase(nom); }).toString();
 }
 
 void Langage::AjouteTables()

@@ -24,7 +24,8 @@ const QHash<QString, Qt::Key>& Touches()
         {QStringLiteral("Gauche"), Qt::Key_Left},      {QStringLiteral("Droite"), Qt::Key_Right},
         {QStringLiteral("Debut"), Qt::Key_Home},       {QStringLiteral("Fin"), Qt::Key_End},
         {QStringLiteral("PageHaut"), Qt::Key_PageUp},  {QStringLiteral("PageBas"), Qt::Key_PageDown},
-        {QStringLiteral("Inser"), Qt::Key_Insert}};
+        {QStringLiteral("Inser"), Qt::Key_Insert},     {QStringLiteral("Entrée"), Qt::Key_Return},
+        {QStringLiteral("Échap"), Qt::Key_Escape},     {QStringLiteral("Début"), Qt::Key_Home}};
     return touches;
 }
 
@@ -49,7 +50,7 @@ Qt::KeyboardModifier Modificateur(const QString& nom)
     if (nom == QLatin1String("Ctrl")) {
         return Qt::ControlModifier;
     }
-    if (nom == QLatin1String("Maj")) {
+    if (nom == QLatin1String("Maj") || nom == QLatin1String("Shift")) {
         return Qt::ShiftModifier;
     }
     if (nom == QLatin1String("Alt")) {

@@ -13,6 +13,7 @@ struct Commande
     QString Monde;    ///< where the world of a single file stands, kept; empty: among the output or temporary
     int Limite = 60;  ///< seconds for one file
     int Ensemble = 1; ///< files played at a time
+    int Attente = 5;  ///< seconds until what does not appear is a failure
     bool Un = false;  ///< this process plays the one file itself, in the world `Monde`
 };
 

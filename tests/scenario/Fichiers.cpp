@@ -15,6 +15,13 @@ namespace {
     throw Echec{QStringLiteral("« %1 » ne peut pas être %2").arg(chemin, action)};
 }
 
+void PrepareDossierDe(const QString& chemin)
+{
+    if (!QFileInfo(chemin).dir().mkpath(QStringLiteral("."))) {
+        Echoue(QStringLiteral("créé"), QFileInfo(chemin).path());
+    }
+}
+
 void CopieDossier(const QString& source, const QString& destination)
 {
     if (!QDir().mkpath(destination)) {
@@ -40,6 +47,7 @@ QByteArray Lit(const QString& chemin)
 void Ecrit(const QString& chemin, const QByteArray& contenu)
 {
     QFile fichier(chemin);
+    PrepareDossierDe(chemin);
     if (!fichier.open(QIODevice::WriteOnly) || fichier.write(contenu) != contenu.size()) {
         Echoue(QStringLiteral("écrit"), chemin);
     }
@@ -51,11 +59,15 @@ void Copie(const QString& source, const QString& destination)
         CopieDossier(source, destination);
         return;
     }
-    QFile::remove(destination);
-    if (!QFile::copy(source, destination)) {
+    const QString copie = QFileInfo(destination).isDir()
+                              ? QDir(destination).filePath(QFileInfo(source).fileName())
+                              : destination;
+    PrepareDossierDe(copie);
+    QFile::remove(copie);
+    if (!QFile::copy(source, copie)) {
         Echoue(QStringLiteral("copié"), source);
     }
-    QFile::setPermissions(destination, QFile::permissions(destination) | QFile::WriteOwner);
+    QFile::setPermissions(copie, QFile::permissions(copie) | QFile::WriteOwner);
 }
 
 void Efface(const QString& chemin)

@@ -88,7 +88,7 @@ int JoueUn(const Commande& commande, int argc, char** argv, Fabrique& fabrique)
     Relais relais;
     Rapport rapport(commande.Fichiers.first());
     const std::unique_ptr<QThread> fil(QThread::create([&] {
-        Langage langage(session, relais, rapport);
+        Langage langage(session, relais, rapport, commande.Attente);
         langage.Joue(commande.Fichiers.first());
     }));
     QObject::connect(fil.get(), &QThread::finished, &relais, [&] { Conclut(session, rapport); });

@@ -12,10 +12,26 @@ namespace scenario {
 
 namespace {
 
-constexpr int kAttente = 5000;
 constexpr int kPas = 20;
 
+void ChargeRessource(QJSEngine& moteur, const QString& nom)
+{
+    QFile fichier(QStringLiteral(":/scenario/") + nom);
+    if (!fichier.open(QIODevice::ReadOnly)) {
+        qFatal("%s", qPrintable(nom));
+    }
+    const QJSValue resultat = moteur.evaluate(QString::fromUtf8(fichier.readAll()), nom);
+    if (resultat.isError()) {
+        qFatal("%s: %s", qPrintable(nom), qPrintable(resultat.toString()));
+    }
+}
+
 } // namespace
+
+bool Valeurs::Absente(int i) const
+{
+    return EstNul(Brute(i));
+}
 
 QString Valeurs::Texte(int i) const
 {
@@ -49,8 +65,8 @@ bool Valeurs::Booleen(int i) const
     return Brute(i).toBool();
 }
 
-Langage::Langage(Session& session, Relais& relais, Rapport& rapport)
-    : session_(session), relais_(relais), rapport_(rapport)
+Langage::Langage(Session& session, Relais& relais, Rapport& rapport, int attente)
+    : session_(session), relais_(relais), rapport_(rapport), attente_(attente)
 {
     AjouteMonde();
     AjouteFichiers();
@@ -97,15 +113,9 @@ void Langage::Prepare(QJSEngine& moteur)
     global.setProperty(QStringLiteral("__appels"), moteur.toScriptValue(QStringList(appels_.keys())));
     global.setProperty(QStringLiteral("programme"), session_.Monde.Programme());
     global.setProperty(QStringLiteral("utilisateur"), session_.Monde.Utilisateur());
-    QFile prelude(QStringLiteral(":/scenario/prelude.js"));
-    if (!prelude.open(QIODevice::ReadOnly)) {
-        qFatal("prelude.js");
-    }
-    const QJSValue resultat =
-        moteur.evaluate(QString::fromUtf8(prelude.readAll()), QStringLiteral("prelude.js"));
-    if (resultat.isError()) {
-        qFatal("prelude.js: %s", qPrintable(resultat.toString()));
-    }
+    moteur.installExtensions(QJSEngine::ConsoleExtension);
+    ChargeRessource(moteur, QStringLiteral("langue.js"));
+    ChargeRessource(moteur, QStringLiteral("prelude.js"));
 }
 
 void Langage::Conclut()
@@ -173,11 +183,24 @@ void Langage::Attends(const std::function<QString()>& manque)
         if (phrase.isEmpty()) {
             return;
         }
-        if (duree.elapsed() > kAttente) {
+        if (duree.hasExpired(attente_ * 1000)) {
             throw Echec{phrase};
         }
         QThread::msleep(kPas);
     }
+}
+
+void Langage::AttendsExistence(const QString& controle)
+{
+    Attends([this, &controle] {
+        session_.EnCours();
+        try {
+            Trouve(controle);
+            return QString();
+        } catch (const Echec& echec) {
+            return echec.Phrase;
+        }
+    });
 }
 
 void Langage::AttendsAccessible(const QString& controle)

@@ -18,7 +18,8 @@ class Valeurs
 public:
     explicit Valeurs(QVariantList valeurs) : valeurs_(std::move(valeurs)) {}
 
-    bool Absente(int i) const { return i >= valeurs_.size() || !valeurs_[i].isValid(); }
+    /// True for a value that is not given, null or undefined.
+    bool Absente(int i) const;
     /// The value as it is; invalid when it is absent.
     QVariant Brute(int i) const { return valeurs_.value(i); }
     /// Each throws `Echec` when the value is of another kind.
@@ -40,7 +41,8 @@ class Langage : public QObject
 public:
     using Appel = std::function<QVariant(const Valeurs&)>;
 
-    Langage(Session& session, Relais& relais, Rapport& rapport);
+    /// `attente`: seconds until what does not appear is a failure.
+    Langage(Session& session, Relais& relais, Rapport& rapport, int attente);
 
     /// Plays a script; every failure goes to the report.
     void Joue(const QString& chemin);
@@ -71,8 +73,9 @@ private:
     /// Registers a reading of the control that the first value names.
     void AjouteLecture(const QString& nom, int maximum,
                        std::function<QVariant(const Controle&, const Valeurs&)> lecture);
-    /// Waits until a condition gives an empty text; throws its last text as `Echec` after 5 s.
+    /// Waits until a condition gives an empty text; throws its last text as `Echec` when it never does.
     void Attends(const std::function<QString()>& manque);
+    void AttendsExistence(const QString& controle);
     void AttendsAccessible(const QString& controle);
     QString CheminBase(const QString& nom);
     int LigneDe(const QString& pile) const;
@@ -89,6 +92,7 @@ private:
     Session& session_;
     Relais& relais_;
     Rapport& rapport_;
+    int attente_;
     QJSEngine* moteur_ = nullptr;
     QString fichier_;
     QHash<QString, Definition> appels_;

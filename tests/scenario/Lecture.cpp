@@ -236,7 +236,11 @@ int EtatCoche(const Controle& controle)
 
 bool EstVisible(const Controle& controle)
 {
-    return controle.Entree ? controle.Entree->isVisible() : controle.Widget->isVisible();
+    if (!controle.Entree) {
+        return controle.Widget->isVisible();
+    }
+    const QMenu* menu = controle.Entree->menu();
+    return menu ? menu->isVisible() : controle.Entree->isVisible();
 }
 
 bool EstActif(const Controle& controle)

@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QTableView>
 #include <QTreeView>
+#include <algorithm>
 
 namespace scenario {
 
@@ -39,6 +40,19 @@ bool ColonneCachee(QAbstractItemView* vue, int colonne)
     }
     const auto* table = qobject_cast<QTableView*>(vue);
     return !table || table->isColumnHidden(colonne);
+}
+
+QString Entier(const QString& texte)
+{
+    return texte.trimmed();
+}
+
+/// What stands before the run of blanks that keeps the end of a row out of sight.
+QString Visible(const QString& texte)
+{
+    static const QString kHorsDeVue(30, QLatin1Char(' '));
+    const QString entier = texte.trimmed();
+    return entier.left(entier.indexOf(kHorsDeVue)).trimmed();
 }
 
 } // namespace
@@ -86,9 +100,10 @@ int RangVoulu(const QStringList& textes, const QVariant& voulu)
         return rang;
     }
     const QString texte = voulu.toString().trimmed();
-    for (int rang = 0; rang < textes.size(); ++rang) {
-        if (textes[rang].trimmed() == texte) {
-            return rang;
+    for (const auto& lu : {&Entier, &Visible}) {
+        const auto place = std::ranges::find_if(textes, [&](const QString& t) { return lu(t) == texte; });
+        if (place != textes.end()) {
+            return static_cast<int>(place - textes.begin());
         }
     }
     throw Echec{QStringLiteral("aucune rangée « %1 » parmi « %2 »")

@@ -13,7 +13,8 @@ QList<QModelIndex> Rangees(QAbstractItemView* vue);
 /// The whole text of a row; columns are separated by a tabulation.
 QString TexteRangee(QAbstractItemView* vue, const QModelIndex& index);
 
-/// The place in `textes` of what the script names: a number from 0, or a trimmed text. Throws `Echec`.
+/// The place in `textes` of what the script names: a number from 0, or a trimmed text, whole or as far as it
+/// is in sight. Throws `Echec`.
 int RangVoulu(const QStringList& textes, const QVariant& voulu);
 
 /// The row of a view that the script names. Throws `Echec`.

@@ -26,6 +26,7 @@ void Session::Lance()
     programme_ =
         Fabrique.Fait({Boites, Imprimantes, Horloge, Plateau, Demarrage, Lanceur}, Monde.Programme());
     connect(programme_.get(), &Programme::Termine, this, [this] {
+        RetientChemins();
         fini_ = true;
         Libere();
     });
@@ -41,6 +42,31 @@ Programme& Session::EnCours() const
         throw Echec{QStringLiteral("le programme est terminé")};
     }
     return *programme_;
+}
+
+QVariant Session::Valeur(const QString& nom) const
+{
+    return fini_ && chemins_.contains(nom) ? chemins_.value(nom) : EnCours().Valeur(nom);
+}
+
+QString Session::CheminBase(const QString& nom) const
+{
+    if (nom != QLatin1String("Medoc") && nom != QLatin1String("Ordo")) {
+        return nom;
+    }
+    const QStringList lieux = nom == QLatin1String("Ordo") ? QStringList{QStringLiteral("CheminMedecin")}
+                                                           : QStringList{QStringLiteral("CheminTravail"),
+                                                                         QStringLiteral("CheminData")};
+    QString dossier = Monde.Programme();
+    for (const QString& lieu : lieux) {
+        const QString courant = programme_ && !fini_ ? programme_->Valeur(lieu).toString() : QString();
+        const QString connu = courant.isEmpty() ? chemins_.value(lieu) : courant;
+        if (!connu.isEmpty()) {
+            dossier = connu;
+            break;
+        }
+    }
+    return QStringLiteral("%1/%2.mdb").arg(dossier, nom);
 }
 
 bool Session::ConstateFin()
@@ -66,6 +92,14 @@ void Session::CliqueIcone(outside::Plateau::Clic clic)
         throw Echec{QStringLiteral("aucune icône à côté de l'horloge")};
     }
     Plateau.Receveur(clic);
+}
+
+void Session::RetientChemins()
+{
+    for (const auto& nom : {QStringLiteral("CheminData"), QStringLiteral("CheminBase"),
+                            QStringLiteral("CheminTravail"), QStringLiteral("CheminMedecin")}) {
+        chemins_.insert(nom, programme_->Valeur(nom).toString());
+    }
 }
 
 /// Deletes an ended program once the outermost loop is back in control.

@@ -6,6 +6,8 @@
 #include "scenario/Programme.h"
 #include "support/DehorsFeint.h"
 
+#include <QHash>
+
 namespace scenario {
 
 /// The program under test in its world, with the outer edge that the script scripts. It lives in the window
@@ -23,6 +25,11 @@ public:
     void Lance();
     /// The running program. Throws `Echec` when none was started or when it has ended.
     Programme& EnCours() const;
+    /// A variable of the running program, or a path of the one that ran last; invalid for an unknown name.
+    QVariant Valeur(const QString& nom) const;
+    /// The database file that "Medoc" or "Ordo" stands for: of the running program, of the one that ran last,
+    /// or before the first start the one that an installation leaves. Any other text is a path.
+    QString CheminBase(const QString& nom) const;
     /// True when a program was started and has ended; the script knows of it then.
     bool ConstateFin();
     /// A failure that no handler caught. The program is told; an end that the script does not notice counts.
@@ -46,12 +53,14 @@ public:
     ImprimantesScenario Imprimantes;
 
 private:
+    void RetientChemins();
     void Libere();
 
     std::unique_ptr<Programme> programme_;
     bool fini_ = false;
     bool erreur_ = false;
     QString accident_;
+    QHash<QString, QString> chemins_; // of the program that ran last
 };
 
 } // namespace scenario

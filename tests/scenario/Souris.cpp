@@ -169,6 +169,10 @@ void ChoisitDansListe(QComboBox& liste, const QVariant& rangee)
 template <typename Edition> Lieu LieuCaractere(Edition& edition, int caractere)
 {
     QTextCursor curseur(edition.document());
+    curseur.movePosition(QTextCursor::End);
+    if (caractere < 0 || caractere > curseur.position()) {
+        throw Echec{QStringLiteral("%1 : pas de caractère %2").arg(edition.objectName()).arg(caractere)};
+    }
     curseur.setPosition(caractere);
     QRect rect = edition.cursorRect(curseur);
     const int depassement = rect.bottom() - edition.viewport()->height();
@@ -180,16 +184,28 @@ template <typename Edition> Lieu LieuCaractere(Edition& edition, int caractere)
     return {edition.viewport(), rect.center()};
 }
 
-Lieu LieuCaractere(QLineEdit& edition, int caractere)
+/// Where a click in the line places the caret before that character; -1 when it is out of sight.
+int Abscisse(QLineEdit& edition, int caractere)
 {
-    const int milieu = edition.height() / 2;
     for (int x = 0; x < edition.width(); ++x) {
-        if (edition.cursorPositionAt({x, milieu}) == caractere) {
-            return {&edition, {x, milieu}};
+        if (edition.cursorPositionAt({x, edition.height() / 2}) == caractere) {
+            return x;
         }
     }
-    throw Echec{
-        QStringLiteral("%1 : pas de caractère %2 à l'écran").arg(edition.objectName()).arg(caractere)};
+    return -1;
+}
+
+Lieu LieuCaractere(QLineEdit& edition, int caractere)
+{
+    if (Abscisse(edition, caractere) < 0) {
+        edition.setCursorPosition(caractere);
+        edition.repaint(); // scrolls it into sight
+    }
+    const int x = Abscisse(edition, caractere);
+    if (x < 0) {
+        throw Echec{QStringLiteral("%1 : pas de caractère %2").arg(edition.objectName()).arg(caractere)};
+    }
+    return {&edition, {x, edition.height() / 2}};
 }
 
 } // namespace

@@ -78,8 +78,13 @@ QString Execution::PrepareMonde()
 
 QStringList Execution::Arguments(const Monde& monde) const
 {
-    QStringList arguments = {QStringLiteral("--un"), QStringLiteral("--monde"), monde.Racine(),
-                             QStringLiteral("--limite"), QString::number(commande_.Limite)};
+    QStringList arguments = {QStringLiteral("--un"),
+                             QStringLiteral("--monde"),
+                             monde.Racine(),
+                             QStringLiteral("--limite"),
+                             QString::number(commande_.Limite),
+                             QStringLiteral("--attente"),
+                             QString::number(commande_.Attente)};
     if (!commande_.Sortie.isEmpty()) {
         const QString sortie =
             commande_.Monde.isEmpty() ? monde.Racine() : QDir(commande_.Sortie).absolutePath();

@@ -13,11 +13,14 @@ namespace scenario {
 
 namespace {
 
-/// A text without characters is no null to the driver only when it is not the null text.
-QVariant SansTexteNul(const QVariant& valeur)
+/// The driver stores a null text as null: the script's empty text is one.
+QVariant Liee(const QVariant& valeur)
 {
-    const bool vide = valeur.typeId() == QMetaType::QString && valeur.toString().isEmpty();
-    return vide ? QVariant(QLatin1String("")) : valeur;
+    if (EstNul(valeur)) {
+        return {};
+    }
+    const bool texteVide = valeur.typeId() == QMetaType::QString && valeur.toString().isEmpty();
+    return texteVide ? QVariant(QStringLiteral("")) : valeur;
 }
 
 /// One connection for one call.
@@ -43,7 +46,7 @@ public:
         QSqlQuery requete(base_);
         requete.prepare(instruction);
         for (const QVariant& valeur : valeurs) {
-            requete.addBindValue(EstNul(valeur) ? QVariant() : SansTexteNul(valeur));
+            requete.addBindValue(Liee(valeur));
         }
         if (!requete.exec()) {
             throw Echec{QStringLiteral("%1 : %2").arg(instruction, requete.lastError().text())};
@@ -95,14 +98,16 @@ void AjouteRangee(const QString& chemin, const QString& table, const QVariantLis
     Connexion connexion(chemin, QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
     const QString nom = connexion.Nom(table);
     const int colonnes = connexion.Colonnes(table);
-    if (valeurs.size() != colonnes) {
+    if (valeurs.size() > colonnes) {
         throw Echec{QStringLiteral("la table « %1 » a %2 colonnes, pas %3")
                         .arg(table)
                         .arg(colonnes)
                         .arg(valeurs.size())};
     }
     const QString points = QStringList(colonnes, QStringLiteral("?")).join(QLatin1Char(','));
-    connexion.Lance(QStringLiteral("INSERT INTO %1 VALUES (%2)").arg(nom, points), valeurs);
+    QVariantList rangee = valeurs;
+    rangee.resize(colonnes);
+    connexion.Lance(QStringLiteral("INSERT INTO %1 VALUES (%2)").arg(nom, points), rangee);
 }
 
 void VideTable(const QString& chemin, const QString& table)

@@ -8,7 +8,7 @@ namespace scenario {
 
 /// The rows in stored order, each a list of values by column position, null as null.
 QVariantList LitTable(const QString& chemin, const QString& table);
-/// Stores one row, a value for each column.
+/// Stores one row, a value for each column; those that are not given are null.
 void AjouteRangee(const QString& chemin, const QString& table, const QVariantList& valeurs);
 /// Removes all rows.
 void VideTable(const QString& chemin, const QString& table);

@@ -2,7 +2,7 @@
 # first line announces.
 file(STRINGS ${FILE} lines LIMIT_COUNT 1 ENCODING UTF-8)
 string(REGEX REPLACE "^// attendu : " "" expected "${lines}")
-execute_process(COMMAND ${RUNNER} ${FILE} --limite 6 OUTPUT_VARIABLE output RESULT_VARIABLE status)
+execute_process(COMMAND ${RUNNER} ${FILE} --limite 6 --attente 1 OUTPUT_VARIABLE output RESULT_VARIABLE status)
 message("${output}")
 string(FIND "${output}" "${expected}" place)
 if(place LESS 0)

@@ -14,8 +14,13 @@
         return valeur === undefined ? "undefined" : JSON.stringify(valeur);
     }
 
+    // A state may be read as 0 and 1 or as false and true.
+    function memeEtat(a, b) {
+        return typeof a === "boolean" && typeof b === "number" && Number(a) === b;
+    }
+
     function memes(a, b) {
-        if (a === b || a !== a && b !== b) return true;
+        if (a === b || a !== a && b !== b || memeEtat(a, b) || memeEtat(b, a)) return true;
         if (typeof a !== "object" || typeof b !== "object" || a === null || b === null) return false;
         if (Array.isArray(a) !== Array.isArray(b)) return false;
         const cles = Object.keys(a);
@@ -23,11 +28,19 @@
             cles.every(cle => Object.prototype.hasOwnProperty.call(b, cle) && memes(a[cle], b[cle]));
     }
 
+    function estObjet(valeur) {
+        return valeur !== null && typeof valeur === "object" && !Array.isArray(valeur);
+    }
+
+    // Of an object the keys that are named, of a list an element that is or has the part.
     function dedans(tout, partie) {
         if (typeof tout === "string") return tout.includes(partie);
-        if (Array.isArray(tout)) return tout.some(element => memes(element, partie));
-        return tout !== null && typeof tout === "object" &&
-            Object.keys(partie).every(cle => memes(tout[cle], partie[cle]));
+        if (Array.isArray(tout)) {
+            return tout.some(element => memes(element, partie) || estObjet(partie) && dedans(element, partie));
+        }
+        if (!estObjet(tout)) return false;
+        if (!estObjet(partie)) return String(tout).includes(partie);
+        return Object.keys(partie).every(cle => memes(tout[cle], partie[cle]));
     }
 
     function abrege(texte) {
@@ -50,11 +63,22 @@
     global.contient = (tout, partie, texte) =>
         controle(dedans(tout, partie), texte, "contenant " + montre(partie), tout);
 
-    global.taper = (nom, texte) => {
-        if (typeof texte !== "string") throw new Error("taper attend un texte");
-        // The first key goes to the control, the others to whatever has the focus by then.
-        texte.split("").forEach((caractere, rang) => __caractere(nom, caractere, rang > 0));
-    };
+    // A program started reads as one text too: its path, then its arguments.
+    const programmes = global.relances;
+    global.relances = () => programmes().map(lance => Object.defineProperty(lance, "toString",
+        {value: () => [lance.chemin, ...lance.arguments].join(" ")}));
+
+    function enTexte(valeur) {
+        if (typeof valeur !== "string" && typeof valeur !== "number") throw new Error("un texte est attendu");
+        return String(valeur);
+    }
+
+    // The first key goes to the control, the others to whatever has the focus by then.
+    global.taper = (nom, texte) =>
+        enTexte(texte).split("").forEach((caractere, rang) => __caractere(nom, caractere, rang > 0));
+
+    const saisit = global.saisir;
+    global.saisir = (nom, texte) => saisit(nom, enTexte(texte));
 
     global.boites = liste => {
         for (const [attendu, reponse] of liste) {
@@ -89,6 +113,6 @@
         choisir("FrmChoixBase.CboBase", 0);
         clic("FrmChoixBase.CmdSuite");
         if (!ouverte("FrmDepart")) throw new Error("installer : FrmDepart n'est pas montrée");
-        __confirmeImprimante("Bureau");
+        __confirmeImprimante();
     };
 })(this);

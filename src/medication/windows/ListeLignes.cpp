@@ -61,12 +61,10 @@ void ListeLignes::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
-void ListeLignes::mouseDoubleClickEvent(QMouseEvent* event)
+void ListeLignes::mouseDoubleClickEvent(QMouseEvent*)
 {
     tenu_ = false;
-    if (event->button() == Qt::LeftButton) {
-        Q_EMIT Reprend();
-    }
+    Q_EMIT Reprend();
 }
 
 bool ListeLignes::ToucheDeRangee(const QKeyEvent& event)

@@ -1,6 +1,6 @@
 #include "patients/windows/FrmNouveauP.h"
 
-#include "outside/Tente.h"
+#include "outside/Boites.h"
 #include "patients/Patient.h"
 #include "patients/TexteSaisie.h"
 #include "patients/messages.h"
@@ -124,11 +124,7 @@ void FrmNouveauP::RetirePrecaution()
 void FrmNouveauP::Valide()
 {
     MetEnForme();
-    patients::FinDeSaisie fin;
-    if (!outside::Tente(contexte_.Dehors.Boites,
-                        [&] { fin = TermineSaisie(contexte_, Saisie(), indexChange_); })) {
-        return;
-    }
+    const patients::FinDeSaisie fin = TermineSaisie(contexte_, Saisie(), indexChange_);
     if (fin.Refus) {
         MontreRefus(*fin.Refus);
         return;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "application/windows/Fenetres.h"
-#include "common/Erreur.h"
 #include "patients/ListePatients.h"
 
 #include <QDialog>
@@ -42,8 +41,7 @@ private:
     void Branche();
     void OrdonneTabulations();
 
-    /// Reads the table again, when there is a data directory; a failure is told and the former rows stay.
-    /// Nothing is selected then.
+    /// Reads the table again, when there is a data directory. Nothing is selected then.
     void Charge();
     /// The row selected, -1 for none.
     int Rang() const;
@@ -62,7 +60,6 @@ private:
     void Supprime();
     void FinDeSaisie();
     void SignaleDisparu();
-    void SignalePanne(const common::Erreur& erreur);
 
     application::Contexte& contexte_;
     application::Fenetres& fenetres_;

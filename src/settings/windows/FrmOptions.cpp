@@ -78,16 +78,12 @@ void FrmOptions::Ouvre(int onglet)
     exec();
 }
 
-bool FrmOptions::OuvrePourPremiereImpression()
+void FrmOptions::OuvrePourPremiereImpression()
 {
     Selectionne(imprimantes_->Numero());
     boutons_.at(TS_->currentIndex()).Annule->hide();
     imprimantes_->MontreConfirmation();
-    bool acceptee = false; // the window is unloaded by then
-    const auto suite = connect(this, &QDialog::accepted, this, [&acceptee] { acceptee = true; });
     exec();
-    disconnect(suite);
-    return acceptee;
 }
 
 void FrmOptions::Selectionne(int onglet)

@@ -4,6 +4,7 @@
 #include "outside/Boites.h"
 #include "outside/Horloge.h"
 #include "outside/Imprimantes.h"
+#include "outside/Lanceur.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -15,6 +16,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTextEdit>
 #include <QTimer>
 #include <QTreeWidget>
@@ -98,6 +100,7 @@ FrmEssai::FrmEssai(const application::Dehors& dehors) : dehors_(dehors)
     disposition->addWidget(trace_);
     disposition->addWidget(Champs());
     disposition->addWidget(Listes());
+    disposition->addWidget(Onglets());
     disposition->addWidget(Boutons());
 }
 
@@ -132,7 +135,8 @@ QWidget* FrmEssai::Listes()
     auto* disposition = new QHBoxLayout(parent);
     auto* liste = new ListeGlissee;
     liste->setObjectName(QStringLiteral("Lst"));
-    liste->addItems({QStringLiteral("  un"), QStringLiteral("  deux"), QStringLiteral("  trois")});
+    liste->addItems({QStringLiteral("  un"), QStringLiteral("  deux"), QStringLiteral("  trois"),
+                     QStringLiteral("  quatre") + QString(100, QLatin1Char(' ')) + QLatin1Char('1')});
     liste->item(1)->setData(Qt::UserRole, 22);
     liste->item(2)->setForeground(QColor(255, 0, 0));
     liste->Depose = [this](const QString& texte) { Ecris(texte); };
@@ -155,6 +159,25 @@ QWidget* FrmEssai::Listes()
         disposition->addWidget(widget);
     }
     return parent;
+}
+
+QWidget* FrmEssai::Onglets()
+{
+    auto* onglets = new QTabWidget;
+    onglets->setObjectName(QStringLiteral("TS"));
+    const auto page = [&](const QString& titre, const QString& bouton, const std::function<void()>& fait) {
+        auto* contenu = new QWidget;
+        new QHBoxLayout(contenu);
+        Bouton(contenu, bouton, fait);
+        onglets->addTab(contenu, titre);
+    };
+    page(QStringLiteral("&Programmes"), QStringLiteral("CmdOnglet(0)"), [this] {
+        dehors_.Lanceur.Lance(QStringLiteral("/opt/outil"),
+                              {QStringLiteral("un"), QStringLiteral("deux mots")});
+    });
+    page(QStringLiteral("&Documents"), QStringLiteral("CmdOnglet(1)"),
+         [this] { dehors_.Lanceur.Ouvre(QStringLiteral("/doc/Aide.pdf")); });
+    return onglets;
 }
 
 QWidget* FrmEssai::Boutons()

@@ -26,6 +26,7 @@ protected:
 private:
     QWidget* Champs();
     QWidget* Listes();
+    QWidget* Onglets();
     QWidget* Boutons();
     void Bouton(QWidget* parent, const QString& nom, const std::function<void()>& fait);
     void Ecris(const QString& texte);

@@ -26,6 +26,11 @@ egal(texte("FrmEssai.LblTrace"), "modale fermée", "son appelant a continué");
 faux(ouverte("FrmModale"), "elle est partie");
 
 clic("FrmEssai.CmdMenu");
+vrai(visible("FrmEssai.mnuEssai"), "le menu ouvert");
+egal(lignes("FrmEssai.mnuEssai"), ["Entrée", "Grise"], "ses entrées");
 faux(actif("FrmEssai.mnuGrise"), "une entrée grisée");
 clic("FrmEssai.mnuEntree");
 egal(texte("FrmEssai.LblTrace"), "menu", "l'entrée du menu ouvert");
+clic("FrmEssai.CmdMenu");
+touche("FrmEssai", "Echap");
+egal(texte("FrmEssai.LblTrace"), "menu", "Echap ferme le menu sans rien choisir");

@@ -1,6 +1,6 @@
 lancer();
-egal(lignes("FrmEssai.Lst"), ["  un", "  deux", "  trois"], "les rangées, entières");
-egal(donnees("FrmEssai.Lst"), [null, 22, null], "leurs données");
+egal(lignes("FrmEssai.Lst"), ["  un", "  deux", "  trois", "  quatre" + " ".repeat(100) + "1"], "les rangées, entières");
+egal(donnees("FrmEssai.Lst"), [null, 22, null, null], "leurs données");
 egal(selection("FrmEssai.Lst"), -1, "aucune");
 choisir("FrmEssai.Lst", "deux");
 egal(selection("FrmEssai.Lst"), 1, "par le texte");
@@ -22,3 +22,5 @@ egal(lignes("FrmEssai.Arbre"), ["racine", "feuille"], "l'arbre, de haut en bas")
 egal(etiquettes("FrmEssai.Arbre"), ["etiquette", null], "ses étiquettes");
 clic("FrmEssai.Arbre", "feuille");
 egal(selection("FrmEssai.Arbre"), 1, "un nœud");
+choisir("FrmEssai.Lst", "quatre");
+egal(selection("FrmEssai.Lst"), 3, "par ce qui se voit du texte");

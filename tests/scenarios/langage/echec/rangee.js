@@ -1,3 +1,3 @@
-// attendu : rangee.js:3 : aucune rangée « quatre » parmi « 
+// attendu : rangee.js:3 : aucune rangée « cinq » parmi « 
 lancer();
-choisir("FrmEssai.Lst", "quatre");
+choisir("FrmEssai.Lst", "cinq");

@@ -1,0 +1,13 @@
+lancer();
+egal(lignes("FrmEssai.TS"), ["Programmes", "Documents"], "les onglets");
+egal(texte("FrmEssai.TS"), "Programmes", "celui de devant");
+clic("FrmEssai.CmdOnglet");
+egal(relances(), [{chemin: "/opt/outil", arguments: ["un", "deux mots"]}], "le programme, puis ses arguments");
+contient(relances()[0], "outil un", "aussi comme un seul texte");
+choisir("FrmEssai.TS", "Documents");
+egal(selection("FrmEssai.TS"), 1, "l'onglet choisi");
+clic("FrmEssai.CmdOnglet");
+egal(documents(), ["/doc/Aide.pdf"], "le nom sans indice est celui de l'onglet de devant");
+clic("FrmEssai.TS", 0);
+egal(selection("FrmEssai.TS"), 0, "l'onglet cliqué");
+faux(visible("FrmEssai.CmdOnglet(1)"), "l'autre page est cachée");

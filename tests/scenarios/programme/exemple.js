@@ -1,0 +1,26 @@
+// A new patient and a medication of the local pharmacy, from the keyboard to the drawn sheet.
+installer();
+ajouter("Medoc", "BddMed", [1, null, null, null, "1 comprimé matin* et soir", "DOLIPRANE 1000 MG"]);
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdNouvelle");
+clic("FrmPatient.CmdNouveauPatient");
+clic("FrmNouveauP.Opt(0)");
+taper("FrmNouveauP.Txt(0)", "martin"); taper("FrmNouveauP.Txt(1)", "paul");
+taper("FrmNouveauP.MEB", "20/03/1953");
+clic("FrmNouveauP.CmdOK");
+egal(texte("FrmPatient.LblTitre"), "Monsieur  MARTIN  Paul", "la civilité et le nom");
+clic("FrmPatient.CmdOK");
+taper("FrmMedoc.TxtCherche", "doliprane 1000");
+clic("FrmMedoc.TV", selection("FrmMedoc.TV"));
+egal(etiquettes("FrmMedoc.TV")[selection("FrmMedoc.TV")], "1", "la clef de la rangée");
+egal(texte("FrmMedoc.TxtPoso"), "1 comprimé matin* et soir", "sa posologie");
+clic("FrmMedoc.CmdAjouter1");
+clic("FrmMedoc.CmdOrdo");
+const textes = feuille("FrmOrdo.PctOrdo").filter(i => i.genre === "texte");
+const mots = textes.slice(textes.findIndex(i => i.texte === "DOLIPRANE 1000 MG") + 1);
+egal(mots.slice(0, 5).map(i => i.texte), ["1", "comprimé", "matin", "et", "soir"], "les mots restent séparés");
+egal(mots.slice(0, 5).map(i => i.gras), [false, false, true, false, false], "un seul est gras");
+const police = {nom: mots[1].police, taille: mots[1].taille};
+proche(mots[2].x, mots[1].x + mesure("comprimé ", police), 0.01, "un blanc entre eux");
+proche(mots[1].largeur, mesure("comprimé", police), 0.001, "la largeur est celle de la surface");
+proche(textes[0].y, 24, 0.01, "le haut du nom, depuis le haut de la feuille");
