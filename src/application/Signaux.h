@@ -23,6 +23,8 @@ Q_SIGNALS:
     void ApercuChange();
     /// The face of the main window has to be painted again.
     void FaceChange();
+    /// A new document begins: patient and prescription are empty.
+    void DocumentVide();
     /// The prescription in hand was reset or given other check boxes.
     void OrdonnanceChange();
     /// The table of patients changed from outside its window.

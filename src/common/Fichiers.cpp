@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStorageInfo>
 
 #include <algorithm>
 #include <array>
@@ -50,6 +51,29 @@ QString Cause(QFileDevice::FileError erreur)
     default:
         return QStringLiteral("le système a refusé l'opération");
     }
+}
+
+/// Why the system made no directory, as far as it can be seen afterwards.
+QString CauseSansDossier(const QString& chemin)
+{
+    QFileInfo parent(QDir::cleanPath(chemin));
+    while (!parent.exists() && !parent.isRoot() && parent.path() != parent.filePath()) {
+        parent.setFile(parent.path());
+    }
+    const QStorageInfo disque(parent.filePath());
+    if (parent.isFile()) {
+        return QStringLiteral("un fichier porte le nom « %1 »").arg(parent.fileName());
+    }
+    if (disque.isReadOnly()) {
+        return QStringLiteral("le disque est en lecture seule");
+    }
+    return disque.isValid() && disque.bytesAvailable() == 0 ? QStringLiteral("le disque est plein")
+                                                            : QStringLiteral("l'accès est refusé");
+}
+
+[[noreturn]] void EchoueCreation(const QString& chemin)
+{
+    Echoue(QStringLiteral("de créer le répertoire"), chemin, CauseSansDossier(chemin));
 }
 
 [[noreturn]] void EchoueEcriture(const QFileDevice& fichier, const QString& chemin)
@@ -266,7 +290,7 @@ void SupprimeFichier(const QString& chemin)
 void CreeDossier(const QString& chemin)
 {
     if (chemin.isEmpty() || !QDir().mkpath(chemin)) {
-        Echoue(QStringLiteral("de créer le répertoire"), chemin, QStringLiteral("l'accès est refusé"));
+        EchoueCreation(chemin);
     }
 }
 
@@ -278,7 +302,7 @@ void CreeDossierPrive(const QString& chemin)
     CreeDossierPrive(QFileInfo(QDir::cleanPath(chemin)).path());
     const auto permissions = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
     if (!QDir().mkdir(QDir::cleanPath(chemin), permissions)) {
-        Echoue(QStringLiteral("de créer le répertoire"), chemin, QStringLiteral("l'accès est refusé"));
+        EchoueCreation(chemin);
     }
 }
 

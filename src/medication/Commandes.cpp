@@ -2,8 +2,13 @@
 
 #include "medication/messages.h"
 #include "outside/Boites.h"
+#include "patients/Patient.h"
 #include "prescription/Apercu.h"
 #include "prescription/Editeur.h"
+#include "startup/Chemins.h"
+#include "storage/Base.h"
+#include "storage/Bases.h"
+#include "storage/Jeu.h"
 
 namespace medication {
 
@@ -94,6 +99,17 @@ void MontreOrdonnance(application::Contexte& contexte)
 {
     contexte.Apercu.ModeApercu = 0;
     prescription::Repeint(contexte);
+}
+
+void OuvreMemorisees(application::Contexte& contexte)
+{
+    const patients::Patient& patient = contexte.Patient;
+    const storage::Jeu modeles =
+        contexte.Bases.Medoc(contexte.Chemins.CheminTravail)
+            .Selection(QStringLiteral("ListeOrdos"),
+                       QStringLiteral("NomPatient = ? and Datenais = ? or NomPatient = '*'"),
+                       {patient.PatientCourant, patient.DateNaissance});
+    contexte.Dehors.Boites.Information(modeles.Fin() ? messages::AucunModele() : messages::PlusTard());
 }
 
 std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noeud* noeud, int rang)

@@ -40,6 +40,11 @@ inline QString Abandon()
         "Tout effacer et quitter la pharmacie ?\n\nLes lignes de l'ordonnance seront perdues.");
 }
 
+inline QString AucunModele()
+{
+    return QStringLiteral("Aucun modèle d'ordonnance n'est enregistré.");
+}
+
 inline QString PlusTard()
 {
     return QStringLiteral("Disponible dans une prochaine version");

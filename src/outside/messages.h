@@ -5,6 +5,11 @@
 /// What the outer edge says to the doctor.
 namespace outside::messages {
 
+inline QString Panne(const QString& phrase, const QString& lieu)
+{
+    return phrase + QLatin1Char('\n') + lieu;
+}
+
 inline QString PdfNonEcrit(const QString& fichier)
 {
     return QStringLiteral("Le fichier PDF n'a pas pu être écrit :\n%1").arg(fichier);

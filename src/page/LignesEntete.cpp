@@ -8,8 +8,6 @@ namespace page {
 
 namespace {
 
-enum Colonne { kNumLigne, kTexte, kPolice, kTaille, kGras, kItalique, kSouligne, kEspaces };
-
 LigneEntete LitLigne(const storage::Jeu& jeu)
 {
     LigneEntete ligne;
@@ -21,15 +19,22 @@ LigneEntete LitLigne(const storage::Jeu& jeu)
                     .Italique = jeu.Champ(kItalique).toBool(),
                     .Souligne = jeu.Champ(kSouligne).toBool()};
     ligne.Espaces = jeu.Champ(kEspaces).toDouble();
-    ligne.AvecTexte = !jeu.EstNull(kTexte);
-    ligne.AvecEspaces = !jeu.EstNull(kEspaces);
-    for (int colonne = kPolice; colonne <= kSouligne; ++colonne) {
-        ligne.AvecPolice = ligne.AvecPolice && !jeu.EstNull(colonne);
+    for (int colonne = kNumLigne; colonne < kNbColonnesEntete; ++colonne) {
+        ligne.Nulles.set(colonne, jeu.EstNull(colonne));
     }
     return ligne;
 }
 
 } // namespace
+
+page::Police LigneEntete::PoliceApres(const page::Police& avant) const
+{
+    return {.Nom = Nulles[kPolice] ? avant.Nom : Police.Nom,
+            .Taille = Nulles[kTaille] ? avant.Taille : Police.Taille,
+            .Gras = Nulles[kGras] ? avant.Gras : Police.Gras,
+            .Italique = Nulles[kItalique] ? avant.Italique : Police.Italique,
+            .Souligne = Nulles[kSouligne] ? avant.Souligne : Police.Souligne};
+}
 
 QList<LigneEntete> LitEntete(storage::Base& ordo)
 {

@@ -4,19 +4,34 @@
 #include "storage/Base.h"
 
 #include <QList>
+#include <bitset>
 
 namespace page {
 
-/// One row of the table `Entete`. A null column is told apart: what needs it is left undone.
+enum ColonneEntete {
+    kNumLigne,
+    kTexte,
+    kPolice,
+    kTaille,
+    kGras,
+    kItalique,
+    kSouligne,
+    kEspaces,
+    kNbColonnesEntete
+};
+
+/// One row of the table `Entete`.
 struct LigneEntete
 {
     int NumLigne = 0;
     QString Texte;
     page::Police Police;
-    double Espaces = 0;     ///< the row's X, in the surface's units
-    bool AvecTexte = true;  ///< the column is not null, as for the two below
-    bool AvecPolice = true; ///< none of the font's columns is null
-    bool AvecEspaces = true;
+    double Espaces = 0; ///< the row's X, in the surface's units
+    std::bitset<kNbColonnesEntete> Nulles =
+        {}; ///< the columns that are null: what one of them would set is left undone
+
+    /// The row's font; what the row leaves null stays as in the font before.
+    page::Police PoliceApres(const page::Police& avant) const;
 };
 
 /// The rows of `Entete` in the order of `NumLigne`. Throws `Erreur`.

@@ -140,15 +140,13 @@ void RangsEntete::Peint(const QList<LigneEntete>& lignes, quint8 mode)
 
 void RangsEntete::PeintLigne(const LigneEntete& ligne)
 {
-    if (!ligne.AvecTexte) {
-        return;
-    }
     const bool suit = ligne.Texte.endsWith(QLatin1Char('*')) || ligne.Texte.endsWith(QLatin1Char('$'));
-    if (!suit && ligne.AvecEspaces) {
+    if (!suit && !ligne.Nulles[kTexte] && !ligne.Nulles[kEspaces]) {
         cible_.CurrentX(ligne.Espaces);
     }
-    if (ligne.AvecPolice) {
-        cible_.Font(ligne.Police);
+    cible_.Font(ligne.PoliceApres(cible_.Font()));
+    if (ligne.Nulles[kTexte]) {
+        return;
     }
     if (ligne.Texte.isEmpty() || ligne.Texte == QLatin1String("*")) {
         SauteLignes(ligne);

@@ -19,14 +19,12 @@ struct Degrade
     }
 };
 
-// The middle of the pixel, which the line then covers whole.
 void TraceLigne(Surface& cible, int place, bool vertical)
 {
-    const double milieu = place + 0.5;
     if (vertical) {
-        cible.Line(0, milieu, cible.ScaleWidth(), milieu);
+        cible.Line(0, place, cible.ScaleWidth(), place);
     } else {
-        cible.Line(milieu, 0, milieu, cible.ScaleHeight());
+        cible.Line(place, 0, place, cible.ScaleHeight());
     }
 }
 

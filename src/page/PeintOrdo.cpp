@@ -74,9 +74,7 @@ void PeintBasDePage(Surface& cible, const Modele& modele)
         return;
     }
     const LigneEntete& ligne = modele.Entete[modele.Entete.size() - 2];
-    if (ligne.AvecPolice) {
-        cible.Font(ligne.Police);
-    }
+    cible.Font(ligne.PoliceApres(cible.Font()));
     cible.CurrentX(0);
     cible.CurrentY(HauteurPage(modele.Reglages.Options) - modele.Reglages.Marges.MargeBasEntete);
     cible.Print(ligne.Texte);

@@ -131,7 +131,8 @@ void Rejeu::Filet(double x, double x2, double milieu, double epaisseur)
 {
     const double points = peintre_.device()->devicePixelRatioF();
     const double hauteur = std::max(1.0, std::round(epaisseur * points)) / points;
-    const double haut = std::round((milieu - hauteur / 2) * points) / points;
+    constexpr double arrondi = 1e-6; // a line of the screen, half a point too high for its own row of points
+    const double haut = std::floor((milieu - hauteur / 2) * points + 0.5 + arrondi) / points;
     peintre_.fillRect(QRectF(QPointF(x, haut), QPointF(x2, haut + hauteur)).normalized(),
                       peintre_.pen().color());
 }

@@ -110,6 +110,7 @@ void VideDocument(application::Contexte& contexte)
     OublieLePatient(contexte);
     VideLesZones(contexte.Ordonnance);
     EffaceApercu(contexte);
+    Q_EMIT contexte.Signaux.DocumentVide();
     Q_EMIT contexte.Signaux.OrdonnanceChange();
 }
 

@@ -9,6 +9,20 @@
 
 namespace settings {
 
+namespace {
+
+/// "NAME.abime.2", or the first number behind that no file bears.
+QString PlaceLibre(const QString& garde)
+{
+    int numero = 2;
+    while (common::FichierExiste(garde + QLatin1Char('.') + QString::number(numero))) {
+        ++numero;
+    }
+    return garde + QLatin1Char('.') + QString::number(numero);
+}
+
+} // namespace
+
 QByteArray TexteChamp(const QString& champ)
 {
     QString propre = champ;
@@ -43,7 +57,11 @@ QByteArray OctetsEnregistrement(const QString& chemin)
 
 void GardeAbime(const QString& chemin)
 {
-    common::CopieFichier(chemin, chemin + QStringLiteral(".abime"));
+    const QString garde = chemin + QStringLiteral(".abime");
+    if (common::FichierExiste(garde) && common::LitFichier(garde) != common::LitFichier(chemin)) {
+        common::DeplaceFichier(garde, PlaceLibre(garde));
+    }
+    common::CopieFichier(chemin, garde);
 }
 
 void EcritOctets(const QString& chemin, const QByteArray& octets)

@@ -40,7 +40,8 @@ template <typename... Champs> QByteArray TexteEnregistrement(std::tuple<Champs&.
 /// The bytes of a record file; a null array when there is none, and a NUL when it cannot be read.
 QByteArray OctetsEnregistrement(const QString& chemin);
 
-/// Keeps a damaged file beside as "NAME.abime". Throws `Erreur`.
+/// Keeps a damaged file beside as "NAME.abime"; one that stood there before becomes "NAME.abime.2", "...3".
+/// Throws `Erreur`.
 void GardeAbime(const QString& chemin);
 
 /// Writes a record file whole. Throws `Erreur`.

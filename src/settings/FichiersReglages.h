@@ -24,7 +24,8 @@ bool LitBaseCfg(drugbank::Banque& banque, const QString& chemin);
 void EcritBaseCfg(const drugbank::Banque& banque, const QString& chemin);
 
 /// Reads the doctor's look (`Entete` row 23, `CouleurPET`, `Misenpage`, `Certificat`) into the variables.
-/// A table without rows leaves them as they are, but for the colour, which becomes black. Throws `Erreur`.
+/// What a table without rows, or a null column, would give becomes the default: nothing of the doctor before
+/// stays. The variables are left as they are when it throws `Erreur`.
 void ChargeLook(Look& look, storage::Base& ordo);
 
 } // namespace settings

@@ -24,7 +24,7 @@ void ChargeEntete(Look& look, storage::Base& ordo)
 {
     for (auto jeu = ordo.Table(QStringLiteral("Entete")); !jeu.Fin(); jeu.MoveNext()) {
         if (jeu.Champ(0).toInt() == 23) {
-            look.NomSignature = jeu.Texte(1);
+            look.NomSignature = jeu.Texte(1).trimmed();
         }
     }
     const auto couleur = ordo.Table(QStringLiteral("CouleurPET"));
@@ -45,7 +45,7 @@ void ChargeMisenpage(Look& look, storage::Base& ordo)
 
 void ChargeLook(Look& look, storage::Base& ordo)
 {
-    Look lu = look;
+    Look lu;
     ChargeEntete(lu, ordo);
     ChargeMisenpage(lu, ordo);
     if (const auto certificat = ordo.Table(QStringLiteral("Certificat")); !certificat.Fin()) {

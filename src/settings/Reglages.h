@@ -83,6 +83,7 @@ struct Look
     page::Police Certif; ///< `PoliceCertif`, ...: `Certificat`
     page::Couleur CouleurEntete = page::kNoir;
     QString NomSignature;
+    bool operator==(const Look&) const = default;
 };
 
 /// One variable per settings field. Whatever prints or draws reads these, never the files.

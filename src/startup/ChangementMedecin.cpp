@@ -1,12 +1,11 @@
 #include "startup/GestionMedecins.h"
 
 #include "application/Signaux.h"
-#include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "drugbank/Banque.h"
 #include "medication/Choix.h"
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "prescription/Editeur.h"
 #include "settings/FichiersReglages.h"
 #include "startup/Chemins.h"
@@ -44,12 +43,10 @@ void ChargeBanque(drugbank::Banque& banque, const QString& cheminMedecin)
 /// A look that cannot be read must not stay that of the doctor before.
 void ChargeLookOuDitPourquoi(Contexte& contexte)
 {
-    try {
+    contexte.Reglages.Look = {};
+    outside::Tente(contexte.Dehors.Boites, [&] {
         settings::ChargeLook(contexte.Reglages.Look, contexte.Bases.Ordo(contexte.Chemins.CheminMedecin));
-    } catch (const common::Erreur& erreur) {
-        contexte.Reglages.Look = {};
-        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
-    }
+    });
 }
 
 void SignaleLogo(Contexte& contexte)

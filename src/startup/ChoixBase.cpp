@@ -1,7 +1,6 @@
 #include "startup/ChoixBase.h"
 
-#include "common/Erreur.h"
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "startup/FichiersChemins.h"
 #include "startup/messages.h"
 
@@ -34,11 +33,7 @@ SuiteChoix ValideChoixBase(application::Contexte& contexte, int rang)
         const bool poursuit = contexte.Dehors.Boites.QuestionInformation(messages::ChoixObligatoire());
         return poursuit ? SuiteChoix::Reste : SuiteChoix::Termine;
     }
-    try {
-        EcritCheminBase(contexte.Chemins, contexte.Medecins);
-    } catch (const common::Erreur& erreur) {
-        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
-    }
+    outside::Tente(contexte.Dehors.Boites, [&] { EcritCheminBase(contexte.Chemins, contexte.Medecins); });
     contexte.Chemins.TypeStockage = static_cast<quint8>(rang + 1);
     return SuiteChoix::Poursuit;
 }

@@ -5,8 +5,8 @@
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "drugbank/Banque.h"
-#include "outside/Boites.h"
 #include "outside/Plateau.h"
+#include "outside/Tente.h"
 #include "settings/FichiersReglages.h"
 #include "startup/DialoguesStockage.h"
 #include "startup/FichiersChemins.h"
@@ -34,11 +34,12 @@ void ExigeCheminData(const Chemins& chemins)
     }
 }
 
-/// A template that the tree has just received goes to the doctor too, when there is one.
+/// A template that the tree has just received goes to the doctor too, when there is one and he has none.
 void CopieChezMedecin(const Chemins& chemins, const QString& nom)
 {
-    if (!chemins.CheminMedecin.isEmpty()) {
-        common::CopieFichier(Joint(chemins.CheminData, nom), Joint(chemins.CheminMedecin, nom));
+    const QString& medecin = chemins.CheminMedecin;
+    if (!medecin.isEmpty() && !FichierExiste(Joint(medecin, nom))) {
+        common::CopieFichier(Joint(chemins.CheminData, nom), Joint(medecin, nom));
     }
 }
 
@@ -72,11 +73,15 @@ void PrepareMarges(Contexte& contexte)
     }
 }
 
-void PrepareDupli(Contexte& contexte)
+void PrepareDupli(Contexte& contexte, const QString& police)
 {
-    contexte.Reglages.Dupli = {};
+    settings::Dupli& dupli = contexte.Reglages.Dupli;
+    dupli = {};
+    if (!police.isEmpty()) {
+        dupli.DupliPolice = police;
+    }
     if (!FichierExiste(Joint(contexte.Chemins.CheminData, QStringLiteral("Dupli.cfg")))) {
-        settings::EcritDupli(contexte.Reglages.Dupli, contexte.Chemins.CheminData);
+        settings::EcritDupli(dupli, contexte.Chemins.CheminData);
         CopieChezMedecin(contexte.Chemins, QStringLiteral("Dupli.cfg"));
     }
 }
@@ -119,7 +124,9 @@ void OuvreBanque(Contexte& contexte)
     drugbank::Banque& banque = contexte.Banque;
     banque.FiltreBanque = 64;
     banque.ProduitBanque = 2;
-    settings::LitBaseCfg(banque, contexte.Chemins.CheminMedecin);
+    if (!contexte.Chemins.CheminMedecin.isEmpty()) {
+        settings::LitBaseCfg(banque, contexte.Chemins.CheminMedecin);
+    }
     if (!banque.ModuleAide) {
         banque.TypeBase = QStringLiteral("BIP");
     }
@@ -136,16 +143,6 @@ void Appelle(const std::function<void()>& ecran)
 {
     if (ecran) {
         ecran();
-    }
-}
-
-/// A failure here ends nothing, but a window that could not be filled is told of.
-void AppelleOuDitPourquoi(Contexte& contexte, const std::function<void()>& ecran)
-{
-    try {
-        Appelle(ecran);
-    } catch (const common::Erreur& erreur) {
-        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
     }
 }
 
@@ -202,7 +199,7 @@ bool Demarrage::RegleDepuisOptions()
 {
     Q_EMIT contexte_.Signaux.ReglagesChanges();
     PrepareMarges(contexte_);
-    PrepareDupli(contexte_);
+    PrepareDupli(contexte_, ecrans_.PoliceFenetre);
     const int rangStockage = LitChoixDeStockage(contexte_);
     ChercheMedecinParDefaut(contexte_);
     if (ecrans_.MontreChoixBase && !ecrans_.MontreChoixBase(rangStockage)) {
@@ -223,7 +220,7 @@ void Demarrage::TermineChargement()
         Tolere([&] { Appelle(ecrans_.Minimise); }); // the window is then shown at its size
     }
     if (!contexte_.Medecins.Liste.isEmpty()) {
-        AppelleOuDitPourquoi(contexte_, ecrans_.ChargeFenetres);
+        outside::Tente(contexte_.Dehors.Boites, [&] { Appelle(ecrans_.ChargeFenetres); });
         Q_EMIT contexte_.Signaux.FaceChange();
     }
     NettoieCheminData(contexte_.Chemins);

@@ -13,6 +13,8 @@ QString Version();
 /// What the load shows. A missing function is passed over.
 struct Ecrans
 {
+    /// The font name of `FrmDepart`: that of the word on the copies until it is chosen.
+    QString PoliceFenetre;
     /// Shows `FrmChoixBase` modally with that row of `CboBase` selected (-1: none) and row `IndexMedecin`
     /// of `CboMed`. True when `CmdSuite` let it go on, false when the program ends.
     std::function<bool(int rangStockage)> MontreChoixBase;

@@ -1,8 +1,7 @@
 #include "startup/DialoguesStockage.h"
 
-#include "common/Erreur.h"
 #include "common/Fichiers.h"
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "settings/Enregistrement.h"
 #include "startup/Chemins.h"
 #include "startup/FichiersChemins.h"
@@ -204,10 +203,7 @@ bool DemandeCheminData(Contexte& contexte)
 void RegleCheminTravail(Contexte& contexte)
 {
     TravailleSurDisque(contexte);
-    try {
-        RegleChoisi(contexte);
-    } catch (const common::Erreur& erreur) {
-        contexte.Dehors.Boites.Stop(messages::Panne(erreur.Phrase(), erreur.Lieu()));
+    if (!outside::Tente(contexte.Dehors.Boites, [&] { RegleChoisi(contexte); })) {
         contexte.Dehors.Boites.Information(messages::TravailSurDisque());
         TravailleSurDisque(contexte);
     }

@@ -1,10 +1,9 @@
 #include "startup/GestionMedecins.h"
 
 #include "application/Signaux.h"
-#include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "startup/Chemins.h"
 #include "startup/FichiersChemins.h"
 #include "startup/InscriptionMedecin.h"
@@ -64,8 +63,7 @@ void CreeMedecin(Contexte& contexte, const QString& nom, int numero)
 {
     const Chemins& chemins = contexte.Chemins;
     const QString& racine = chemins.CheminTravail;
-    const QString dossier =
-        CreeDossierMedecin(contexte.Dehors.Boites, chemins, racine, nom, ModeleOrdo(chemins));
+    const QString dossier = CreeDossierMedecin(chemins, racine, nom, ModeleOrdo(chemins));
     CopieReglages(racine, dossier);
     Medecins avecLui = contexte.Medecins;
     AjouteALaListe(avecLui, nom, numero);
@@ -139,7 +137,7 @@ void InscritMedecin(Contexte& contexte)
         }
         CreeMedecin(contexte, nom, numero);
     } catch (const common::Erreur& erreur) {
-        boites.Stop(messages::CreationIncomplete(messages::Panne(erreur.Phrase(), erreur.Lieu())));
+        boites.Stop(messages::CreationIncomplete(outside::messages::Panne(erreur.Phrase(), erreur.Lieu())));
         return;
     }
     Q_EMIT contexte.Signaux.MedecinsChanges();
@@ -152,9 +150,13 @@ void SupprimeMedecin(Contexte& contexte)
     if (!SuppressionVoulue(contexte.Dehors.Boites, contexte.Medecins)) {
         return;
     }
-    RetireDeMedecinIni(contexte.Chemins.CheminTravail, contexte.Medecins.Liste[rang]);
+    outside::Boites& boites = contexte.Dehors.Boites;
+    const Medecin medecin = contexte.Medecins.Liste[rang];
+    if (!outside::Tente(boites, [&] { RetireDeMedecinIni(contexte.Chemins.CheminTravail, medecin); })) {
+        return;
+    }
     contexte.Bases.FermeOrdo();
-    SupprimeDonnees(contexte.Chemins.CheminMedecin);
+    outside::Tente(boites, [&] { SupprimeDonnees(contexte.Chemins.CheminMedecin); });
     RetireDeLaListe(contexte, rang);
 }
 
@@ -169,7 +171,7 @@ void PoseMedecinParDefaut(Contexte& contexte)
     } else {
         boites.Information(messages::SelectionnezUnMedecin());
     }
-    EcritCheminBase(contexte.Chemins, medecins);
+    outside::Tente(boites, [&] { EcritCheminBase(contexte.Chemins, medecins); });
 }
 
 bool QuitteMedecins(Contexte& contexte)

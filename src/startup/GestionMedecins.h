@@ -26,10 +26,12 @@ bool ExigeMedecin(application::Contexte& contexte);
 /// `CmdNouveau`: asks for a name, inscribes the doctor and switches to him.
 void InscritMedecin(application::Contexte& contexte);
 
-/// `CmdSupprime`: deletes the selected doctor after a question. Throws `Erreur`.
+/// `CmdSupprime`: deletes the selected doctor after a question. What cannot be deleted is told of; he stays
+/// in the list when "Medecin.ini" cannot be written.
 void SupprimeMedecin(application::Contexte& contexte);
 
-/// `CmdDefaut`: the selected doctor is the one selected at the next start. Throws `Erreur`.
+/// `CmdDefaut`: the selected doctor is the one selected at the next start. A file that cannot be written is
+/// told of.
 void PoseMedecinParDefaut(application::Contexte& contexte);
 
 /// `CmdQuitter`: true when the window may unload.

@@ -51,13 +51,10 @@ QString NomSansTrait(outside::Boites& boites, const QString& nom)
     return inscrit;
 }
 
-QString CreeDossierMedecin(outside::Boites& boites, const Chemins& chemins, const QString& racine,
-                           const QString& nom, const QString& modele)
+QString CreeDossierMedecin(const Chemins& chemins, const QString& racine, const QString& nom,
+                           const QString& modele)
 {
     const QString dossier = Joint(racine, nom);
-    if (common::DossierContientFichier(dossier)) {
-        boites.Information(messages::RepertoireExistant(common::CheminAffiche(dossier)));
-    }
     CreeDossierDArbre(chemins, racine, dossier);
     CreeDossierDArbre(chemins, racine, Joint(dossier, QStringLiteral("Logo")));
     const QString ordo = Joint(dossier, QStringLiteral("Ordo.mdb"));

@@ -21,9 +21,9 @@ bool FormatMedecinJuste(const QString& nom);
 QString NomSansTrait(outside::Boites& boites, const QString& nom);
 
 /// Creates the doctor's directory below `racine` with "Logo" and, from `modele`, "Ordo.mdb". What stands
-/// there already is kept, and told when it holds files. Gives the directory. Throws `Erreur`.
-QString CreeDossierMedecin(outside::Boites& boites, const Chemins& chemins, const QString& racine,
-                           const QString& nom, const QString& modele);
+/// there already is kept. Gives the directory. Throws `Erreur`.
+QString CreeDossierMedecin(const Chemins& chemins, const QString& racine, const QString& nom,
+                           const QString& modele);
 
 /// "BasesInstal\Ordo.mdb", the empty database of a doctor.
 QString ModeleOrdo(const Chemins& chemins);

@@ -60,7 +60,7 @@ bool InscritPremierMedecin(Contexte& contexte)
     }
     const QString nom = NomSansTrait(boites, saisie);
     Chemins& chemins = contexte.Chemins;
-    chemins.CheminMedecin = CreeDossierMedecin(boites, chemins, chemins.CheminData, nom, Modele(chemins));
+    chemins.CheminMedecin = CreeDossierMedecin(chemins, chemins.CheminData, nom, Modele(chemins));
     AjouteALaListe(contexte.Medecins, nom, contexte.Medecins.NbMedecins + 1);
     EcritListeMedecins(chemins.CheminData, contexte.Medecins);
     Q_EMIT contexte.Signaux.MedecinsChanges();

@@ -6,6 +6,8 @@
 #include "startup/InscriptionMedecin.h"
 #include "startup/messages.h"
 
+#include <QFileInfo>
+
 namespace startup {
 
 using common::FichierExiste;
@@ -33,7 +35,9 @@ void DeplaceParDessus(const Chemins& chemins, const QString& nom)
 void SupprimeSiEnDouble(const Chemins& chemins, const QString& nom)
 {
     const QString source = Joint(chemins.CheminInstallation, nom);
-    if (FichierExiste(source) && FichierExiste(Joint(chemins.CheminData, nom))) {
+    const QString destination = Joint(chemins.CheminData, nom);
+    const bool enDouble = FichierExiste(source) && FichierExiste(destination);
+    if (enDouble && QFileInfo(source).canonicalFilePath() != QFileInfo(destination).canonicalFilePath()) {
         common::SupprimeFichier(source);
     }
 }

@@ -60,7 +60,9 @@ inline QString CheminInenregistrable()
 
 inline QString CheminDataDisparu()
 {
-    return QStringLiteral("Le répertoire des données n'existe plus, ou n'est pas accessible.");
+    return QStringLiteral(
+        "Le répertoire des données, que désigne le fichier « CheminData.cfg », n'existe plus ou "
+        "n'est pas accessible.");
 }
 
 // The first doctor.
@@ -120,12 +122,6 @@ inline QString DejaInscrit(const QString& nom)
     return QStringLiteral("Un médecin est déjà inscrit sous le nom \"") + nom + QStringLiteral("\".");
 }
 
-inline QString RepertoireExistant(const QString& dossier)
-{
-    return QStringLiteral("Le répertoire \"") + dossier +
-           QStringLiteral("\" existe déjà : les données qu'il contient sont conservées.");
-}
-
 inline QString TropDeMedecins()
 {
     return QStringLiteral("Le nombre maximum de médecins est atteint.");
@@ -169,11 +165,6 @@ inline QString SelectionnezUnNom()
 inline QString ChoisissezMedecin()
 {
     return QStringLiteral("Choisissez d'abord un médecin utilisateur.");
-}
-
-inline QString Panne(const QString& phrase, const QString& lieu)
-{
-    return phrase + QLatin1Char('\n') + lieu;
 }
 
 // The daily choice.

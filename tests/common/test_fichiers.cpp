@@ -263,8 +263,11 @@ void TestFichiers::CreeLesDossiers()
     CreeDossier(chemin);
     QVERIFY(DossierExiste(chemin));
     EcritFichier(Chemin(QStringLiteral("f")), "x");
-    QVERIFY(
-        PhraseDEchec([&] { CreeDossier(Chemin(QStringLiteral("f"))); }).contains(QStringLiteral("« f »")));
+    for (const char* chemin : {"f", "f/sous/dossier"}) {
+        QVERIFY(PhraseDEchec([&] {
+                    CreeDossier(Chemin(QString::fromLatin1(chemin)));
+                }).endsWith(QStringLiteral(": un fichier porte le nom « f ».")));
+    }
 }
 
 void TestFichiers::CreeDesDossiersPrives()

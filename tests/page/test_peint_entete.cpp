@@ -74,8 +74,8 @@ private Q_SLOTS:
     void leModeUnSansPraticienSauteTreizeLignes();
     void leRang22ArreteEtLe23NeSePeintPas();
     void sansRangRienNeSePeint();
-    void unTexteNulLaisseLaLigneEtLaPolice();
-    void unePoliceNulleGardeLaPrecedente();
+    void unTexteNulNePrendPasDeLigne();
+    void uneColonneNulleGardeCelleDAvant();
     void leLogoAGaucheSurPapier();
     void leLogoADroiteSurPapier();
     void leLogoADroiteDUnEnteteVide();
@@ -215,23 +215,24 @@ void TestPeintEntete::sansRangRienNeSePeint()
     QVERIFY(SurPapier(page).Items.isEmpty());
 }
 
-void TestPeintEntete::unTexteNulLaisseLaLigneEtLaPolice()
+void TestPeintEntete::unTexteNulNePrendPasDeLigne()
 {
     PageDeTest page;
     page.PoseEntete({Rang(0, u"Docteur"_s), Rang(2, u"Adresse"_s)});
-    page.Entete[1].AvecTexte = false;
+    page.Entete[1].Nulles.set(page::kTexte);
     QCOMPARE(Trouve(SurPapier(page), u"Adresse"_s).Y, 4 + MesureHauteur({}));
 }
 
-void TestPeintEntete::unePoliceNulleGardeLaPrecedente()
+// A row whose text is null has set its font all the same; one that is null in some columns sets the others.
+void TestPeintEntete::uneColonneNulleGardeCelleDAvant()
 {
     PageDeTest page;
-    const page::Police grande{.Taille = 16};
-    page.PoseEntete({Rang(0, u"Docteur"_s, 0, grande), Rang(1, u"Adresse"_s, 7)});
-    page.Entete[1].AvecPolice = false;
-    page.Entete[1].AvecEspaces = false;
+    page.PoseEntete({Rang(0, u"Docteur"_s), Rang(1, u"-"_s, 0, {.Taille = 16, .Italique = true}),
+                     Rang(2, u"Adresse"_s, 7, {.Nom = u"Times New Roman"_s, .Taille = 9, .Gras = true})});
+    page.Entete[1].Nulles.set(page::kTexte);
+    page.Entete[2].Nulles.set(page::kTaille).set(page::kItalique).set(page::kEspaces);
     const page::ItemTexte adresse = Trouve(SurPapier(page), u"Adresse"_s);
-    QCOMPARE(adresse.Police, grande);
+    QCOMPARE(adresse.Police, (page::Police{u"Times New Roman"_s, 16, true, true, false}));
     QCOMPARE(adresse.X, 10.0);
 }
 

@@ -51,9 +51,9 @@ void TestRegleFond::lesDegresDuFond()
     QCOMPARE(traits.size(), 71);
     QCOMPARE(traits[0].Encre, page::Rvb(2, 69, 255)); // the first line is one step away already
     QCOMPARE(traits[69].Encre, page::Rvb(140, 0, 255));
-    QCOMPARE(traits[70].Encre, page::Rvb(142, 0, 255));              // held within a colour's range
-    QVERIFY(qAbs(traits[0].Y * kPixelsParMillimetre - 10.5) < 1e-9); // the pixel's middle
-    QVERIFY(qAbs(traits[70].Y * kPixelsParMillimetre - 80.5) < 1e-9);
+    QCOMPARE(traits[70].Encre, page::Rvb(142, 0, 255)); // held within a colour's range
+    QVERIFY(qAbs(traits[0].Y * kPixelsParMillimetre - 10) < 1e-9);
+    QVERIFY(qAbs(traits[70].Y * kPixelsParMillimetre - 80) < 1e-9);
     QCOMPARE(traits[0].X, 0.0);
     QCOMPARE(traits[0].X2, 50.0);
     QCOMPARE(traits[0].Epaisseur, 1);

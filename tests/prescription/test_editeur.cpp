@@ -115,10 +115,10 @@ void TestEditeur::unChampNulSeVoit()
     PoseRang(cabinet, 3, 7, QVariant());
     QList<page::LigneEntete> entete;
     ModelePage(cabinet.Contexte, entete);
-    QVERIFY(entete[0].AvecTexte && entete[0].AvecPolice && entete[0].AvecEspaces);
-    QVERIFY(!entete[1].AvecTexte && entete[1].AvecPolice);
-    QVERIFY(!entete[2].AvecPolice && entete[2].AvecTexte);
-    QVERIFY(!entete[3].AvecEspaces);
+    QVERIFY(entete[0].Nulles.none());
+    QVERIFY(entete[1].Nulles.test(page::kTexte) && entete[1].Nulles.count() == 1);
+    QVERIFY(entete[2].Nulles.test(page::kTaille) && entete[2].Nulles.count() == 1);
+    QVERIFY(entete[3].Nulles.test(page::kEspaces) && entete[3].Nulles.count() == 1);
 }
 
 void TestEditeur::repeintMontrePatientEtOrdonnance()

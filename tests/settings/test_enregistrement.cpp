@@ -55,6 +55,7 @@ private Q_SLOTS:
     void relitCeQuIlEcrit();
     void supporteNImporteQuoi();
     void gardeLeFichierAbime();
+    void gardeChaqueFichierAbime();
     void neGardePasUnFichierCourt();
     void nEcritPasLeMeme();
     void laisseLeFichierQuandLaCopieEchoue();
@@ -217,6 +218,22 @@ void TestEnregistrement::gardeLeFichierAbime()
     EcritEnregistrement(chemin, ChampsMarges(marges));
     QCOMPARE(common::LitFichier(chemin + QStringLiteral(".abime")), abime);
     QCOMPARE(common::LitFichier(chemin), QByteArray("10,4,10,20,100,170,70,100,0,0,0,0,0\r\n"));
+}
+
+void TestEnregistrement::gardeChaqueFichierAbime()
+{
+    QTemporaryDir dossier;
+    const QString chemin = common::Joint(dossier.path(), QStringLiteral("Marges.cfg"));
+    const QString garde = chemin + QStringLiteral(".abime");
+    Marges marges;
+    for (const char* abime : {"un", "deux", "deux", "trois"}) {
+        common::EcritFichier(chemin, abime);
+        EcritEnregistrement(chemin, ChampsMarges(marges));
+        QCOMPARE(common::LitFichier(garde), QByteArray(abime));
+    }
+    QCOMPARE(common::LitFichier(garde + QStringLiteral(".2")), QByteArray("un"));
+    QCOMPARE(common::LitFichier(garde + QStringLiteral(".3")), QByteArray("deux"));
+    QVERIFY(!common::FichierExiste(garde + QStringLiteral(".4")));
 }
 
 void TestEnregistrement::neGardePasUnFichierCourt()

@@ -23,6 +23,8 @@ class TestDemarrage : public QObject
 
 private Q_SLOTS:
     void premierDemarrage();
+    void premierDemarrageChezUnMedecin();
+    void policeDesCopies();
     void secondDemarrage();
     void premierDemarrageAbandonne();
     void sansMedecinAbandonne();
@@ -65,6 +67,33 @@ void TestDemarrage::premierDemarrage()
     QCOMPARE(monde.Etat.Banque.TypeBase, N("BIP"));
     QCOMPARE(monde.Ecrans_, (QStringList{N("ChoixBase"), N("ConfOrdo"), N("Fenetres")}));
     QVERIFY(face.count() >= 1);
+}
+
+void TestDemarrage::premierDemarrageChezUnMedecin()
+{
+    MondeDemarrage monde;
+    common::CreeDossierPrive(monde.Donnee("DR NEIBRE"));
+    common::EcritFichier(monde.Donnee("DR NEIBRE/Marges.cfg"), "33\r\n");
+    monde.AttendPremierDemarrage();
+    QVERIFY(monde.Demarre());
+    QCOMPARE(common::LitFichier(monde.Donnee("DR NEIBRE/Marges.cfg")), QByteArray("33\r\n"));
+    QCOMPARE(monde.Etat.Reglages.Marges.MargeGaucheEntete, 33.0F);
+    QVERIFY(FichierExiste(monde.Donnee("DR NEIBRE/Options.cfg")));
+}
+
+void TestDemarrage::policeDesCopies()
+{
+    MondeDemarrage monde;
+    Ecrans ecrans;
+    ecrans.PoliceFenetre = N("Inter");
+    ecrans.MontreChoixBase = [&](int) {
+        ChoisitStockage(monde.Contexte, 0);
+        return ValideChoixBase(monde.Contexte, 0) == SuiteChoix::Poursuit;
+    };
+    monde.AttendPremierDemarrage();
+    QVERIFY(Demarrage(monde.Contexte, ecrans).Execute());
+    QCOMPARE(common::LitFichier(monde.Donnee("DR NEIBRE/Dupli.cfg")),
+             QByteArray("\"Inter\",48,0,0,0,35,140,1,\"DUPLICATA\"\r\n"));
 }
 
 void TestDemarrage::secondDemarrage()

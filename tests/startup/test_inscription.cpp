@@ -139,8 +139,6 @@ void TestInscription::inscritSurRepertoireExistant()
     common::EcritFichier(options, "1\r\n");
     const QByteArray base = common::LitFichier(Joint(monde.Medecin(kB), QStringLiteral("Ordo.mdb")));
     monde.AttendNom("dr b");
-    monde.Boites.AttendInformation(T("Le répertoire \"") + common::CheminAffiche(monde.Medecin(kB)) +
-                                   T("\" existe déjà : les données qu'il contient sont conservées."));
     InscritMedecin(monde.Contexte);
     QCOMPARE(common::LitFichier(options), QByteArray("1\r\n"));
     QCOMPARE(common::LitFichier(Joint(monde.Medecin(kB), QStringLiteral("Ordo.mdb"))), base);

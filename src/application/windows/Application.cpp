@@ -7,7 +7,7 @@
 #include "startup/windows/FrmChoixBase.h"
 #include "startup/windows/FrmDepart.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 namespace application {
 
@@ -44,7 +44,8 @@ void Application::ArretSurErreur(const QString& phrase, const QString& lieu)
 
 startup::Ecrans Application::Ecrans()
 {
-    return {.MontreChoixBase = [this](int rang) { return MontreChoixBase(rang); },
+    return {.PoliceFenetre = QApplication::font().family(),
+            .MontreChoixBase = [this](int rang) { return MontreChoixBase(rang); },
             .ChargeConfOrdo = {},
             .Minimise = [this] { fenetres_.Donne<startup::FrmDepart>().Reduit(); },
             .ChargeFenetres = [this] { ChargeFenetres(); }};
@@ -62,7 +63,7 @@ bool Application::MontreChoixBase(int rangStockage)
 void Application::ChargeFenetres()
 {
     fenetres_.Donne<patients::FrmPatient>();
-    QCoreApplication::processEvents();
+    QApplication::processEvents();
 }
 
 void Application::Arrete()

@@ -66,6 +66,8 @@ QPushButton* BoutonAccueil(const QString& nomObjet, const QString& nomLegende, c
 void AligneAGauche(QPushButton* bouton);
 /// Less room beside the caption, for buttons that stand in a long row. Before the button is first shown.
 void Serre(QPushButton* bouton);
+/// The caption is underlined while the mouse is over the button.
+void SouligneSousLaSouris(QPushButton* bouton);
 /// A text that acts as a link: underlined under the mouse and in focus.
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent);
 /// A square button with an icon alone; the caption is its accessible name and tool tip.

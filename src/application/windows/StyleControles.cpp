@@ -103,6 +103,11 @@ void Serre(QPushButton* bouton)
     bouton->setProperty("alignement", QStringLiteral("serre"));
 }
 
+void SouligneSousLaSouris(QPushButton* bouton)
+{
+    bouton->setProperty("survol", QStringLiteral("souligne"));
+}
+
 QPushButton* Lien(const QString& nomObjet, const QString& texte, QWidget* parent)
 {
     auto* lien = BoutonDuGenre("lien", nomObjet, texte, QIcon(), parent);

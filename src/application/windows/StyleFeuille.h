@@ -12,6 +12,7 @@ constexpr QRgb kOmbre = qRgba(0, 20, 60, 6); ///< of each ring
 constexpr QRgb kPapier = qRgb(255, 255, 255);
 constexpr QRgb kBordDuPapier = qRgb(197, 211, 230);
 constexpr QRgb kMarqueInterdit = qRgb(176, 32, 32);
-constexpr double kPoliceMarque = 9; ///< points
+constexpr QRgb kHorsDuPapier = qRgba(176, 32, 32, 16); ///< over what is lost on paper
+constexpr double kPoliceMarque = 9;                    ///< points
 
 } // namespace application::style

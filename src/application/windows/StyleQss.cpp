@@ -36,6 +36,7 @@ QPushButton[genre="lien"] { background: transparent; border: 1px solid transpare
 QPushButton[genre="lien"]:hover { text-decoration: underline; }
 QPushButton[genre="lien"]:focus { border: 1px solid @encre@; text-decoration: underline; }
 QPushButton[alignement="gauche"] { text-align: left; }
+QPushButton[survol="souligne"]:hover { text-decoration: underline; }
 QPushButton[alignement="serre"], QPushButton[alignement="serre"]:disabled { padding: 6px 8px; }
 QPushButton[alignement="serre"]:focus { padding: 5px 7px; }
 QPushButton[alignement="serre"][genre="principal"]:focus { padding: 4px 6px; }

@@ -2,15 +2,16 @@
 
 #include "application/windows/Style.h"
 #include "medication/messages.h"
+#include "medication/windows/CaseEtiquetee.h"
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/ChampMedicament.h"
-#include "medication/windows/EtiquetteCase.h"
 #include "medication/windows/ListeLignes.h"
 
 #include <QAction>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QDialog>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QToolButton>
 #include <QTreeView>
@@ -46,22 +47,6 @@ QHBoxLayout* Rang(std::initializer_list<QWidget*> gauche, std::initializer_list<
     return rang;
 }
 
-QWidget* Case(QCheckBox*& caseACocher, const QString& nom, const QString& nomEtiquette, const QString& texte,
-              QWidget* parent)
-{
-    auto* groupe = new QWidget(parent);
-    caseACocher = new QCheckBox(groupe);
-    caseACocher->setObjectName(nom);
-    auto* etiquette = new EtiquetteCase(texte, caseACocher, groupe);
-    etiquette->setObjectName(nomEtiquette);
-    auto* rang = new QHBoxLayout(groupe);
-    rang->setContentsMargins({});
-    rang->setSpacing(0);
-    rang->addWidget(caseACocher);
-    rang->addWidget(etiquette);
-    return groupe;
-}
-
 QVBoxLayout* DansCarte(QWidget* carte)
 {
     auto* disposition = new QVBoxLayout(carte);
@@ -89,8 +74,8 @@ QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
     c.TxtCherche->setObjectName(QStringLiteral("TxtCherche"));
     c.TxtCherche->addAction(style::Icone(QStringLiteral("search")), QLineEdit::LeadingPosition);
     ConstruitArbre(c, f);
-    c.CmdNouveau = PlusTard(
-        style::Bouton(QStringLiteral("CmdNouveau"), QStringLiteral("Nouveau"), QStringLiteral("plus-lg"), f));
+    c.CmdNouveau =
+        style::Bouton(QStringLiteral("CmdNouveau"), QStringLiteral("Nou&veau"), QStringLiteral("plus-lg"), f);
     c.CmdRetire = style::BoutonDestructeur(QStringLiteral("CmdRetire"), QStringLiteral("&Retirer"),
                                            QStringLiteral("trash3"), f);
     auto* colonne = new QVBoxLayout;
@@ -111,6 +96,7 @@ void BoutonsMedicament(ControlesMedoc& c, QWidget* parent)
 {
     c.LblPoso = PlusTard(style::Bouton(QStringLiteral("LblPoso"), QStringLiteral("Ajouter une Posologie"),
                                        QStringLiteral("pencil"), parent));
+    style::SouligneSousLaSouris(c.LblPoso);
     c.CmdModifier = style::Bouton(QStringLiteral("CmdModifier"), QStringLiteral("Modi&fier données Med"),
                                   QStringLiteral("save"), parent);
     c.CmdModifier->setEnabled(false);
@@ -184,9 +170,9 @@ void BoutonsOrdonnance(ControlesMedoc& c, QWidget* carte)
                               QStringLiteral("arrow-return-left"), carte);
     c.CmdClear = style::BoutonDestructeur(QStringLiteral("CmdClear"), QStringLiteral("&Tout effacer"),
                                           QStringLiteral("eraser"), carte);
-    c.LblOrdoMem =
-        PlusTard(style::Bouton(QStringLiteral("LblOrdoMem"), QStringLiteral("Ordonnances Mémorisées"),
-                               QStringLiteral("book"), carte));
+    c.LblOrdoMem = style::Bouton(QStringLiteral("LblOrdoMem"), QStringLiteral("&Ordonnances Mémorisées"),
+                                 QStringLiteral("book"), carte);
+    style::SouligneSousLaSouris(c.LblOrdoMem);
     c.CmdAnnule =
         style::Bouton(QStringLiteral("CmdAnnule"), QStringLiteral("Ann&uler"), QStringLiteral("x-lg"), carte);
     c.CmdOrdo = style::Bouton(QStringLiteral("CmdOrdo"), QStringLiteral("&Créer Ordonnance"),
@@ -197,15 +183,15 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
 {
     QWidget* carte = style::Carte(f);
     QLabel* titre = style::Titre({}, QStringLiteral("Ordonnance"), carte);
-    QWidget* ald = Case(c.ChkALD, QStringLiteral("ChkALD"), QStringLiteral("Label7"),
-                        QStringLiteral("Ordonnance A&LD"), carte);
-    QWidget* dup = Case(c.ChkDup, QStringLiteral("ChkDup"), QStringLiteral("Label6"),
-                        QStringLiteral("&Imprimer duplicata"), carte);
-    QWidget* tri = Case(c.ChkTri, QStringLiteral("ChkTri"), QStringLiteral("Label9"),
-                        QStringLiteral("I&mprimer triplicata"), carte);
+    c.ChkALD = new CaseEtiquetee(QStringLiteral("ChkALD"), QStringLiteral("Label7"),
+                                 QStringLiteral("Ordonnance A&LD"), carte);
+    c.ChkDup = new CaseEtiquetee(QStringLiteral("ChkDup"), QStringLiteral("Label6"),
+                                 QStringLiteral("&Imprimer duplicata"), carte);
+    c.ChkTri = new CaseEtiquetee(QStringLiteral("ChkTri"), QStringLiteral("Label9"),
+                                 QStringLiteral("I&mprimer triplicata"), carte);
     QVBoxLayout* disposition = DansCarte(carte);
     QLayout* zones = Zones(c, carte);
-    QHBoxLayout* cases = Rang({titre, c.ImgUp, c.ImgDown}, {ald, dup, tri});
+    QHBoxLayout* cases = Rang({titre, c.ImgUp, c.ImgDown}, {c.ChkALD, c.ChkDup, c.ChkTri});
     cases->setSpacing(style::kEntreGroupes);
     disposition->addLayout(cases);
     disposition->addLayout(zones);

@@ -68,6 +68,8 @@ void FrmMedoc::RelieRecherche()
     });
     connect(c_.CmdModifier, &QPushButton::clicked, this, &FrmMedoc::ModifieMedicament);
     connect(c_.CmdRetire, &QPushButton::clicked, this, &FrmMedoc::RetireMedicament);
+    connect(c_.CmdNouveau, &QPushButton::clicked, this,
+            [this] { contexte_.Dehors.Boites.Information(messages::PlusTard()); });
     connect(c_.CmdAide, &QPushButton::clicked, this,
             [this] { contexte_.Dehors.Boites.Information(messages::Aide()); });
 }
@@ -82,9 +84,11 @@ void FrmMedoc::RelieLignes()
     connect(c_.ImgDown, &QToolButton::clicked, this, [this] { DeplaceLigne(ZoneSource(), 1); });
     connect(c_.CmdSaut, &QPushButton::clicked, this, [this] {
         SauteLigne(contexte_);
-        FocusRecherche();
+        c_.TxtCherche->setFocus();
     });
     connect(c_.CmdClear, &QPushButton::clicked, this, &FrmMedoc::ToutEfface);
+    connect(c_.LblOrdoMem, &QPushButton::clicked, this,
+            [this] { Tente([this] { OuvreMemorisees(contexte_); }); });
     connect(c_.CmdAnnule, &QPushButton::clicked, this, [this] {
         ToutEfface();
         hide();
@@ -119,6 +123,7 @@ void FrmMedoc::RelieSignaux()
         CocheTri(contexte_.Ordonnance, cochee);
         CocheCases();
     });
+    connect(&contexte_.Signaux, &application::Signaux::DocumentVide, c_.TxtCherche, &QLineEdit::clear);
     connect(&contexte_.Signaux, &application::Signaux::OrdonnanceChange, this, &FrmMedoc::SuitOrdonnance);
     connect(&contexte_.Signaux, &application::Signaux::MedecinChange, this, &FrmMedoc::VideArbre);
 }

@@ -3,7 +3,6 @@
 #include "medication/windows/ChampMedicament.h"
 #include "medication/windows/FrmMedoc.h"
 #include "medication/windows/ListeLignes.h"
-#include "patients/Patient.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -156,11 +155,6 @@ void FrmMedoc::CreeOrdonnance()
 
 void FrmMedoc::SuitOrdonnance()
 {
-    const prescription::Ordonnance& ordonnance = contexte_.Ordonnance;
-    if (ordonnance.LstChoix1.Vide() && ordonnance.LstChoix2.Vide() &&
-        contexte_.Patient.PatientCourant.isEmpty()) {
-        c_.TxtCherche->clear();
-    }
     RemplitBoites({});
     c_.CmdModifier->setEnabled(false);
     MontreFleches({});

@@ -61,10 +61,12 @@ void ListeLignes::mouseReleaseEvent(QMouseEvent* event)
     }
 }
 
-void ListeLignes::mouseDoubleClickEvent(QMouseEvent*)
+void ListeLignes::mouseDoubleClickEvent(QMouseEvent* event)
 {
     tenu_ = false;
-    Q_EMIT Reprend();
+    if (event->button() == Qt::LeftButton) {
+        Q_EMIT Reprend();
+    }
 }
 
 bool ListeLignes::ToucheDeRangee(const QKeyEvent& event)

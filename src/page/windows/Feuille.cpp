@@ -93,15 +93,17 @@ void Feuille::PeintPapier(QPainter& peintre) const
 
 void Feuille::PeintMarque(QPainter& peintre) const
 {
+    const QSizeF taille = TailleDeLaFeuille();
     const double y = bas_ * zoom_;
-    const QColor couleur(style::kMarqueInterdit);
-    peintre.setPen(QPen(couleur, 1, Qt::DashLine));
-    peintre.drawLine(QPointF(0, y), QPointF(TailleDeLaFeuille().width(), y));
+    peintre.fillRect(QRectF(QPointF(0, y), QPointF(taille.width(), taille.height())),
+                     QColor::fromRgba(style::kHorsDuPapier));
+    peintre.setPen(QPen(QColor(style::kMarqueInterdit), 1, Qt::DashLine));
+    peintre.drawLine(QPointF(0, y), QPointF(taille.width(), y));
     QFont police = font();
     police.setPointSizeF(style::kPoliceMarque);
     peintre.setFont(police);
-    peintre.drawText(QRectF(style::kDansGroupe, y, TailleDeLaFeuille().width(), style::kHauteurRangee),
-                     Qt::AlignLeft | Qt::AlignTop, QStringLiteral("Bas de la feuille"));
+    peintre.drawText(QRectF(0, y, taille.width() - style::kDansGroupe, style::kHauteurRangee),
+                     Qt::AlignRight | Qt::AlignTop, QStringLiteral("Bas de la feuille"));
 }
 
 } // namespace page

@@ -1,6 +1,6 @@
 #include "patients/windows/FrmNouveauP.h"
 
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "patients/Patient.h"
 #include "patients/TexteSaisie.h"
 #include "patients/messages.h"
@@ -124,7 +124,11 @@ void FrmNouveauP::RetirePrecaution()
 void FrmNouveauP::Valide()
 {
     MetEnForme();
-    const patients::FinDeSaisie fin = TermineSaisie(contexte_, Saisie(), indexChange_);
+    patients::FinDeSaisie fin;
+    if (!outside::Tente(contexte_.Dehors.Boites,
+                        [&] { fin = TermineSaisie(contexte_, Saisie(), indexChange_); })) {
+        return;
+    }
     if (fin.Refus) {
         MontreRefus(*fin.Refus);
         return;

@@ -2,7 +2,7 @@
 
 #include "application/Signaux.h"
 #include "medication/windows/FrmMedoc.h"
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "patients/Patient.h"
 #include "patients/PatientCourant.h"
 #include "patients/SaisiePatient.h"
@@ -32,6 +32,9 @@ FrmPatient::FrmPatient(application::Contexte& contexte, application::Fenetres& f
 void FrmPatient::Branche()
 {
     connect(txtCherche_, &QLineEdit::textChanged, this, &FrmPatient::Cherche);
+    const auto tente = [this](void (FrmPatient::*commande)()) {
+        return [this, commande] { outside::Tente(contexte_.Dehors.Boites, [&] { (this->*commande)(); }); };
+    };
     connect(lstPatient_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &FrmPatient::ChoixChange);
     connect(lstPatient_, &QListView::doubleClicked, this, &FrmPatient::Confirme);
@@ -39,8 +42,8 @@ void FrmPatient::Branche()
     connect(cmdAnnule_, &QPushButton::clicked, this, &FrmPatient::reject);
     connect(cmdNouveauPatient_, &QPushButton::clicked, this, &FrmPatient::NouveauPatient);
     connect(cmdPassage_, &QPushButton::clicked, this, &FrmPatient::PatientDePassage);
-    connect(cmdModifier_, &QPushButton::clicked, this, &FrmPatient::Modifie);
-    connect(cmdSupprime_, &QPushButton::clicked, this, &FrmPatient::Supprime);
+    connect(cmdModifier_, &QPushButton::clicked, this, tente(&FrmPatient::Modifie));
+    connect(cmdSupprime_, &QPushButton::clicked, this, tente(&FrmPatient::Supprime));
     connect(cmdAide_, &QPushButton::clicked, this,
             [this] { contexte_.Dehors.Boites.Information(messages::AideListe()); });
     connect(&contexte_.Signaux, &application::Signaux::PatientsChanges, this, &FrmPatient::Charge);
@@ -73,7 +76,7 @@ void FrmPatient::Charge()
 {
     const QString& chemin = contexte_.Chemins.CheminTravail;
     if (!chemin.isEmpty()) {
-        liste_.Charge(contexte_.Bases.Medoc(chemin));
+        outside::Tente(contexte_.Dehors.Boites, [&] { liste_.Charge(contexte_.Bases.Medoc(chemin)); });
     }
     Deselectionne();
 }
@@ -119,12 +122,30 @@ void FrmPatient::ChoixChange()
     if (rang < 0) {
         return;
     }
-    if (!SelectionnePatient(contexte_, liste_.Index(rang), liste_.Texte(rang))) {
-        SignaleDisparu();
+    try {
+        if (!SelectionnePatient(contexte_, liste_.Index(rang), liste_.Texte(rang))) {
+            SignaleDisparu();
+            return;
+        }
+    } catch (const common::Erreur& erreur) {
+        SignalePanne(erreur);
         return;
     }
     lblTitre_->setText(contexte_.Patient.PatientCourant);
     lblPatient_->setText(TexteLblPatient(contexte_.Patient));
+}
+
+void FrmPatient::SignalePanne(const common::Erreur& erreur)
+{
+    // The list tells of its selection just now. The row cannot stay selected, since another patient is the
+    // current one.
+    QMetaObject::invokeMethod(
+        this,
+        [this, erreur] {
+            Deselectionne();
+            outside::DitPanne(contexte_.Dehors.Boites, erreur);
+        },
+        Qt::QueuedConnection);
 }
 
 void FrmPatient::SignaleDisparu()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "application/windows/Fenetres.h"
+#include "common/Erreur.h"
 #include "patients/ListePatients.h"
 
 #include <QDialog>
@@ -41,7 +42,8 @@ private:
     void Branche();
     void OrdonneTabulations();
 
-    /// Reads the table again, when there is a data directory. Nothing is selected then.
+    /// Reads the table again, when there is a data directory; a failure is told and the former rows stay.
+    /// Nothing is selected then.
     void Charge();
     /// The row selected, -1 for none.
     int Rang() const;
@@ -60,6 +62,7 @@ private:
     void Supprime();
     void FinDeSaisie();
     void SignaleDisparu();
+    void SignalePanne(const common::Erreur& erreur);
 
     application::Contexte& contexte_;
     application::Fenetres& fenetres_;

@@ -108,8 +108,9 @@ void FrmOrdo::Imprime()
     if (!startup::ExigeMedecin(contexte_)) {
         return;
     }
-    if (contexte_.Impression.EtatImprimante == 0) {
-        fenetres_.Donne<settings::FrmOptions>().OuvrePourPremiereImpression();
+    if (contexte_.Impression.EtatImprimante == 0 &&
+        !fenetres_.Donne<settings::FrmOptions>().OuvrePourPremiereImpression()) {
+        return;
     }
     if (ImprimeDocument(contexte_) && contexte_.Reglages.Options.MinimiseImpression == 1) {
         showMinimized();

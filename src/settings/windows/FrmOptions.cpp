@@ -78,12 +78,16 @@ void FrmOptions::Ouvre(int onglet)
     exec();
 }
 
-void FrmOptions::OuvrePourPremiereImpression()
+bool FrmOptions::OuvrePourPremiereImpression()
 {
     Selectionne(imprimantes_->Numero());
     boutons_.at(TS_->currentIndex()).Annule->hide();
     imprimantes_->MontreConfirmation();
+    bool acceptee = false; // the window is unloaded by then
+    const auto suite = connect(this, &QDialog::accepted, this, [&acceptee] { acceptee = true; });
     exec();
+    disconnect(suite);
+    return acceptee;
 }
 
 void FrmOptions::Selectionne(int onglet)

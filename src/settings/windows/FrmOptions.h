@@ -25,8 +25,9 @@ public:
 
     /// Opens modally on a tab, 1 to 7; one that does not stand yet opens the first one that does.
     void Ouvre(int onglet);
-    /// Opens on the printers: the doctor has to choose, and there is no way back.
-    void OuvrePourPremiereImpression();
+    /// Opens on the printers: the doctor has to choose, and there is no way back. False when the program
+    /// ended meanwhile.
+    bool OuvrePourPremiereImpression();
 
 protected:
     void closeEvent(QCloseEvent* evenement) override;

@@ -172,10 +172,8 @@ void UneFrappe(benchmark::State& state)
     };
     const auto dichotomie = [&] {
         for (const QString& frappe : frappes) {
-            benchmark::DoNotOptimize(
-                std::ranges::lower_bound(tries, frappe, [](QStringView a, QStringView b) {
-                    return common::CompareReplie(a, b) < 0;
-                }));
+            benchmark::DoNotOptimize(std::ranges::lower_bound(
+                tries, frappe, [](QStringView a, QStringView b) { return common::CompareReplie(a, b) < 0; }));
         }
     };
     bench::Compare(state, cherche, dichotomie);

@@ -35,11 +35,39 @@ private Q_SLOTS:
 
     void WindowsToComeAreDisabledWithAWord()
     {
-        for (const char* nom : {"LblPoso", "LblOrdoMem", "CmdNouveau"}) {
-            QVERIFY2(!Trouve<QPushButton>(nom)->isEnabled(), nom);
-            QCOMPARE(Trouve<QPushButton>(nom)->toolTip(),
-                     QStringLiteral("Disponible dans une prochaine version"));
+        QVERIFY(!Trouve<QPushButton>("LblPoso")->isEnabled());
+        QCOMPARE(Trouve<QPushButton>("LblPoso")->toolTip(),
+                 QStringLiteral("Disponible dans une prochaine version"));
+    }
+
+    void TheLocalModeOffersNewMedications()
+    {
+        QVERIFY(Trouve<QPushButton>("CmdNouveau")->isEnabled());
+        monde_->Boites.AttendContenant(outside::Genre::Information, QStringLiteral("prochaine version"));
+        Clic("CmdNouveau");
+    }
+
+    void WithoutMemorisedPrescriptionsOneMessageSaysSo()
+    {
+        monde_->Boites.AttendContenant(outside::Genre::Information,
+                                       QStringLiteral("Aucun modèle d'ordonnance n'est enregistré."));
+        Clic("LblOrdoMem");
+    }
+
+    void TheWordsOfABoxLieWithinItsRing()
+    {
+        for (const auto& [boite, mots] :
+             {std::pair("ChkALD", "Label7"), {"ChkDup", "Label6"}, {"ChkTri", "Label9"}}) {
+            const auto* etiquette = Trouve<QLabel>(mots);
+            QCOMPARE(etiquette->parentWidget(), Trouve<QCheckBox>(boite));
+            const int largeur = etiquette->fontMetrics().horizontalAdvance(etiquette->text());
+            QVERIFY2(etiquette->width() >= largeur, boite);
+            QVERIFY2(etiquette->geometry().right() <= etiquette->parentWidget()->width() - 4, boite);
         }
+        const auto bord = [&](const char* nom) { return Trouve<QWidget>(nom)->geometry(); };
+        QCOMPARE(bord("ChkDup").left() - bord("ChkALD").right(),
+                 bord("ChkTri").left() - bord("ChkDup").right());
+        QCOMPARE(bord("ChkDup").top(), bord("ChkTri").top());
     }
 
     void TabGoesDownTheRoad()
@@ -47,14 +75,14 @@ private Q_SLOTS:
         QStringList road;
         ClicNoeud(0);
         Trouve<QLineEdit>("TxtCherche")->setFocus();
-        for (int i = 0; i < 16; ++i) {
+        for (int i = 0; i < 18; ++i) {
             road.append(Focus());
             QTest::keyClick(fenetre_->focusWidget(), Qt::Key_Tab);
         }
         const QString attendu =
             QStringLiteral("TxtCherche TV TxtMedoc TxtPoso CmdModifier CmdAjouter1 ChkALD "
-                           "ChkDup ChkTri LstChoix1 CmdSaut CmdClear CmdAnnule CmdOrdo CmdAide "
-                           "CmdRetire");
+                           "ChkDup ChkTri LstChoix1 CmdSaut CmdClear LblOrdoMem CmdAnnule CmdOrdo "
+                           "CmdAide CmdNouveau CmdRetire");
         QCOMPARE(road.join(u' '), attendu);
     }
 

@@ -120,6 +120,25 @@ private Q_SLOTS:
         QCOMPARE(Precautions(fenetre), QStringList({QStringLiteral("asthme")}));
     }
 
+    void UneBaseQuiRefuseLaisseLaSaisie()
+    {
+        Scene scene;
+        FrmNouveauP& fenetre = scene.Montre();
+        Tape(fenetre, "Txt(0)", QStringLiteral("martin"));
+        Tape(fenetre, "Txt(1)", QStringLiteral("paul"));
+        Tape(fenetre, "MEB", QStringLiteral("20/03/1953"));
+        scene.Medoc().PoseCrochet(
+            [](const QString& instruction) { return instruction.startsWith(QLatin1String("insert")); });
+        scene.Boites.AttendContenant(outside::Genre::Stop, QStringLiteral("« Medoc.mdb »"));
+        Clique(fenetre, "CmdOK");
+        QVERIFY(fenetre.isVisible());
+        QVERIFY(scene.Boites.Epuise());
+        scene.Medoc().PoseCrochet({});
+        Clique(fenetre, "CmdOK");
+        QVERIFY(!fenetre.isVisible());
+        QCOMPARE(scene.Rangees().size(), 1);
+    }
+
     void UnRefusMeneAuChamp()
     {
         Scene scene;

@@ -288,6 +288,34 @@ private Q_SLOTS:
         QCOMPARE(TexteDe(fenetre, "LblTitre"), QString());
     }
 
+    void UneBaseQuiRefuseEstDite()
+    {
+        Scene scene;
+        FrmPatient& fenetre = scene.Montre();
+        Tape(fenetre, "TxtCherche", QStringLiteral("mar"));
+        const auto tombe = [&](const char* debut) {
+            scene.Medoc().PoseCrochet([debut](const QString& instruction) {
+                return instruction.startsWith(QLatin1String(debut), Qt::CaseInsensitive);
+            });
+        };
+        tombe("delete");
+        scene.Boites.AttendContenant(outside::Genre::Question, QStringLiteral("MARTIN"), outside::Bouton::Oui)
+            .AttendContenant(outside::Genre::Stop, QStringLiteral("« Medoc.mdb »"));
+        Clique(fenetre, "CmdSupprime");
+        QCOMPARE(Lignes(fenetre).size(), 3);
+        tombe("select");
+        scene.Boites.AttendContenant(outside::Genre::Stop, QStringLiteral("« Medoc.mdb »"));
+        Clique(fenetre, "CmdModifier");
+        scene.Boites.AttendContenant(outside::Genre::Stop, QStringLiteral("« Medoc.mdb »"));
+        auto* liste = Trouve<QAbstractItemView>(fenetre, "LstPatient");
+        liste->setCurrentIndex(liste->model()->index(0, 0));
+        QCoreApplication::processEvents();
+        QCOMPARE(RangChoisi(fenetre, "LstPatient"), -1);
+        QCOMPARE(TexteDe(fenetre, "LblTitre"), QString());
+        scene.Medoc().PoseCrochet({});
+        QCOMPARE(scene.Rangees().size(), 3);
+    }
+
     void UnPatientEntreAilleursEstLaALOuverture()
     {
         Scene scene;

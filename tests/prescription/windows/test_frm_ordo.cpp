@@ -17,6 +17,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 using namespace prescription;
 
@@ -59,6 +60,7 @@ private Q_SLOTS:
     void TheTabOrderFollowsTheEye();
     void WhatIsNotThereYetSaysSo();
     void ADoubleClickPrintsOnce();
+    void AnEndMeanwhilePrintsNothing();
     void EveryCommandNeedsADoctor_data();
     void EveryCommandNeedsADoctor();
     void TheBarFollowsTheSettings();
@@ -137,6 +139,16 @@ void TestFrmOrdo::ADoubleClickPrintsOnce()
     QTest::mouseClick(&imprime, Qt::LeftButton);
     QTest::mouseDClick(&imprime, Qt::LeftButton);
     QCOMPARE(bureau.Imprimantes.Travaux.size(), 1);
+}
+
+void TestFrmOrdo::AnEndMeanwhilePrintsNothing()
+{
+    Bureau bureau;
+    bureau.Etat.Impression.EtatImprimante = 0;
+    bureau.Ouvre();
+    QTimer::singleShot(0, bureau.Fenetre, [&] { bureau.Fenetres.CacheTout(); });
+    bureau.Fenetre->Execute(QStringLiteral("CmdImprime"));
+    QVERIFY(bureau.Imprimantes.Travaux.isEmpty());
 }
 
 void TestFrmOrdo::EveryCommandNeedsADoctor_data()

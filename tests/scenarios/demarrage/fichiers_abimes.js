@@ -68,7 +68,7 @@ clic("FrmChoixBase.CmdAnn");
 effacer(data);
 lancer();
 egal(boite().genre, "stop", "des données disparues arrêtent le programme");
-contient(boite().texte, "Le répertoire des données n'existe plus, ou n'est pas accessible.", "avec leur nom");
+contient(boite().texte, "Le répertoire des données, que désigne le fichier « CheminData.cfg », n'existe plus ou n'est pas accessible.", "avec le fichier qui les désigne");
 contient(boite().texte, "DataScriptelle", "et leur place");
 repondre("OK");
 vrai(fini(), "le programme est terminé");

@@ -23,3 +23,6 @@ const ordre = ["Madame  BRUN  Anne",
 egal(page.map(i => i.texte).filter(t => ordre.includes(t)), ordre, "le patient, puis zone après zone");
 const hauteurs = ordre.map(t => page.find(i => i.texte === t).y);
 egal([...hauteurs].sort((a, b) => a - b), hauteurs, "de haut en bas");
+egal(page[0].texte, "Tel", "l'en-tête vient d'abord");
+egal(page[page.length - 1].texte,
+     "Membre d'une association agréée. Règlement des honoraires par chèque accepté.", "le bas de page à la fin");

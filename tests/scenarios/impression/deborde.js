@@ -21,6 +21,7 @@ faux(visible("FrmOrdo.LblDeborde"), "une feuille vide ne déborde pas");
 prescrire(3);
 egal(texte("FrmOrdo.LblDeborde"), "L'ordonnance dépasse le bas de la feuille", "l'aperçu le dit");
 vrai(visible("FrmOrdo.LblDeborde"), "en toutes lettres");
+touche("FrmOrdo", "PageBas");
 capture("FrmOrdo-deborde");
 
 clic("FrmOrdo.CmdImprime");

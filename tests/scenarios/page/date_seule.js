@@ -1,0 +1,41 @@
+// With both places of the age at 0 and one of the date set, the date alone moves; and ten characters that
+// are no date are shown as they stand.
+installer();
+ajouter("Medoc", "BddMed", [5001, null, null, null, "1 matin", "ZZTEST 500 MG"]);
+const chemin = valeur("CheminMedecin");
+clic("FrmDepart.CmdQuitter");
+const marges = lire(chemin + "/Marges.cfg").trim().split(",");
+marges[9] = "55";
+marges[10] = "15";
+ecrire(chemin + "/Marges.cfg", marges.join(",") + "\r\n");
+lancer();
+clic("FrmChoixBase.CmdSuite");
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdNouvelle");
+clic("FrmPatient.CmdNouveauPatient");
+clic("FrmNouveauP.Opt(0)");
+taper("FrmNouveauP.Txt(0)", "martin");
+taper("FrmNouveauP.Txt(1)", "paul");
+taper("FrmNouveauP.MEB", "20/03/1953");
+clic("FrmNouveauP.CmdOK");
+clic("FrmPatient.CmdOK");
+clic("FrmMedoc.TV", "ZZTEST 500 MG");
+clic("FrmMedoc.CmdAjouter1");
+clic("FrmMedoc.CmdOrdo");
+const trouve = texte => feuille("FrmOrdo.PctOrdo").find(item => item.texte === texte);
+const nom = trouve("Monsieur  MARTIN  Paul");
+const age = trouve("né(e) le 20/03/1953   (73 ans)");
+proche(age.x, 100, 0.01, "l'âge sous le nom");
+proche(age.y, nom.y + nom.hauteur, 0.01, "à la ligne suivante");
+proche(trouve("vendredi  20  nov.  2026").x, 15, 0.01, "la date à sa place");
+proche(trouve("vendredi  20  nov.  2026").y, 4 + 55 - 70 + 20, 0.01, "à sa distance du nom");
+
+clic("FrmOrdo.CmdDate");
+repondre("07/01/2010");
+vrai(trouve("jeudi  7  janv.  2010"), "une autre date");
+clic("FrmOrdo.CmdDate");
+repondre("hier ou là");
+vrai(trouve("hier ou là"), "un texte de dix caractères tel quel");
+clic("FrmOrdo.CmdDate");
+repondre("0");
+egal(feuille("FrmOrdo.PctOrdo").filter(item => item.genre === "texte" && item.y < 40).length, 2, "sans date");
