@@ -81,6 +81,13 @@ QString CauseSansDossier(const QString& chemin)
     Echoue(QStringLiteral("d'enregistrer le fichier"), chemin, Cause(fichier.error()));
 }
 
+/// Puts the new file in the place of the former one. The flush comes first: a commit alone takes a buffer
+/// that the disk refused for a written one, and leaves an empty file.
+bool Remplace(QSaveFile& fichier)
+{
+    return fichier.flush() && fichier.commit();
+}
+
 bool PousseAuDisque(int descripteur)
 {
 #ifdef Q_OS_WIN
@@ -235,7 +242,7 @@ void EcritFichier(const QString& chemin, const QByteArray& contenu)
 {
     QSaveFile fichier(chemin);
     if (!fichier.open(QIODevice::WriteOnly) || fichier.write(contenu) != contenu.size() ||
-        !fichier.commit()) {
+        !Remplace(fichier)) {
         EchoueEcriture(fichier, chemin);
     }
 }
@@ -266,7 +273,7 @@ void CopieFichier(const QString& source, const QString& destination)
         EchoueEcriture(copie, destination);
     }
     RecopieContenu(origine, copie, destination);
-    if (!copie.commit()) {
+    if (!Remplace(copie)) {
         EchoueEcriture(copie, destination);
     }
 }

@@ -78,7 +78,7 @@ void EcritPdf(const Travail& travail, const QString& chemin)
         pdf.setCreator(QStringLiteral("Scriptelle"));
         RejouePages(travail, pdf, chemin);
     }
-    if (!fichier.commit()) {
+    if (!fichier.flush() || !fichier.commit()) {
         throw common::Erreur(messages::PdfNonEcrit(common::CheminAffiche(chemin)), chemin);
     }
 }
