@@ -3,6 +3,7 @@
 #include "application/Signaux.h"
 #include "application/windows/Style.h"
 #include "common/Erreur.h"
+#include "common/Tolere.h"
 #include "drugbank/windows/FrmIAM.h"
 #include "medication/messages.h"
 #include "medication/windows/ChampCherche.h"
@@ -265,11 +266,12 @@ void FrmMedoc::RetireMedicament()
 
 void FrmMedoc::MontreNotes()
 {
-    Tente([this] {
-        if (const auto notes = pharmacie_->Notes(contexte_.Choix.EtiquetteLue)) {
-            fenetres_.Donne<drugbank::FrmIAM>().Montre(*notes);
-        }
-    });
+    std::optional<QString> notes;
+    // A hint that cannot be read is as good as none.
+    common::Tolere([&] { notes = pharmacie_->Notes(contexte_.Choix.EtiquetteLue); });
+    if (notes) {
+        fenetres_.Donne<drugbank::FrmIAM>().Montre(*notes);
+    }
 }
 
 void FrmMedoc::closeEvent(QCloseEvent* event)
