@@ -17,6 +17,7 @@ namespace page {
 namespace {
 
 constexpr double kMillimetresParPointTypo = 25.4 / 72;
+constexpr double kArrondi = 1e-6; // what a place on a whole point of the target may be off by
 
 QColor CouleurQt(Couleur couleur)
 {
@@ -33,7 +34,9 @@ struct PoliceRejouee
 class Rejeu
 {
 public:
-    Rejeu(QPainter& peintre, double unitesParMm) : peintre_(peintre), unites_(unitesParMm) {}
+    Rejeu(QPainter& peintre, double unitesParMm)
+        : peintre_(peintre), unites_(unitesParMm), points_(peintre.device()->devicePixelRatioF())
+    {}
 
     void operator()(const ItemTexte& item);
     void operator()(const ItemTrait& item);
@@ -46,10 +49,13 @@ private:
     void EcritUnAUn(const ItemTexte& item, double base);
     void Souligne(const ItemTexte& item, double base);
     void Filet(double x, double x2, double milieu, double epaisseur);
+    void Trace(double x, double x2, double haut, double hauteur);
+    double EnPointsEntiers(double epaisseur) const;
     double EpaisseurDeTrait(int epaisseur) const;
 
     QPainter& peintre_;
     double unites_;
+    double points_; // of the target in one of its units
     std::vector<PoliceRejouee> polices_;
     std::vector<quint32> glyphes_;
     std::vector<QPointF> places_;
@@ -121,20 +127,30 @@ void Rejeu::EcritUnAUn(const ItemTexte& item, double base)
 
 void Rejeu::Souligne(const ItemTexte& item, double base)
 {
+    // The first whole point below its place: never nearer to the letters.
     const Soulignement trait = MesureSoulignement(item.Police);
-    Filet(item.X * unites_, (item.X + item.Largeur) * unites_,
-          base + (trait.Distance + trait.Epaisseur / 2) * unites_, trait.Epaisseur * unites_);
+    const double haut = std::ceil((base + trait.Distance * unites_) * points_ - kArrondi) / points_;
+    Trace(item.X * unites_, (item.X + item.Largeur) * unites_, haut,
+          EnPointsEntiers(trait.Epaisseur * unites_));
 }
 
-// A level rule in the pen's colour, on whole points of the target: two rules of one thickness look alike.
 void Rejeu::Filet(double x, double x2, double milieu, double epaisseur)
 {
-    const double points = peintre_.device()->devicePixelRatioF();
-    const double hauteur = std::max(1.0, std::round(epaisseur * points)) / points;
-    constexpr double arrondi = 1e-6; // a line of the screen, half a point too high for its own row of points
-    const double haut = std::floor((milieu - hauteur / 2) * points + 0.5 + arrondi) / points;
+    const double hauteur = EnPointsEntiers(epaisseur);
+    Trace(x, x2, std::floor((milieu - hauteur / 2) * points_ + 0.5 + kArrondi) / points_, hauteur);
+}
+
+// A level rule in the pen's colour.
+void Rejeu::Trace(double x, double x2, double haut, double hauteur)
+{
     peintre_.fillRect(QRectF(QPointF(x, haut), QPointF(x2, haut + hauteur)).normalized(),
                       peintre_.pen().color());
+}
+
+// Whole points of the target: two rules of one thickness look alike.
+double Rejeu::EnPointsEntiers(double epaisseur) const
+{
+    return std::max(1.0, std::round(epaisseur * points_)) / points_;
 }
 
 // Never thinner than a unit: a line of the screen is at least one pixel.

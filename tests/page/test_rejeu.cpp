@@ -84,6 +84,7 @@ private Q_SLOTS:
     void unCaractereDUneAutrePolice();
     void leSoulignementCourtSousToutLeTexte();
     void leSoulignementNeCollePasAuxLettres();
+    void leSoulignementNeCollePasALEcran();
     void lesTraitsOntLeurEpaisseur();
     void deuxTraitsEgauxLeRestentALEcran();
     void leCadreNEstPasRempli();
@@ -207,6 +208,32 @@ void TestRejeu::leSoulignementNeCollePasAuxLettres()
             traversees += EstEncre(image, x, y) && !EstEncre(image, x, y - 1) ? 1 : 0;
         }
         QCOMPARE(traversees, 2);
+    }
+}
+
+// On the screen there is a row of paper between them, wherever the line falls between two rows of points.
+void TestRejeu::leSoulignementNeCollePasALEcran()
+{
+    for (const double densite : {1.0, 1.25, 1.5, 2.0}) {
+        for (int dixieme = 0; dixieme < 10; ++dixieme) {
+            Surface cible(Cible::Imprimante, 60, 12);
+            cible.Font({.Taille = 11, .Gras = true, .Souligne = true});
+            cible.CurrentX(5);
+            cible.CurrentY(2 + dixieme / 10.0 / page::kPixelsParMillimetre);
+            cible.Print(u"HH"_s);
+            const QImage image = ImageAuZoom(cible.Resultat(), densite);
+            const int x = qRound(5.4 * page::kPixelsParMillimetre * densite); // the first letter's left stem
+            int bas = image.height() - 1;
+            while (bas > 0 && qGray(image.pixel(x, bas)) > 128) {
+                --bas; // up to the rule
+            }
+            int haut = bas;
+            while (haut > 0 && qGray(image.pixel(x, haut)) <= 128) {
+                --haut; // and over it
+            }
+            QVERIFY2(bas - haut <= qRound(2 * densite),
+                     qPrintable(u"%1, %2 : %3"_s.arg(densite).arg(dixieme).arg(bas - haut)));
+        }
     }
 }
 
