@@ -1,6 +1,5 @@
 #include "page/Peintres.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -160,9 +159,9 @@ void RangsEntete::EcritTexte(const QString& texte)
     const bool resteOuverte = texte.endsWith(QLatin1Char('*'));
     const bool avecMarque = resteOuverte || texte.endsWith(QLatin1Char('$'));
     cible_.PrintSuite(texte.chopped(avecMarque ? 1 : 0));
-    if (cible_.CurrentX() > bordDroit_) {
-        constexpr double maximum = std::numeric_limits<qint16>::max();
-        bordDroit_ = static_cast<qint16>(std::nearbyint(std::min(cible_.CurrentX(), maximum)));
+    const double bord = std::nearbyint(cible_.CurrentX());
+    if (cible_.CurrentX() > bordDroit_ && bord <= std::numeric_limits<qint16>::max()) {
+        bordDroit_ = static_cast<qint16>(bord);
     }
     if (!resteOuverte) {
         cible_.Print();

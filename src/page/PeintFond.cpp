@@ -36,7 +36,7 @@ void PeintFond(Surface& cible, int rouge1, int vert1, int bleu1, int rouge2, int
     const Couleur encre = cible.ForeColor();
     cible.DrawWidth(1);
     cible.ScaleMode(Echelle::Pixels);
-    const int taille = static_cast<int>(vertical ? cible.ScaleHeight() : cible.ScaleWidth());
+    const int taille = qRound(vertical ? cible.ScaleHeight() : cible.ScaleWidth());
     const double etendue = std::max(1, taille - debut - fin);
     Degrade rouge{double(rouge1), (rouge2 - rouge1) / etendue};
     Degrade vert{double(vert1), (vert2 - vert1) / etendue};

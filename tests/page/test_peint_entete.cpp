@@ -80,6 +80,7 @@ private Q_SLOTS:
     void leLogoADroiteSurPapier();
     void leLogoADroiteDUnEnteteVide();
     void leBordDroitEstCeluiDeLaLigneLaPlusLongue();
+    void unBordDroitHorsDeMesure();
     void leLogoInactifNeSePosePas();
     void laFaceSansMedecinNAQueSonFond_data();
     void laFaceSansMedecinNAQueSonFond();
@@ -274,6 +275,18 @@ void TestPeintEntete::leBordDroitEstCeluiDeLaLigneLaPlusLongue()
                      Rang(2, u"décalée"_s, 120)});
     const double bord = std::nearbyint(120 + MesureLargeur(u"décalée"_s, {}));
     QCOMPARE(ImageDe(SurPapier(page)).value().X, 10 + bord + 2);
+}
+
+// A row whose right edge is no whole number of 16 bits is drawn and leaves the edge as it was.
+void TestPeintEntete::unBordDroitHorsDeMesure()
+{
+    PageDeTest page;
+    PoseLogo(page, 2);
+    page.PoseEntete({Rang(0, u"Docteur"_s), Rang(1, u"trop loin"_s, 32760), Rang(2, u"Adresse"_s)});
+    Surface face(Cible::Depart, 200, 120);
+    const page::Dessin dessin = page.PeintEntete(face);
+    const double bord = std::nearbyint(MesureLargeur(u"Adresse"_s, {}) * kTwipsParMillimetre);
+    QCOMPARE(ImageDe(dessin).value().X, (bord + 400) / kTwipsParMillimetre + 2);
 }
 
 void TestPeintEntete::leLogoInactifNeSePosePas()

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void leNombreEnA5();
     void sansNombre_data();
     void sansNombre();
+    void leNumeroPeutPasserLeNombre();
     void leBasDePage();
     void leBasDePageEnA5();
     void sansDossierDeTravailPasDeBasDePage();
@@ -111,6 +112,19 @@ void TestPied::sansNombre()
     page.Ajoute1(u"A"_s);
     QCOMPARE(Mots(page.PeintCorps()), QStringList{u"A"_s});
     QVERIFY(Cadres(page.PeintCorps()).isEmpty());
+}
+
+// The number counts what is painted, the box what the picker counted last.
+void TestPied::leNumeroPeutPasserLeNombre()
+{
+    PageDeTest page;
+    page.Reglages.Options.IncrementeMedicaments = page.Reglages.Options.TotalMedicaments = 1;
+    page.Ordonnance.NbMedZone1 = 1;
+    page.Ajoute1(u"UN"_s);
+    page.Ajoute1(u"DEUX"_s);
+    const page::Dessin dessin = page.PeintCorps();
+    QVERIFY(Mots(dessin).contains(u"2- "_s));
+    QVERIFY(Mots(dessin).contains(u" 1 "_s));
 }
 
 void TestPied::leBasDePage()

@@ -16,6 +16,7 @@ class TestRegleFond : public QObject
 private Q_SLOTS:
     void laRegleMarqueChaqueCentimetre();
     void lesDegresDuFond();
+    void leFondAToutesLesHauteurs();
     void leFondHorizontal();
     void leFondDUneFenetreMinuscule();
     void leFondRendLaCouleurEtLesTwips();
@@ -57,6 +58,15 @@ void TestRegleFond::lesDegresDuFond()
     QCOMPARE(traits[0].X, 0.0);
     QCOMPARE(traits[0].X2, 50.0);
     QCOMPARE(traits[0].Epaisseur, 1);
+}
+
+void TestRegleFond::leFondAToutesLesHauteurs()
+{
+    for (int hauteur = 40; hauteur < 1200; ++hauteur) {
+        Surface face(Cible::Depart, 50, hauteur / kPixelsParMillimetre);
+        page::PeintFond(face, 255, 255, 255, 222, 235, 250, 15, 18, true);
+        QCOMPARE(Traits(face.Resultat()).size(), hauteur - 15 - 18 + 1);
+    }
 }
 
 void TestRegleFond::leFondHorizontal()
