@@ -59,7 +59,7 @@ void Langage::AjouteGestes()
 void Langage::AjouteClavier()
 {
     AjouteGeste(QStringLiteral("__caractere"), 3, 3, [](const Controle& controle, const Valeurs& valeurs) {
-        TapeCaractere(controle, valeurs.Texte(1).at(0), valeurs.Booleen(2));
+        TapeCaractere(controle, valeurs.Texte(1), valeurs.Booleen(2));
     });
     AjouteGeste(QStringLiteral("saisir"), 2, 2,
                 [](const Controle& controle, const Valeurs& valeurs) { Saisit(controle, valeurs.Texte(1)); });

@@ -82,17 +82,12 @@ void Langage::AjouteBoites()
         return QVariant();
     });
     Ajoute(QStringLiteral("boite"), 0, 0, [this](const Valeurs&) {
-        Attends([this] {
-            if (!session_.Boites.Ouverte()) {
-                session_.EnCours();
-                return QStringLiteral("aucune boîte n'est ouverte");
-            }
-            return QString();
-        });
+        AttendsBoite();
         return relais_.Lit([this] { return QVariant(session_.Boites.Description()); });
     });
     Ajoute(QStringLiteral("repondre"), 1, 1, [this](const Valeurs& valeurs) {
         const QVariant reponse = valeurs.Brute(0);
+        AttendsBoite();
         relais_.Agit([this, reponse] { session_.Boites.Repond(reponse); });
         return QVariant();
     });

@@ -145,7 +145,7 @@ void Langage::AjouteImprimes()
             return QVariant(travaux);
         });
     });
-    Ajoute(QStringLiteral("mesure"), 2, 2, [this](const Valeurs& valeurs) {
+    Ajoute(QStringLiteral("mesure"), 1, 2, [this](const Valeurs& valeurs) {
         const page::Police police = DepuisPoliceScript(valeurs.Brute(1).toMap());
         const QString texte = valeurs.Texte(0);
         return relais_.Lit([&] { return page::MesureLargeur(texte, police); });

@@ -119,20 +119,20 @@ void DonneFocus(const Controle& controle)
     Vise(controle, Qt::TabFocusReason);
 }
 
-void TapeCaractere(const Controle& controle, QChar caractere, bool suit)
+void TapeCaractere(const Controle& controle, const QString& caractere, bool suit)
 {
     if (!suit) {
         Vise(controle, Qt::OtherFocusReason);
     }
     QWidget* receveur = Receveur(controle);
-    if (caractere == QLatin1Char('\n')) {
-        QTest::keyClick(receveur, Qt::Key_Return);
+    if (caractere == QLatin1String("\n") || caractere == QLatin1String("\t")) {
+        QTest::keyClick(receveur, caractere == QLatin1String("\n") ? Qt::Key_Return : Qt::Key_Tab);
         return;
     }
-    const char16_t majuscule = caractere.toUpper().unicode();
+    const char16_t majuscule = caractere.at(0).toUpper().unicode();
     const auto touche = majuscule < 0x100 ? static_cast<Qt::Key>(majuscule) : Qt::Key_unknown;
-    const auto maj = caractere.isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
-    QTest::sendKeyEvent(QTest::Click, receveur, touche, QString(caractere), maj);
+    const auto maj = caractere.at(0).isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
+    QTest::sendKeyEvent(QTest::Click, receveur, touche, caractere, maj);
 }
 
 void Saisit(const Controle& controle, const QString& texte)

@@ -9,8 +9,9 @@ namespace scenario {
 /// Gives the focus as Tab would.
 void DonneFocus(const Controle& controle);
 
-/// Types one character at the caret: the first into the control, one that follows into what has the focus.
-void TapeCaractere(const Controle& controle, QChar caractere, bool suit);
+/// Types one character, of one or two code units, at the caret: the first into the control, one that follows
+/// into what has the focus.
+void TapeCaractere(const Controle& controle, const QString& caractere, bool suit);
 
 /// Replaces the whole text at once.
 void Saisit(const Controle& controle, const QString& texte);

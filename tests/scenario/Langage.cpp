@@ -190,6 +190,17 @@ void Langage::Attends(const std::function<QString()>& manque)
     }
 }
 
+void Langage::AttendsBoite()
+{
+    Attends([this] {
+        if (!session_.Boites.Ouverte()) {
+            session_.EnCours();
+            return QStringLiteral("aucune boîte n'est ouverte");
+        }
+        return QString();
+    });
+}
+
 void Langage::AttendsExistence(const QString& controle)
 {
     Attends([this, &controle] {

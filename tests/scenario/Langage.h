@@ -75,6 +75,7 @@ private:
                        std::function<QVariant(const Controle&, const Valeurs&)> lecture);
     /// Waits until a condition gives an empty text; throws its last text as `Echec` when it never does.
     void Attends(const std::function<QString()>& manque);
+    void AttendsBoite();
     void AttendsExistence(const QString& controle);
     void AttendsAccessible(const QString& controle);
     QString CheminBase(const QString& nom);

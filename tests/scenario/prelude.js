@@ -75,7 +75,7 @@
 
     // The first key goes to the control, the others to whatever has the focus by then.
     global.taper = (nom, texte) =>
-        enTexte(texte).split("").forEach((caractere, rang) => __caractere(nom, caractere, rang > 0));
+        [...enTexte(texte)].forEach((caractere, rang) => __caractere(nom, caractere, rang > 0));
 
     const saisit = global.saisir;
     global.saisir = (nom, texte) => saisit(nom, enTexte(texte));

@@ -57,3 +57,7 @@ contient(texte("FrmEssai.Seul"), "7.5", "un nombre se tape aussi");
 touche("FrmEssai.Txt(1)", "Maj+Tab");
 touche("FrmEssai.Txt(1)", "F12");
 touche("FrmEssai", "Échap");
+saisir("FrmEssai.Txt(1)", "");
+taper("FrmEssai.Txt(1)", "é😀\tsuite");
+egal(texte("FrmEssai.Txt(1)"), "é😀", "un caractère de deux unités, puis la tabulation");
+contient(texte("FrmEssai.Seul"), "suite", "le contrôle suivant");
