@@ -114,6 +114,13 @@ QVariantMap Decrit(const QFont& police, const QColor& couleur, const QColor& fon
             {QStringLiteral("fond"), VersCouleurScript(fond)}};
 }
 
+/// The ground that an eye sees: of what stands behind while it lets through.
+QColor FondVu(const QWidget* widget)
+{
+    const QColor fond = widget->palette().color(widget->backgroundRole());
+    return fond.alpha() > 0 || widget->isWindow() ? fond : FondVu(widget->parentWidget());
+}
+
 QVariantMap AspectRangee(QAbstractItemView* vue, const QModelIndex& index)
 {
     const QVariant police = index.data(Qt::FontRole);
@@ -259,8 +266,7 @@ QVariantMap Aspect(const Controle& controle, const QVariant& rangee)
     if (QAbstractItemView* vue = Vue(widget); vue && !EstNul(rangee)) {
         return AspectRangee(vue, RangeeVoulue(vue, rangee));
     }
-    return Decrit(widget->font(), widget->palette().color(widget->foregroundRole()),
-                  widget->palette().color(widget->backgroundRole()));
+    return Decrit(widget->font(), widget->palette().color(widget->foregroundRole()), FondVu(widget));
 }
 
 QString EtatFenetre(const QWidget* fenetre)

@@ -2,6 +2,7 @@
 
 #include "application/Valeurs.h"
 #include "application/windows/Style.h"
+#include "scenario/Controles.h"
 #include "settings/FichiersReglages.h"
 #include "startup/Installation.h"
 
@@ -27,6 +28,10 @@ void ProgrammeScriptelle::ArreteSurErreur(const QString& phrase, const QString& 
 
 QVariant ProgrammeScriptelle::Valeur(const QString& nom)
 {
+    if (nom == QLatin1String("FenetreActive")) {
+        const QWidget* editeur = TrouveFenetre(QStringLiteral("FrmOrdo"));
+        return editeur && editeur->isActiveWindow() ? 1 : 0;
+    }
     return application::Valeur(application_.Contexte(), nom);
 }
 

@@ -28,7 +28,9 @@ boites([[/Hauteur en mm/, "2.3"]]);
 egal(valeur("HauteurSaut"), 2.3, "un nombre simple se lit dans sa forme la plus courte");
 
 ajouter("Medoc", "BddMed", [1, null, null, null, "1 comprimé matin* et soir", "DOLIPRANE 1000 MG"]);
+egal(valeur("FenetreActive"), 0, "l'éditeur n'est pas devant");
 clic("FrmDepart.CmdNO");
+egal(valeur("FenetreActive"), 1, "il l'est");
 clic("FrmOrdo.CmdPharma");
 cocher("FrmMedoc.ChkALD", true);
 taper("FrmMedoc.TxtCherche", "dolip");
