@@ -5,11 +5,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
-
 using namespace common;
 using support::PhraseDEchec;
 
@@ -36,7 +31,6 @@ private Q_SLOTS:
     void CopieSurLuiMeme();
     void Deplace();
     void Supprime();
-    void GardeLeFichierQuandLeDisqueEstPlein();
     void CreeLesDossiers();
     void CreeDesDossiersPrives();
     void CopieUnDossier();
@@ -260,31 +254,6 @@ void TestFichiers::Supprime()
     QVERIFY(!FichierExiste(chemin));
     SupprimeFichier(chemin);
     QVERIFY(PhraseDEchec([&] { SupprimeFichier(dossier_->path()); }).startsWith(QLatin1String("Impossible")));
-}
-
-void TestFichiers::GardeLeFichierQuandLeDisqueEstPlein()
-{
-#ifdef Q_OS_UNIX
-    const QString chemin = Chemin(QStringLiteral("Options.cfg"));
-    const QString source = Chemin(QStringLiteral("source"));
-    EcritFichier(chemin, "ancien");
-    EcritFichier(source, "nouveau, et plus long");
-    const auto signalAvant = ::signal(SIGXFSZ, SIG_IGN);
-    rlimit avant{};
-    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &avant), 0);
-    const rlimit court{3, avant.rlim_max};
-    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &court), 0);
-    const QString ecriture = PhraseDEchec([&] { EcritFichier(chemin, "nouveau"); });
-    const QString copie = PhraseDEchec([&] { CopieFichier(source, chemin); });
-    ::setrlimit(RLIMIT_FSIZE, &avant);
-    ::signal(SIGXFSZ, signalAvant);
-    QVERIFY2(ecriture.contains(QLatin1String("Options.cfg")), qPrintable(ecriture));
-    QVERIFY2(copie.contains(QLatin1String("Options.cfg")), qPrintable(copie));
-    QCOMPARE(LitFichier(chemin), QByteArray("ancien"));
-    QCOMPARE(QDir(dossier_->path()).entryList(QDir::Files).size(), 2);
-#else
-    QSKIP("this system has no limit on the size of a file");
-#endif
 }
 
 void TestFichiers::CreeLesDossiers()
