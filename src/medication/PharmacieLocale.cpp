@@ -6,6 +6,7 @@
 #include "outside/Boites.h"
 #include "storage/Base.h"
 #include "storage/Jeu.h"
+#include "storage/Textes.h"
 
 namespace medication {
 
@@ -38,13 +39,15 @@ QList<Noeud> PharmacieLocale::Charge(const QString&)
     QList<Noeud> noeuds;
     bool sansNom = false;
     storage::Base& base = base_();
-    base.ParcourtTextes(kTable, {QStringLiteral("num"), QStringLiteral("Nom")}, [&](const auto textes) {
-        if (textes[1].trimmed().isEmpty()) {
+    const storage::Textes noms = base.LitTextes(kTable, QStringLiteral("num"), QStringLiteral("Nom"));
+    for (const storage::Textes::Rangee& rangee : noms.Rangees) {
+        const QStringView nom = noms.Texte(rangee);
+        if (nom.trimmed().isEmpty()) {
             sansNom = true;
         } else {
-            noeuds.append({textes[1].toString(), textes[0].toString()});
+            noeuds.append({nom.toString(), QString::number(rangee.Cle)});
         }
-    });
+    }
     if (sansNom) {
         // A read-only or shared file may refuse: those rows are left out all the same.
         common::Tolere(

@@ -2,31 +2,9 @@
 
 #include "storage/Base.h"
 
-#include <span>
 #include <utility>
 
 namespace patients {
-
-namespace {
-
-/// A key in decimal digits, without the cost of a locale.
-int Entier(QStringView texte)
-{
-    constexpr qsizetype kChiffresSurs = 9;
-    if (texte.size() > kChiffresSurs) {
-        return texte.toInt();
-    }
-    int valeur = 0;
-    for (const QChar c : texte) {
-        if (c < u'0' || c > u'9') {
-            return texte.toInt();
-        }
-        valeur = valeur * 10 + (c.unicode() - u'0');
-    }
-    return valeur;
-}
-
-} // namespace
 
 int ListePatients::rowCount(const QModelIndex& parent) const
 {
@@ -57,14 +35,10 @@ QString ListePatients::Texte(int rang) const
 
 void ListePatients::Charge(storage::Base& medoc)
 {
-    Repertoire relu;
-    relu.Reserve(repertoire_.Nombre());
-    medoc.ParcourtTextes(
-        QStringLiteral("Patients"), {QStringLiteral("Index"), QStringLiteral("NomPatient")},
-        [&relu](std::span<const QStringView> textes) { relu.Ajoute(Entier(textes[0]), textes[1]); });
-    relu.Trie();
+    storage::Textes noms =
+        medoc.LitTextes(QStringLiteral("Patients"), QStringLiteral("Index"), QStringLiteral("NomPatient"));
     beginResetModel();
-    repertoire_ = std::move(relu);
+    repertoire_.Remplit(std::move(noms));
     endResetModel();
 }
 

@@ -4,35 +4,27 @@
 #include "common/TriParCle.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace patients {
 
 using common::SansBlancs;
 
-void Repertoire::Vide()
-{
-    noms_.clear();
-    rangees_.clear();
-}
-
-void Repertoire::Reserve(int nombre)
-{
-    constexpr int kLongueurUsuelle = 20;
-    rangees_.reserve(size_t(nombre));
-    noms_.reserve(qsizetype(nombre) * kLongueurUsuelle);
-}
-
-Repertoire::Rangee Repertoire::Prepare(int index, QStringView nom)
+Repertoire::Rangee Repertoire::Prepare(int index, QStringView nom, quint32 debut)
 {
     const common::CleDeTri cle = common::Cle(SansBlancs(nom));
-    return {cle.Repliee, cle.Suite, cle.Majuscule, index, 0, static_cast<quint32>(nom.size())};
+    return {cle.Repliee, cle.Suite, cle.Majuscule, index, debut, static_cast<quint32>(nom.size())};
 }
 
-void Repertoire::Ajoute(int index, QStringView nom)
+void Repertoire::Remplit(storage::Textes noms)
 {
-    Rangee& rangee = rangees_.emplace_back(Prepare(index, nom));
-    rangee.Debut = static_cast<quint32>(noms_.size());
-    noms_.append(nom);
+    rangees_.clear();
+    rangees_.reserve(noms.Rangees.size());
+    for (const storage::Textes::Rangee& lue : noms.Rangees) {
+        rangees_.push_back(Prepare(static_cast<int>(lue.Cle), noms.Texte(lue), lue.Debut));
+    }
+    noms_ = std::move(noms.Bloc);
+    Trie();
 }
 
 bool Repertoire::Precede(const Rangee& a, const Rangee& b, QStringView nomDeB) const
@@ -59,15 +51,9 @@ void Repertoire::Trie()
                        [this](const Rangee& a, const Rangee& b) { return Precede(a, b, Nom(b)); });
 }
 
-int Repertoire::RangDe(int index) const
-{
-    const auto place = std::ranges::find(rangees_, index, &Rangee::Index);
-    return place == rangees_.end() ? -1 : static_cast<int>(place - rangees_.begin());
-}
-
 int Repertoire::Place(int index, QStringView nom) const
 {
-    const Rangee nouvelle = Prepare(index, nom);
+    const Rangee nouvelle = Prepare(index, nom, 0);
     const auto place = std::ranges::partition_point(
         rangees_, [&](const Rangee& rangee) { return Precede(rangee, nouvelle, nom); });
     return static_cast<int>(place - rangees_.begin());
@@ -75,10 +61,8 @@ int Repertoire::Place(int index, QStringView nom) const
 
 void Repertoire::Insere(int rang, int index, QStringView nom)
 {
-    Rangee rangee = Prepare(index, nom);
-    rangee.Debut = static_cast<quint32>(noms_.size());
+    rangees_.insert(rangees_.begin() + rang, Prepare(index, nom, static_cast<quint32>(noms_.size())));
     noms_.append(nom);
-    rangees_.insert(rangees_.begin() + rang, rangee);
 }
 
 int Repertoire::Cherche(QStringView texte) const

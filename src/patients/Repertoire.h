@@ -1,5 +1,7 @@
 #pragma once
 
+#include "storage/Textes.h"
+
 #include <QString>
 #include <vector>
 
@@ -10,17 +12,12 @@ namespace patients {
 class Repertoire
 {
 public:
-    void Vide();
-    void Reserve(int nombre);
-    /// Adds without sorting: `Trie` has to follow before anything is read.
-    void Ajoute(int index, QStringView nom);
-    void Trie();
+    /// Takes the place of what stood there. Keys beyond an int are none that the database gives.
+    void Remplit(storage::Textes noms);
 
     int Nombre() const { return static_cast<int>(rangees_.size()); }
     int Index(int rang) const { return rangees_[size_t(rang)].Index; }
     QStringView Nom(int rang) const { return Nom(rangees_[size_t(rang)]); }
-    /// The row of a key, -1 without one.
-    int RangDe(int index) const;
 
     /// The row where a name belongs.
     int Place(int index, QStringView nom) const;
@@ -46,7 +43,8 @@ private:
     {
         return QStringView(noms_).mid(rangee.Debut, rangee.Longueur);
     }
-    static Rangee Prepare(int index, QStringView nom);
+    static Rangee Prepare(int index, QStringView nom, quint32 debut);
+    void Trie();
     bool Precede(const Rangee& a, const Rangee& b, QStringView nomDeB) const;
 
     QString noms_;

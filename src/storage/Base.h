@@ -7,13 +7,13 @@
 #include <QStringList>
 #include <QVariantList>
 #include <functional>
-#include <span>
 
 class QSqlQuery;
 
 namespace storage {
 
 class Jeu;
+struct Textes;
 
 /// One open database file. Whatever fails throws `Erreur` with a French sentence and the file's path.
 /// SQLite with rollback journal, synchronous=FULL and a busy timeout; one thread.
@@ -22,9 +22,6 @@ class Base
 public:
     /// Called with each statement before it runs; true makes it fail. For tests only.
     using Crochet = std::function<bool(const QString& instruction)>;
-    /// One row's texts, in the order of the columns asked for, null as the empty text. The views live
-    /// as long as the call.
-    using LecteurDeTextes = std::function<void(std::span<const QStringView> textes)>;
 
     /// Opens an existing file and checks it: a database, ours, of this kind and version, whole.
     /// Nothing is created and nothing is written over.
@@ -48,9 +45,8 @@ public:
     /// Walks the rows of any select once, forwards, without keeping them.
     void Parcourt(const QString& instruction, const QVariantList& valeurs,
                   const std::function<void(const Rangee&)>& lecteur);
-    /// The same for whole columns of a table in stored order: the fast road for lists of many thousand
-    /// rows. Numbers come as their decimal text.
-    void ParcourtTextes(const QString& table, const QStringList& colonnes, const LecteurDeTextes& lecteur);
+    /// A column of whole numbers and one of texts of a table: the fast road for lists of many thousand rows.
+    Textes LitTextes(const QString& table, const QString& cle, const QString& texte);
 
     void PoseCrochet(Crochet crochet) { crochet_ = std::move(crochet); }
 
@@ -61,7 +57,7 @@ private:
     void LieEtLance(QSqlQuery& requete, const QVariantList& valeurs);
     QSqlQuery Lance(const QString& instruction, const QVariantList& valeurs);
     bool Avance(QSqlQuery& requete);
-    void ParcourtUnParUn(const QString& table, const QStringList& noms, const LecteurDeTextes& lecteur);
+    Textes LitTextesUnParUn(const QString& table, const QString& cle, const QString& texte);
     void Ouvre();
     void Ferme();
 

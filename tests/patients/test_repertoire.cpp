@@ -11,11 +11,12 @@ namespace {
 /// A directory with these names, keyed from 1 in their order.
 Repertoire Fait(const QStringList& noms)
 {
-    Repertoire repertoire;
-    for (qsizetype i = 0; i < noms.size(); ++i) {
-        repertoire.Ajoute(static_cast<int>(i) + 1, noms[i]);
+    storage::Textes textes;
+    for (const QString& nom : noms) {
+        textes.Ajoute(static_cast<qint64>(textes.Rangees.size()) + 1, nom);
     }
-    repertoire.Trie();
+    Repertoire repertoire;
+    repertoire.Remplit(textes);
     return repertoire;
 }
 

@@ -1,4 +1,5 @@
 #include "storage/Base.h"
+#include "storage/Textes.h"
 #include "support/BaseDeTest.h"
 
 #include <QTest>
@@ -11,16 +12,14 @@ namespace {
 
 const QString kBddMed = QStringLiteral("BddMed");
 
-QStringList Textes(storage::Base& base, const QStringList& colonnes)
+/// Each row as "key|text".
+QStringList Textes(storage::Base& base, const QString& cle = QStringLiteral("num"))
 {
+    const storage::Textes lus = base.LitTextes(kBddMed, cle, QStringLiteral("Nom"));
     QStringList lignes;
-    base.ParcourtTextes(kBddMed, colonnes, [&](std::span<const QStringView> textes) {
-        QString ligne;
-        for (const QStringView texte : textes) {
-            ligne += texte.toString() + u'|';
-        }
-        lignes.append(ligne);
-    });
+    for (const auto& rangee : lus.Rangees) {
+        lignes << QString::number(rangee.Cle) + u'|' + lus.Texte(rangee).toString();
+    }
     return lignes;
 }
 
@@ -38,7 +37,7 @@ class TestParcourt : public QObject
 private Q_SLOTS:
     void LitUneTableVide();
     void LitNullCommeVide();
-    void LitLesColonnesDemandees();
+    void LitLeTexteEntier();
     void LitLesBlocsDansLOrdre();
     void LitUnSeparateurDansUnTexte();
     void PasseLesClesManquantes();
@@ -50,28 +49,27 @@ private Q_SLOTS:
 void TestParcourt::LitUneTableVide()
 {
     BaseDeTest base;
-    QCOMPARE(Textes(base.Medoc(), {QStringLiteral("num")}), QStringList());
+    QCOMPARE(Textes(base.Medoc()), QStringList());
 }
 
 void TestParcourt::LitNullCommeVide()
 {
     BaseDeTest base;
     AjouteLigne(base.Medoc(), kBddMed, {});
-    QCOMPARE(Textes(base.Medoc(), {QStringLiteral("num"), QStringLiteral("Nom")}),
-             QStringList{QStringLiteral("||")});
+    QCOMPARE(Textes(base.Medoc()), QStringList{QStringLiteral("0|")});
     AjouteLigne(base.Medoc(), kBddMed, {2});
     Ajoute(base.Medoc(), 3, QStringLiteral(""));
-    QCOMPARE(Textes(base.Medoc(), {QStringLiteral("num"), QStringLiteral("Nom")}),
-             (QStringList{QStringLiteral("||"), QStringLiteral("2||"), QStringLiteral("3||")}));
+    QCOMPARE(Textes(base.Medoc()),
+             (QStringList{QStringLiteral("0|"), QStringLiteral("2|"), QStringLiteral("3|")}));
 }
 
-void TestParcourt::LitLesColonnesDemandees()
+void TestParcourt::LitLeTexteEntier()
 {
     BaseDeTest base;
     Ajoute(base.Medoc(), 7, QStringLiteral("D'ÉTÉ \"1\", 50 %\r\n"));
-    QCOMPARE(Textes(base.Medoc(), {QStringLiteral("Nom"), QStringLiteral("num")}),
-             QStringList{QStringLiteral("D'ÉTÉ \"1\", 50 %\r\n|7|")});
-    QCOMPARE(Textes(base.Medoc(), {QStringLiteral("Posologie")}), QStringList{QStringLiteral("|")});
+    Ajoute(base.Medoc(), -2147483648, QStringLiteral("ŒDÈME \U0001F600"));
+    QCOMPARE(Textes(base.Medoc()), (QStringList{QStringLiteral("7|D'ÉTÉ \"1\", 50 %\r\n"),
+                                                QStringLiteral("-2147483648|ŒDÈME \U0001F600")}));
 }
 
 void TestParcourt::LitLesBlocsDansLOrdre()
@@ -82,10 +80,10 @@ void TestParcourt::LitLesBlocsDansLOrdre()
         QStringLiteral("with recursive n(i) as (select 1 union all select i+1 from n "
                        "where i < ?) insert into BddMed (num, Nom) select i, 'NOM ' || i from n"),
         {kRangees});
-    const QStringList lignes = Textes(base.Medoc(), {QStringLiteral("num"), QStringLiteral("Nom")});
+    const QStringList lignes = Textes(base.Medoc());
     QCOMPARE(lignes.size(), kRangees);
     for (int i = 0; i < kRangees; ++i) {
-        QCOMPARE(lignes[i], QStringLiteral("%1|NOM %1|").arg(i + 1));
+        QCOMPARE(lignes[i], QStringLiteral("%1|NOM %1").arg(i + 1));
     }
 }
 
@@ -96,8 +94,8 @@ void TestParcourt::LitUnSeparateurDansUnTexte()
     Ajoute(base.Medoc(), 1, QStringLiteral("X"));
     Ajoute(base.Medoc(), 2, nom);
     AjouteLigne(base.Medoc(), kBddMed, {3});
-    QCOMPARE(Textes(base.Medoc(), {QStringLiteral("num"), QStringLiteral("Nom")}),
-             (QStringList{QStringLiteral("1|X|"), QStringLiteral("2|%1|").arg(nom), QStringLiteral("3||")}));
+    QCOMPARE(Textes(base.Medoc()),
+             (QStringList{QStringLiteral("1|X"), QStringLiteral("2|%1").arg(nom), QStringLiteral("3|")}));
 }
 
 void TestParcourt::PasseLesClesManquantes()
@@ -108,16 +106,15 @@ void TestParcourt::PasseLesClesManquantes()
     }
     base.Medoc().SupprimeOu(kBddMed, QStringLiteral("num in (1, 3, 5)"), {});
     base.Medoc().Execute(QStringLiteral("update BddMed set rowid = -9 where num = 4"));
-    QCOMPARE(Textes(base.Medoc(), {QStringLiteral("num")}),
-             (QStringList{QStringLiteral("4|"), QStringLiteral("2|")}));
+    QCOMPARE(Textes(base.Medoc()), (QStringList{QStringLiteral("4|4"), QStringLiteral("2|2")}));
 }
 
 void TestParcourt::RemonteLEchec()
 {
     BaseDeTest base;
-    QVERIFY(!PhraseDEchec([&] { Textes(base.Medoc(), {QStringLiteral("Absente")}); }).isEmpty());
+    QVERIFY(!PhraseDEchec([&] { Textes(base.Medoc(), QStringLiteral("Absente")); }).isEmpty());
     base.Medoc().PoseCrochet([](const QString&) { return true; });
-    QVERIFY(!PhraseDEchec([&] { Textes(base.Medoc(), {QStringLiteral("num")}); }).isEmpty());
+    QVERIFY(!PhraseDEchec([&] { Textes(base.Medoc()); }).isEmpty());
 }
 
 void TestParcourt::ParcourtUnSelect()
@@ -148,7 +145,7 @@ void TestParcourt::ArreteQuandLeLecteurEchoue()
         PhraseDEchec([&] { base.Medoc().Parcourt(QStringLiteral("select num from BddMed"), {}, echoue); }),
         QStringLiteral("non"));
     Ajoute(base.Medoc(), 2, QStringLiteral("B"));
-    QCOMPARE(Textes(base.Medoc(), {QStringLiteral("num")}).size(), 2);
+    QCOMPARE(Textes(base.Medoc()).size(), 2);
 }
 
 QTEST_GUILESS_MAIN(TestParcourt)
