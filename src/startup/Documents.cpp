@@ -5,6 +5,7 @@
 #include "outside/Lanceur.h"
 #include "prescription/Journal.h"
 #include "startup/Chemins.h"
+#include "startup/Demarrage.h"
 #include "startup/GestionMedecins.h"
 #include "startup/Medecins.h"
 #include "startup/messagesDepart.h"
@@ -52,6 +53,13 @@ void OuvreJournal(application::Contexte& contexte)
         Ouvre(contexte, journal);
     } else {
         contexte.Dehors.Boites.Information(messages::JournalVide());
+    }
+}
+
+void EcritUnMessage(application::Contexte& contexte)
+{
+    if (!contexte.Dehors.Lanceur.Ouvre(QStringLiteral("mailto:?subject=Scriptelle%20") + Version())) {
+        contexte.Dehors.Boites.Information(messages::CourrierSansProgramme());
     }
 }
 

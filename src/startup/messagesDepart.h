@@ -15,6 +15,11 @@ inline QString DocumentSansLecteur(const QString& fichier)
     return QStringLiteral("Aucun programme de cet ordinateur n'ouvre le fichier \"%1\".").arg(fichier);
 }
 
+inline QString CourrierSansProgramme()
+{
+    return QStringLiteral("Aucun programme de courrier n'est réglé sur cet ordinateur.");
+}
+
 inline QString JournalVide()
 {
     return QStringLiteral("Aucune ordonnance n'est encore inscrite dans le journal.");

@@ -37,6 +37,19 @@ public:
         return place == fenetres_.end() ? nullptr : static_cast<F*>(place->Fenetre.get());
     }
 
+    /// Loads a dialogue, shows it modal and unloads it. One that is open already comes to the front.
+    template <typename F> void OuvreModale()
+    {
+        auto& fenetre = Donne<F>();
+        if (fenetre.isVisible()) {
+            fenetre.raise();
+            fenetre.activateWindow();
+            return;
+        }
+        fenetre.exec();
+        Decharge<F>();
+    }
+
     /// Hides and unloads a window; it is deleted when control is back in the event loop.
     template <typename F> void Decharge()
     {

@@ -138,7 +138,7 @@ void FrmOrdo::OuvreOptions()
 
 void FrmOrdo::APropos()
 {
-    fenetres_.Donne<startup::FrmAPROPOS>().exec();
+    fenetres_.OuvreModale<startup::FrmAPROPOS>();
 }
 
 bool FrmOrdo::event(QEvent* evenement)

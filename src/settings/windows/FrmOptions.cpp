@@ -75,7 +75,9 @@ void FrmOptions::AjouteOnglet(Onglet* onglet)
 void FrmOptions::Ouvre(int onglet)
 {
     Selectionne(onglet);
-    exec();
+    if (!isVisible()) {
+        exec();
+    }
 }
 
 bool FrmOptions::OuvrePourPremiereImpression()

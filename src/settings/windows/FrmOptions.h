@@ -24,6 +24,7 @@ public:
     FrmOptions(application::Contexte& contexte, application::Fenetres& fenetres);
 
     /// Opens modally on a tab, 1 to 7; one that does not stand yet opens the first one that does.
+    /// In an open window it only shows the tab.
     void Ouvre(int onglet);
     /// Opens on the printers: the doctor has to choose, and there is no way back. False when the program
     /// ended meanwhile.

@@ -22,12 +22,6 @@ namespace {
 
 enum OngletOptions { kConfiguration = 1, kOptionsGenerales = 2, kPharmacies = 4, kLogo = 6 };
 
-template <typename F> void OuvreModale(application::Fenetres& fenetres)
-{
-    fenetres.Donne<F>().exec();
-    fenetres.Decharge<F>();
-}
-
 template <typename F> void Cache(application::Fenetres& fenetres)
 {
     if (F* presente = fenetres.Presente<F>()) {
@@ -48,13 +42,13 @@ void FrmDepart::BrancheControles()
             [this](int rang) { ChangeMedecin(contexte_, rang); });
     connect(controles_.CmdNO, &QPushButton::clicked, this, &FrmDepart::EditeOrdonnances);
     connect(controles_.CmdMedecins, &QPushButton::clicked, this,
-            [this] { OuvreModale<FrmMedecins>(fenetres_); });
+            [this] { fenetres_.OuvreModale<FrmMedecins>(); });
     connect(controles_.CmdOptions, &QPushButton::clicked, this, [this] { OuvreOptions(kConfiguration); });
     connect(controles_.CmdOutils, &QPushButton::clicked, this,
             [this] { Deroule(menus_.mnuOutils, controles_.CmdOutils); });
     connect(controles_.CmdAide, &QPushButton::clicked, this,
             [this] { Deroule(menus_.MnuAideInv, controles_.CmdAide); });
-    connect(controles_.CmdAP, &QPushButton::clicked, this, [this] { OuvreModale<FrmAPROPOS>(fenetres_); });
+    connect(controles_.CmdAP, &QPushButton::clicked, this, [this] { fenetres_.OuvreModale<FrmAPROPOS>(); });
     connect(controles_.CmdQuitter, &QPushButton::clicked, this, &QWidget::close);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { OuvreAide(contexte_); });
     BrancheMenus();
@@ -89,7 +83,7 @@ void FrmDepart::BranchePlateau()
     suit(menus_.mnuOptions, [this] { OuvreOptionsDuPlateau(); });
     suit(menus_.mnuHauteurN, [this] { prescription::RetablitHauteurNormale(contexte_); });
     suit(menus_.mnuHauteurP, [this] { prescription::FixeHauteurPersonnelle(contexte_); });
-    suit(menus_.mnuAPropos, [this] { OuvreModale<FrmAPROPOS>(fenetres_); });
+    suit(menus_.mnuAPropos, [this] { fenetres_.OuvreModale<FrmAPROPOS>(); });
     suit(menus_.mnuQuitter, [this] { close(); });
 }
 

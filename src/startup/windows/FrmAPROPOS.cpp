@@ -1,8 +1,8 @@
 #include "startup/windows/FrmAPROPOS.h"
 
 #include "application/windows/Style.h"
-#include "outside/Lanceur.h"
 #include "startup/Demarrage.h"
+#include "startup/Documents.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -24,10 +24,10 @@ FrmAPROPOS::FrmAPROPOS(application::Contexte& contexte, application::Fenetres&) 
     textes->addSpacing(style::kEntreGroupes);
     textes->addWidget(new QLabel(QStringLiteral("Rédaction des ordonnances du cabinet médical."), carte));
     textes->addSpacing(style::kEntreGroupes);
-    textes->addWidget(Lien(QStringLiteral("Label1"), QStringLiteral("www.scriptelle.example"),
-                           QStringLiteral("https://www.scriptelle.example/")));
-    textes->addWidget(Lien(QStringLiteral("Label2"), QStringLiteral("contact@scriptelle.example"),
-                           QStringLiteral("mailto:contact@scriptelle.example")));
+    textes->addWidget(
+        Lien(QStringLiteral("Label1"), QStringLiteral("Ouvrir le document d'&aide"), OuvreNouvelleAide));
+    textes->addWidget(
+        Lien(QStringLiteral("Label2"), QStringLiteral("&Ecrire un message sur Scriptelle"), EcritUnMessage));
     auto* ferme = style::BoutonPrincipal(QStringLiteral("Bouton_VL_XP1"), QStringLiteral("&Fermer"),
                                          QStringLiteral("x-lg"), this);
     ferme->setToolTip(QStringLiteral("Fermer cette fenêtre (Échap)"));
@@ -38,10 +38,11 @@ FrmAPROPOS::FrmAPROPOS(application::Contexte& contexte, application::Fenetres&) 
     ferme->setFocus();
 }
 
-QPushButton* FrmAPROPOS::Lien(const QString& nomObjet, const QString& texte, const QString& adresse)
+QPushButton* FrmAPROPOS::Lien(const QString& nomObjet, const QString& texte,
+                              void (*ouvre)(application::Contexte&))
 {
     auto* lien = style::Lien(nomObjet, texte, this);
-    connect(lien, &QPushButton::clicked, this, [this, adresse] { contexte_.Dehors.Lanceur.Ouvre(adresse); });
+    connect(lien, &QPushButton::clicked, this, [this, ouvre] { ouvre(contexte_); });
     return lien;
 }
 

@@ -8,7 +8,7 @@ class QPushButton;
 
 namespace startup {
 
-/// The about box: version, web address and mail address.
+/// The about box: the version, the way to the help document and to a message.
 class FrmAPROPOS : public QDialog
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     FrmAPROPOS(application::Contexte& contexte, application::Fenetres& fenetres);
 
 private:
-    QPushButton* Lien(const QString& nomObjet, const QString& texte, const QString& adresse);
+    QPushButton* Lien(const QString& nomObjet, const QString& texte, void (*ouvre)(application::Contexte&));
 
     application::Contexte& contexte_;
 };

@@ -5,6 +5,7 @@
 #include "page/Peintres.h"
 #include "page/Rejeu.h"
 #include "prescription/Editeur.h"
+#include "prescription/windows/FrmOrdo.h"
 #include "settings/Reglages.h"
 #include "startup/GestionMedecins.h"
 #include "startup/Medecins.h"
@@ -54,9 +55,16 @@ void FrmDepart::Ouvre()
     if (!reduite_) {
         show();
         activateWindow();
-    } else if (!contexte_.Dehors.Plateau.Present()) {
+    } else if (!PeutSeCacher()) {
         showMinimized();
     }
+}
+
+bool FrmDepart::PeutSeCacher() const
+{
+    const auto* ordo = fenetres_.Presente<prescription::FrmOrdo>();
+    return contexte_.Dehors.Plateau.Present() &&
+           (contexte_.Reglages.Options.IconeHorloge == 1 || (ordo && ordo->isVisible()));
 }
 
 void FrmDepart::Reduit()
@@ -100,7 +108,7 @@ void FrmDepart::changeEvent(QEvent* evenement)
     reduite_ = isMinimized();
     if (!reduite_) {
         PeintFace();
-    } else if (contexte_.Dehors.Plateau.Present()) {
+    } else if (PeutSeCacher()) {
         QTimer::singleShot(0, this, [this] { setVisible(isVisible() && !reduite_); });
     }
 }

@@ -35,6 +35,8 @@ protected:
     void closeEvent(QCloseEvent* evenement) override;
 
 private:
+    /// Whether something could bring the window back: the icon beside the clock, or the editor.
+    bool PeutSeCacher() const;
     void BrancheControles();
     void BrancheMenus();
     void BranchePlateau();

@@ -142,6 +142,19 @@ private Q_SLOTS:
         QVERIFY(depart.isMinimized());
     }
 
+    void WithoutIconItHidesBesideTheEditorOnly()
+    {
+        ProgrammeDeTest programme;
+        startup::FrmDepart& depart = programme.Installe();
+        programme.Contexte().Reglages.Options.IconeHorloge = 0;
+        depart.showMinimized();
+        QTest::qWait(20);
+        QVERIFY(depart.isVisible());
+        depart.Restaure();
+        QTest::mouseClick(Bouton(depart, "CmdNO"), Qt::LeftButton);
+        QTRY_VERIFY(!depart.isVisible());
+    }
+
     void TheTrayActsWhileMinimisedOnly()
     {
         ProgrammeDeTest programme;
@@ -198,12 +211,16 @@ private Q_SLOTS:
         const QString aide = programme.Chemin(QStringLiteral("programme/Ordo.hlp"));
         const QString pdf = programme.Chemin(QStringLiteral("programme/Aide.pdf"));
         programme.Lanceur.Reussit = false;
-        programme.Boites.AttendInformation(startup::messages::DocumentAbsent(common::CheminAffiche(aide)))
-            .AttendInformation(startup::messages::DocumentSansLecteur(common::CheminAffiche(pdf)));
+        programme.Boites.AttendInformation(startup::messages::DocumentAbsent(common::CheminAffiche(aide)));
         Entree(depart, "mnuAideOld")->trigger();
         common::EcritFichier(pdf, "%PDF-1.4");
+        programme.Boites.AttendInformation(
+            startup::messages::DocumentSansLecteur(common::CheminAffiche(pdf)));
         Entree(depart, "mnuAideNewIT")->trigger();
-        QCOMPARE(programme.Lanceur.Documents, QStringList({aide, pdf}));
+        QVERIFY(programme.Boites.Epuise());
+        programme.Lanceur.Reussit = true;
+        Entree(depart, "mnuAideNew")->trigger();
+        QCOMPARE(programme.Lanceur.Documents, (QStringList{aide, pdf, pdf}));
     }
 
     void TheJournalIsOpened()
@@ -324,7 +341,12 @@ private Q_SLOTS:
         Bouton(apropos, "Label1")->click();
         Bouton(apropos, "Label2")->click();
         QCOMPARE(programme.Lanceur.Documents.size(), 2);
-        QVERIFY(programme.Lanceur.Documents[1].startsWith(QLatin1String("mailto:")));
+        QCOMPARE(programme.Lanceur.Documents[0], programme.Chemin(QStringLiteral("programme/Aide.pdf")));
+        QCOMPARE(programme.Lanceur.Documents[1], QStringLiteral("mailto:?subject=Scriptelle%202.3.25"));
+        programme.Lanceur.Reussit = false;
+        programme.Boites.AttendInformation(startup::messages::CourrierSansProgramme());
+        Bouton(apropos, "Label2")->click();
+        QVERIFY(programme.Boites.Epuise());
         support::Capture(apropos, QStringLiteral("FrmAPROPOS"));
         QTest::keyClick(&apropos, Qt::Key_Escape);
         QVERIFY(!apropos.isVisible());
