@@ -10,6 +10,7 @@
 int main(int nombre, char** arguments)
 {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    application::style::ParleFrancais();
     application::ApplicationQt boucle(nombre, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     application::style::Installe(boucle);

@@ -37,7 +37,6 @@ void InstallePolice(QApplication& application)
 
 void InstalleTextes(QApplication& application)
 {
-    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     auto* traducteur = new QTranslator(&application);
     if (traducteur->load(QStringLiteral(":/qtbase_fr.qm"))) {
         QCoreApplication::installTranslator(traducteur);
@@ -116,8 +115,21 @@ QFont PoliceFixe()
     return police;
 }
 
+void ParleFrancais()
+{
+#ifndef Q_OS_WIN
+    // The toolkit reads the system's language once, at the first question.
+    const bool presente = qEnvironmentVariableIsSet("LC_ALL");
+    const QByteArray avant = qgetenv("LC_ALL");
+    qputenv("LC_ALL", "fr_FR.UTF-8");
+    static_cast<void>(QLocale::system());
+    presente ? qputenv("LC_ALL", avant) : qunsetenv("LC_ALL");
+#endif
+}
+
 void Installe(QApplication& application)
 {
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     ChargeRessources();
     InstalleTextes(application);
     InstallePolice(application);

@@ -42,6 +42,10 @@ enum class Ton {
 
 QColor Teinte(Ton ton);
 
+/// Makes French what the toolkit takes for the system's language, as its file dialogue does for dates.
+/// Before the application and any locale is made; the environment stays as it was.
+void ParleFrancais();
+
 /// Style, font, palette, style sheet, French texts of Qt and the window icon for the whole program.
 void Installe(QApplication& application);
 

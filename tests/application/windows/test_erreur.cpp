@@ -3,7 +3,11 @@
 #include "application/windows/ApplicationQt.h"
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
+#include "startup/windows/FrmAPROPOS.h"
+#include "startup/windows/FrmMedecins.h"
 #include "startup/windows/ProgrammeDeTest.h"
+
+#include <QPushButton>
 
 using support::ProgrammeDeTest;
 
@@ -87,6 +91,35 @@ private Q_SLOTS:
             application::messages::ArretSurErreur(QStringLiteral("Panne."), QString()));
         programme.Programme->ArretSurErreur(QStringLiteral("Panne."), {});
         QVERIFY(!common::FichierExiste(FichierSauve(programme)));
+    }
+
+    void AFailureUnderModalWindowsEndsTheProgramOnce()
+    {
+        ProgrammeDeTest programme;
+        startup::FrmDepart& depart = programme.Installe();
+        Boucle().SurErreur([&](const QString& phrase, const QString& lieu) {
+            programme.Programme->ArretSurErreur(phrase, lieu);
+        });
+        const QSignalSpy fin(programme.Programme.get(), &application::Application::Termine);
+        programme.Boites.AttendContenant(outside::Genre::Stop, QStringLiteral("Le disque est plein."));
+        QTimer::singleShot(0, &depart, [&] {
+            auto& medecins = programme.Fenetres().Donne<startup::FrmMedecins>();
+            auto* aide = medecins.findChild<QPushButton*>(QStringLiteral("CmdAide"));
+            aide->disconnect();
+            connect(aide, &QPushButton::clicked, this, [] {
+                throw common::Erreur(QStringLiteral("Le disque est plein."), QStringLiteral("a.mdb"));
+            });
+            QTimer::singleShot(0, &depart, [aide] { QTest::mouseClick(aide, Qt::LeftButton); });
+            programme.Fenetres().OuvreModale<startup::FrmAPROPOS>();
+        });
+        QTest::mouseClick(depart.findChild<QPushButton*>(QStringLiteral("CmdMedecins")), Qt::LeftButton);
+        QCOMPARE(fin.count(), 1);
+        QVERIFY(programme.Boites.Epuise());
+        for (const QWidget* fenetre : QApplication::topLevelWidgets()) {
+            QVERIFY2(!fenetre->isVisible(), qPrintable(fenetre->objectName()));
+        }
+        QVERIFY(!QApplication::activeModalWidget());
+        programme.Programme.reset(); // with a click that was never delivered to its end
     }
 
     void ADiskThatFailsIsSaid()

@@ -7,13 +7,16 @@
 
 #include <QAbstractButton>
 #include <QDir>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 using outside::Bouton;
 using outside::Genre;
@@ -149,6 +152,22 @@ private Q_SLOTS:
     }
 #endif
 
+    void TheFileDialogueWritesFrenchDatesOnAnySystem()
+    {
+        QTemporaryDir dossier;
+        QVERIFY(QDir(dossier.path()).mkdir(QStringLiteral("NEIBRE")));
+        QFileDialog dialogue(nullptr, {}, dossier.path());
+        dialogue.setOption(QFileDialog::DontUseNativeDialog);
+        dialogue.show();
+        auto* arbre = dialogue.findChild<QTreeView*>();
+        QTRY_VERIFY(arbre->model()->rowCount(arbre->rootIndex()) == 1);
+        const QString date = arbre->model()->index(0, 3, arbre->rootIndex()).data().toString();
+        QCOMPARE(date.first(10), QFileInfo(dossier.filePath(QStringLiteral("NEIBRE")))
+                                     .lastModified()
+                                     .toString(QStringLiteral("dd/MM/yyyy")));
+        QCOMPARE(qgetenv("LC_ALL"), QByteArray("C.UTF-8"));
+    }
+
     void AMissingDocumentIsNotOpened()
     {
         outside::LanceurQt lanceur;
@@ -159,6 +178,7 @@ private Q_SLOTS:
 
 int main(int nombre, char** arguments)
 {
+    application::style::ParleFrancais();
     application::ApplicationQt application(nombre, arguments);
     application::style::Installe(application);
     TestDehorsQt test;
