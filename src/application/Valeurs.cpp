@@ -67,6 +67,7 @@ void AjoutePatient(Registre& registre)
     VARIABLE(Patient, MessagePrecautions);
     VARIABLE(Patient, AgeSaisi);
     VARIABLE(Patient, ModePatient);
+    VARIABLE(Patient, OuvreMedocApres);
 }
 
 QVariant EnListe(const QList<prescription::Entree>& zone)

@@ -19,8 +19,6 @@ QVariant ListePatients::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return Texte(index.row());
-    case Qt::ToolTipRole:
-        return repertoire_.Nom(index.row()).trimmed().toString();
     case Qt::UserRole:
         return repertoire_.Index(index.row());
     default:

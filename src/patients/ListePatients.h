@@ -11,7 +11,7 @@ class Base;
 namespace patients {
 
 /// The patients of the data directory as `LstPatient` shows them. Qt::DisplayRole gives two blanks and
-/// the name, Qt::UserRole the patient's key, Qt::ToolTipRole the name.
+/// the name, Qt::UserRole the patient's key.
 class ListePatients : public QAbstractListModel
 {
     Q_OBJECT

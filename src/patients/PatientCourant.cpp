@@ -63,6 +63,8 @@ QString ComposePrecautions(const QString& entree, const QString& precautions)
 void AnnulePatient(Patient& patient, prescription::Apercu& apercu)
 {
     patient.PatientCourant.clear();
+    patient.NomSeul.clear();
+    patient.AgeSaisi.clear();
     patient.DateNaissance.clear();
     patient.AgePatient.clear();
     patient.DateOrdo.clear();
@@ -70,7 +72,7 @@ void AnnulePatient(Patient& patient, prescription::Apercu& apercu)
     apercu.ModeApercu = 0;
 }
 
-bool ConfirmePatient(application::Contexte& contexte, bool ouvreMedocApres)
+bool ConfirmePatient(application::Contexte& contexte)
 {
     contexte.Patient.DateOrdo = common::TexteDate(contexte.Dehors.Horloge.Aujourdhui());
     if (contexte.Apercu.ModeApercu == 1) {
@@ -81,10 +83,11 @@ bool ConfirmePatient(application::Contexte& contexte, bool ouvreMedocApres)
         return false;
     }
     prescription::RepeintPatient(contexte);
-    if (!ouvreMedocApres) {
-        prescription::Repeint(contexte);
+    if (contexte.Patient.OuvreMedocApres == 1) {
+        return true;
     }
-    return ouvreMedocApres;
+    prescription::Repeint(contexte);
+    return false;
 }
 
 } // namespace patients

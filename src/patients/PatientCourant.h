@@ -29,7 +29,8 @@ QString ComposePrecautions(const QString& entree, const QString& precautions);
 void AnnulePatient(Patient& patient, prescription::Apercu& apercu);
 
 /// A patient of the list, or a passing one, is confirmed: dates the document and paints the preview. True
-/// when the choice of medications comes next. Painting may ask once for a passing patient's age.
-bool ConfirmePatient(application::Contexte& contexte, bool ouvreMedocApres);
+/// when the choice of medications comes next, as `OuvreMedocApres` asks. Painting may ask once for a passing
+/// patient's age.
+bool ConfirmePatient(application::Contexte& contexte);
 
 } // namespace patients

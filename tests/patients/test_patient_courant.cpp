@@ -119,7 +119,7 @@ private Q_SLOTS:
     {
         Patient patient;
         patient.PatientCourant = patient.DateNaissance = patient.AgePatient = patient.DateOrdo =
-            patient.NomSeul = QStringLiteral("x");
+            patient.NomSeul = patient.AgeSaisi = QStringLiteral("x");
         patient.PoidsPatient = QStringLiteral("72");
         prescription::Apercu apercu;
         apercu.ModeApercu = 1;
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(patient.PatientCourant + patient.DateNaissance + patient.AgePatient + patient.DateOrdo,
                  QString());
         QCOMPARE(patient.PoidsPatient, QStringLiteral("0"));
-        QCOMPARE(patient.NomSeul, QStringLiteral("x"));
+        QCOMPARE(patient.NomSeul + patient.AgeSaisi, QString());
         QCOMPARE(apercu.ModeApercu, quint8(0));
     }
 
@@ -153,7 +153,8 @@ private Q_SLOTS:
         SelectionnePatient(monde.Contexte, index, QStringLiteral("  MARTIN  Anne"));
         monde.Etat.Apercu.ModeApercu = static_cast<quint8>(modeApercu);
         monde.Etat.Apercu.PctOrdo.Items = {page::ItemTexte{}};
-        QTEST(ConfirmePatient(monde.Contexte, ouvreMedocApres), "medocSuit");
+        monde.Etat.Patient.OuvreMedocApres = ouvreMedocApres ? 1 : 0;
+        QTEST(ConfirmePatient(monde.Contexte), "medocSuit");
         QCOMPARE(monde.Etat.Patient.DateOrdo, QStringLiteral("20/11/2026"));
         const auto& items = monde.Etat.Apercu.PctOrdo.Items;
         QCOMPARE(std::ranges::any_of(items, EcritLeNom), peint);

@@ -1,11 +1,15 @@
 #include "patients/windows/ChampSelectionne.h"
 
+#include <QFocusEvent>
+
 namespace patients {
 
 void ChampSelectionne::focusInEvent(QFocusEvent* evenement)
 {
     QLineEdit::focusInEvent(evenement);
-    selectAll();
+    if (evenement->reason() != Qt::PopupFocusReason) {
+        selectAll();
+    }
 }
 
 } // namespace patients

@@ -4,7 +4,7 @@
 
 namespace patients {
 
-/// A line of text that is wholly selected when it gets the focus.
+/// A line of text that is wholly selected when it gets the focus, but not back from its own menu.
 class ChampSelectionne : public QLineEdit
 {
     Q_OBJECT

@@ -15,6 +15,25 @@
 
 namespace patients {
 
+namespace {
+
+QString Capitales(const QString& texte)
+{
+    return texte.toUpper();
+}
+
+using Forme = QString (*)(const QString&);
+
+/// What `Txt(numero)` makes of its text when it is left; null when it stays as typed.
+Forme FormeDe(size_t numero)
+{
+    constexpr std::array<Forme, 5> kFormes = {Capitales, PremiereMajuscule, MasqueTelephone, nullptr,
+                                              MasqueTelephone};
+    return kFormes[numero];
+}
+
+} // namespace
+
 FrmNouveauP::FrmNouveauP(application::Contexte& contexte, application::Fenetres&) : contexte_(contexte)
 {
     setObjectName(QStringLiteral("FrmNouveauP"));
@@ -29,8 +48,8 @@ void FrmNouveauP::Branche()
     for (QRadioButton* option : opt_) {
         connect(option, &QRadioButton::clicked, txt_[0], qOverload<>(&QWidget::setFocus));
     }
-    for (const int numero : {0, 1, 2, 4}) {
-        connect(txt_[size_t(numero)], &QLineEdit::editingFinished, this, &FrmNouveauP::MetEnForme);
+    for (const size_t numero : {0U, 1U, 2U, 4U}) {
+        connect(txt_[numero], &QLineEdit::editingFinished, this, [this, numero] { MetEnForme(numero); });
     }
     connect(cmdCI_, &QPushButton::clicked, this, &FrmNouveauP::AjoutePrecautions);
     connect(lstCi_, &QListView::doubleClicked, this, &FrmNouveauP::RetirePrecaution);
@@ -58,6 +77,9 @@ void FrmNouveauP::Remplit(int index, const SaisiePatient& saisie)
     txt_[2]->setText(saisie.Telephone1);
     txt_[3]->setText(saisie.Poids);
     txt_[4]->setText(saisie.Telephone2);
+    for (QLineEdit* champ : txt_) {
+        champ->home(false);
+    }
     meb_->setText(saisie.DateNaissance);
     precautions_.setStringList(saisie.Precautions);
     txtAdr_->setPlainText(saisie.Notes);
@@ -87,12 +109,10 @@ SaisiePatient FrmNouveauP::Saisie() const
             .Origine = origine_};
 }
 
-void FrmNouveauP::MetEnForme()
+void FrmNouveauP::MetEnForme(size_t numero)
 {
-    txt_[0]->setText(txt_[0]->text().toUpper());
-    txt_[1]->setText(PremiereMajuscule(txt_[1]->text()));
-    for (const size_t numero : {2U, 4U}) {
-        txt_[numero]->setText(MasqueTelephone(txt_[numero]->text()));
+    if (const auto forme = FormeDe(numero)) {
+        txt_[numero]->setText(forme(txt_[numero]->text()));
     }
 }
 
@@ -123,7 +143,11 @@ void FrmNouveauP::RetirePrecaution()
 
 void FrmNouveauP::Valide()
 {
-    MetEnForme();
+    for (size_t numero = 0; numero < txt_.size(); ++numero) {
+        if (txt_[numero]->isModified()) { // typed, and not left yet
+            MetEnForme(numero);
+        }
+    }
     patients::FinDeSaisie fin;
     if (!outside::Tente(contexte_.Dehors.Boites,
                         [&] { fin = TermineSaisie(contexte_, Saisie(), indexChange_); })) {

@@ -51,7 +51,8 @@ private:
     void Branche();
 
     SaisiePatient Saisie() const;
-    void MetEnForme();
+    /// Puts the text of `Txt(numero)` in its form.
+    void MetEnForme(size_t numero);
     void AjoutePrecautions();
     void RetirePrecaution();
     void Valide();

@@ -1,11 +1,11 @@
 #include "application/windows/Style.h"
 #include "patients/windows/ChampSelectionne.h"
 #include "patients/windows/FrmNouveauP.h"
+#include "patients/windows/ListeChoix.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListView>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -134,10 +134,9 @@ QWidget* FrmNouveauP::FaitPrecautions()
 {
     auto* carte = style::Carte(this);
     auto* colonne = Interieur<QVBoxLayout>(carte);
-    lstCi_ = new QListView(carte);
+    lstCi_ = new ListeChoix(carte);
     lstCi_->setObjectName(QStringLiteral("LstCi"));
     lstCi_->setModel(&precautions_);
-    lstCi_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     lstCi_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     lstCi_->setMinimumHeight(3 * style::kHauteurRangee);
     lstCi_->setToolTip(QStringLiteral("Double-cliquez sur une précaution pour la supprimer (Suppr)"));

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QTextDocument>
 
 namespace patients {
 
@@ -51,8 +52,9 @@ void FrmPatient::Branche()
 
 void FrmPatient::Ouvre(bool ouvreMedocApres)
 {
+    contexte_.Patient.OuvreMedocApres = ouvreMedocApres ? 1 : 0;
     Charge();
-    if (exec() == QDialog::Accepted && ConfirmePatient(contexte_, ouvreMedocApres)) {
+    if (exec() == QDialog::Accepted && ConfirmePatient(contexte_)) {
         fenetres_.Donne<medication::FrmMedoc>().exec();
     }
 }
@@ -96,6 +98,7 @@ void FrmPatient::Deselectionne()
 {
     lstPatient_->selectionModel()->clear();
     lblTitre_->clear();
+    lblTitre_->setToolTip({});
     lblPatient_->clear();
 }
 
@@ -132,6 +135,7 @@ void FrmPatient::ChoixChange()
         return;
     }
     lblTitre_->setText(contexte_.Patient.PatientCourant);
+    lblTitre_->setToolTip(Qt::convertFromPlainText(contexte_.Patient.PatientCourant));
     lblPatient_->setText(TexteLblPatient(contexte_.Patient));
 }
 

@@ -1,10 +1,10 @@
 #include "application/windows/Style.h"
 #include "patients/windows/FrmPatient.h"
+#include "patients/windows/ListeChoix.h"
 #include "patients/windows/ZoneRecherche.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListView>
 #include <QVBoxLayout>
 
 namespace patients {
@@ -54,12 +54,9 @@ QWidget* FrmPatient::FaitListe()
 {
     auto* carte = style::Carte(this);
     auto* colonne = Colonne(carte);
-    lstPatient_ = new QListView(carte);
+    lstPatient_ = new ListeChoix(carte);
     lstPatient_->setObjectName(QStringLiteral("LstPatient"));
     lstPatient_->setUniformItemSizes(true);
-    lstPatient_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    lstPatient_->setTextElideMode(Qt::ElideRight);
-    lstPatient_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstPatient_->setModel(&liste_);
 
     txtCherche_ = new ZoneRecherche(*lstPatient_, carte);

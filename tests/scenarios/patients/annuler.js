@@ -43,6 +43,23 @@ faux(ouverte("FrmPatient"), "Entrée confirme");
 faux(ouverte("FrmMedoc"), "sans nouvelle ordonnance les médicaments ne suivent pas");
 egal(valeur("PatientCourant"), "MARTIN  Paul", "le patient confirmé");
 
+// Sans civilité, la feuille ne garde pas le nom d'avant : celui d'un patient, ni l'âge tapé d'un passant.
+if (coche("FrmOrdo.ChkCiv")) {
+    clic("FrmOrdo.ChkCiv");
+}
+const textes = () => feuille("FrmOrdo.PctOrdo").filter(item => item.genre === "texte").map(item => item.texte);
+clic("FrmOrdo.CmdPatient");
+clic("FrmPatient.CmdPassage");
+taper("FrmNouveauP.Txt(0)", "durand");
+taper("FrmNouveauP.Txt(1)", "anne");
+clic("FrmNouveauP.CmdOK");
+repondre("40 ans environ");
+contient(textes(), "DURAND  Anne", "le passant");
+contient(textes(), "40 ans environ", "son âge");
+clic("FrmOrdo.CmdPatient");
+clic("FrmPatient.CmdAnnule");
+faux(textes().some(texte => /DURAND|40 ans/.test(texte)), "rien du passant");
+
 clic("FrmOrdo.CmdNouvelle");
 doubleClic("FrmPatient.LstPatient", 0);
 vrai(ouverte("FrmMedoc"), "un double clic confirme, et les médicaments suivent");

@@ -1,6 +1,6 @@
 // Le patient de passage : jamais stocké, sa date est facultative, ses précautions ne sont dites nulle part.
 installer();
-ajouter("Medoc", "Patients", [1, "", "MARTIN  Paul", "20/03/1953", "0", "", "", "", "", "", ""]);
+ajouter("Medoc", "Patients", [1, "", "MARTIN  Paul", "20/03/1953", "0", "iode", "", "", "", "", ""]);
 const avant = table("Medoc", "Patients");
 const textes = () => feuille("FrmOrdo.PctOrdo").filter(item => item.genre === "texte").map(item => item.texte);
 clic("FrmDepart.CmdNO");
@@ -13,6 +13,12 @@ boites([["Indiquez le nom du patient !", "OK"]]);
 clic("FrmNouveauP.CmdAnnuler");
 vrai(ouverte("FrmPatient"), "un abandon revient à la liste");
 egal(valeur("ModePatient"), 3, "le mode d'un abandon");
+clic("FrmPatient.CmdPassage");
+fermer("FrmNouveauP");
+egal([valeur("ModePatient"), ouverte("FrmPatient")], [3, true], "la case de fermeture aussi");
+clic("FrmPatient.CmdNouveauPatient");
+vrai(visible("FrmNouveauP.Lbl"), "la marque rouge revient pour un patient à stocker");
+clic("FrmNouveauP.CmdAnnuler");
 
 clic("FrmPatient.CmdPassage");
 clic("FrmNouveauP.Opt(1)");
