@@ -82,6 +82,7 @@ void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang)
         return;
     }
     startup::ChangeMedecin(contexte, rang);
+    contexte.Medecins.IndexMedecin = static_cast<qint16>(contexte.Medecins.Liste[rang].Numero);
     if (contexte.Apercu.ModeApercu != 0) {
         contexte.Apercu.ModeApercu = 1;
         Repeint(contexte);

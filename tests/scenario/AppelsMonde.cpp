@@ -74,33 +74,34 @@ void Langage::AjouteMonde()
 void Langage::AjouteFichiers()
 {
     Ajoute(QStringLiteral("ecrire"), 2, 2, [](const Valeurs& valeurs) {
-        Ecrit(valeurs.Texte(0), common::VersWindows1252(valeurs.Texte(1)));
+        Ecrit(valeurs.Chemin(0), common::VersWindows1252(valeurs.Texte(1)));
         return QVariant();
     });
-    Ajoute(QStringLiteral("lire"), 1, 1,
-           [](const Valeurs& valeurs) { return QVariant(common::DepuisWindows1252(Lit(valeurs.Texte(0)))); });
+    Ajoute(QStringLiteral("lire"), 1, 1, [](const Valeurs& valeurs) {
+        return QVariant(common::DepuisWindows1252(Lit(valeurs.Chemin(0))));
+    });
     Ajoute(QStringLiteral("lireOctets"), 1, 1, [](const Valeurs& valeurs) {
-        return QVariant(QString::fromLatin1(Lit(valeurs.Texte(0)).toHex()));
+        return QVariant(QString::fromLatin1(Lit(valeurs.Chemin(0)).toHex()));
     });
     Ajoute(QStringLiteral("existe"), 1, 1,
-           [](const Valeurs& valeurs) { return QVariant(QFileInfo::exists(valeurs.Texte(0))); });
+           [](const Valeurs& valeurs) { return QVariant(QFileInfo::exists(valeurs.Chemin(0))); });
     Ajoute(QStringLiteral("lister"), 1, 1,
-           [](const Valeurs& valeurs) { return QVariant(Textes(NomsDossier(valeurs.Texte(0)))); });
+           [](const Valeurs& valeurs) { return QVariant(Textes(NomsDossier(valeurs.Chemin(0)))); });
     Ajoute(QStringLiteral("creerDossier"), 1, 1, [](const Valeurs& valeurs) {
-        if (!QDir().mkpath(valeurs.Texte(0))) {
-            throw Echec{QStringLiteral("le dossier « %1 » ne peut pas être créé").arg(valeurs.Texte(0))};
+        if (!QDir().mkpath(valeurs.Chemin(0))) {
+            throw Echec{QStringLiteral("le dossier « %1 » ne peut pas être créé").arg(valeurs.Chemin(0))};
         }
         return QVariant();
     });
     Ajoute(QStringLiteral("copier"), 2, 2, [](const Valeurs& valeurs) {
-        Copie(valeurs.Texte(0), valeurs.Texte(1));
+        Copie(valeurs.Chemin(0), valeurs.Chemin(1));
         return QVariant();
     });
     Ajoute(QStringLiteral("effacer"), 1, 1, [this](const Valeurs& valeurs) {
-        if (!session_.Monde.Contient(valeurs.Texte(0))) {
-            throw Echec{QStringLiteral("« %1 » est hors du monde du scénario").arg(valeurs.Texte(0))};
+        if (!session_.Monde.Contient(valeurs.Chemin(0))) {
+            throw Echec{QStringLiteral("« %1 » est hors du monde du scénario").arg(valeurs.Chemin(0))};
         }
-        Efface(valeurs.Texte(0));
+        Efface(valeurs.Chemin(0));
         return QVariant();
     });
 }
@@ -113,14 +114,14 @@ QString Langage::CheminBase(const QString& nom)
 void Langage::AjouteTables()
 {
     Ajoute(QStringLiteral("table"), 2, 2, [this](const Valeurs& valeurs) {
-        return QVariant(LitTable(CheminBase(valeurs.Texte(0)), valeurs.Texte(1)));
+        return QVariant(LitTable(CheminBase(valeurs.Chemin(0)), valeurs.Texte(1)));
     });
     Ajoute(QStringLiteral("ajouter"), 3, 3, [this](const Valeurs& valeurs) {
-        AjouteRangee(CheminBase(valeurs.Texte(0)), valeurs.Texte(1), valeurs.Liste(2));
+        AjouteRangee(CheminBase(valeurs.Chemin(0)), valeurs.Texte(1), valeurs.Liste(2));
         return QVariant();
     });
     Ajoute(QStringLiteral("vider"), 2, 2, [this](const Valeurs& valeurs) {
-        VideTable(CheminBase(valeurs.Texte(0)), valeurs.Texte(1));
+        VideTable(CheminBase(valeurs.Chemin(0)), valeurs.Texte(1));
         return QVariant();
     });
 }

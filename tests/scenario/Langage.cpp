@@ -41,6 +41,11 @@ QString Valeurs::Texte(int i) const
     return Brute(i).toString();
 }
 
+QString Valeurs::Chemin(int i) const
+{
+    return Texte(i).replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
 int Valeurs::Entier(int i) const
 {
     if (!EstNombre(Brute(i))) {

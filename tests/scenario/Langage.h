@@ -24,6 +24,8 @@ public:
     QVariant Brute(int i) const { return valeurs_.value(i); }
     /// Each throws `Echec` when the value is of another kind.
     QString Texte(int i) const;
+    /// A path, whose separators may be written as backslashes too.
+    QString Chemin(int i) const;
     int Entier(int i) const;
     QVariantList Liste(int i) const;
     /// True and 1, false and 0.

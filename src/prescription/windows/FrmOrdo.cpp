@@ -53,7 +53,7 @@ void FrmOrdo::EcouteSignaux()
     connect(signaux, &application::Signaux::ReglagesChanges, this, &FrmOrdo::SuitReglages);
     connect(signaux, &application::Signaux::ApercuChange, this, &FrmOrdo::SuitApercu);
     connect(signaux, &application::Signaux::OrdonnanceChange, this, &FrmOrdo::SuitOrdonnance);
-    connect(CboMed_, &QComboBox::currentIndexChanged, this,
+    connect(CboMed_, &QComboBox::activated, this,
             [this](int rang) { ChangeMedecinDeLEditeur(contexte_, rang); });
     connect(ChkCiv_, &QCheckBox::clicked, this, [this](bool coche) {
         ImprimeCivilite(contexte_, coche);

@@ -38,7 +38,7 @@ void Deroule(QMenu* menu, const QPushButton* bouton)
 
 void FrmDepart::BrancheControles()
 {
-    connect(controles_.CboListeMed, &QComboBox::currentIndexChanged, this,
+    connect(controles_.CboListeMed, &QComboBox::activated, this,
             [this](int rang) { ChangeMedecin(contexte_, rang); });
     connect(controles_.CmdNO, &QPushButton::clicked, this, &FrmDepart::EditeOrdonnances);
     connect(controles_.CmdMedecins, &QPushButton::clicked, this,

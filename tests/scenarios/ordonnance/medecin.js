@@ -24,7 +24,7 @@ egal(valeur("CheminMedecin"), neibre, "l'autre médecin est courant");
 egal(feuille("FrmOrdo.PctOrdo"), [], "la feuille est vidée");
 egal(valeur("DateOrdo"), "01/02/2026", "le document reste en main");
 egal(selection("FrmDepart.CboListeMed"), 0, "la fenêtre d'accueil suit");
-egal(valeur("IndexMedecin"), 0, "l'index suit");
+egal(valeur("IndexMedecin"), 1, "l'index prend son numéro");
 vrai(visible("FrmOrdo.PctMenu2"), "sa barre est la seconde");
 faux(visible("FrmOrdo.PctMenu1"), "à la place de la première");
 vrai(feuille("FrmOrdo.PctRegle").length > 0, "sa règle est peinte");
@@ -37,3 +37,17 @@ egal(feuille("FrmOrdo.PctRegle"), [], "l'autre n'a pas de règle");
 vrai(visible("FrmOrdo.PctMenu1"), "et retrouve sa barre");
 faux(actif("FrmOrdo.mnuHauteurN"), "ses sauts sont normaux");
 faux(actif("FrmDepart.mnuJournal"), "et il ne tient pas de journal");
+
+// Le médecin déjà choisi, choisi de nouveau, reprend ses réglages des fichiers.
+const siens = valeur("CheminMedecin") + "\\Options.cfg";
+const lus = lire(siens).split(",");
+lus[12] = "1";
+ecrire(siens, lus.join(","));
+egal(feuille("FrmOrdo.PctRegle"), [], "le fichier seul ne change rien");
+choisir("FrmOrdo.CboMed", 1);
+vrai(feuille("FrmOrdo.PctRegle").length > 0, "sa règle est peinte");
+lus[12] = "0";
+ecrire(siens, lus.join(","));
+clic("FrmOrdo.CmdAccueil");
+choisir("FrmDepart.CboListeMed", 1);
+egal(feuille("FrmOrdo.PctRegle"), [], "de l'accueil aussi");
