@@ -12,6 +12,7 @@ void Langage::AjouteLecture(const QString& nom, int maximum,
 {
     Ajoute(nom, 1, maximum, [this, lecture](const Valeurs& valeurs) {
         const QString controle = valeurs.Texte(0);
+        Touche(controle.section(QLatin1Char('.'), 0, 0));
         AttendsExistence(controle);
         return relais_.Lit([&] { return lecture(Trouve(controle), valeurs); });
     });

@@ -206,6 +206,16 @@ void Langage::AttendsBoite()
     });
 }
 
+void Langage::Touche(const QString& fenetre)
+{
+    relais_.Lit([this, &fenetre] {
+        if (!TrouveFenetre(fenetre)) {
+            session_.EnCours().Touche(fenetre);
+        }
+        return QVariant();
+    });
+}
+
 void Langage::AttendsExistence(const QString& controle)
 {
     Attends([this, &controle] {

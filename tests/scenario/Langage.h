@@ -79,6 +79,7 @@ private:
     void Attends(const std::function<QString()>& manque);
     void AttendsBoite();
     void AttendsExistence(const QString& controle);
+    void Touche(const QString& fenetre);
     void AttendsAccessible(const QString& controle);
     QString CheminBase(const QString& nom);
     int LigneDe(const QString& pile) const;

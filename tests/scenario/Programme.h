@@ -24,6 +24,9 @@ public:
     virtual void ArreteSurErreur(const QString& phrase, const QString& lieu) = 0;
     /// A variable of its state; invalid for a name that it does not have.
     virtual QVariant Valeur(const QString& nom) = 0;
+    /// Loads one of the windows that the program keeps for the whole run, as its first touch does; nothing
+    /// for another name.
+    virtual void Touche(const QString&) {}
     /// Makes a printer the confirmed one, as after the first print of a run.
     virtual void ConfirmeImprimante(const QString& nom) = 0;
 

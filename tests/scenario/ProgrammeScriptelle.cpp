@@ -2,9 +2,12 @@
 
 #include "application/Valeurs.h"
 #include "application/windows/Style.h"
+#include "prescription/windows/FrmOrdo.h"
 #include "scenario/Controles.h"
 #include "settings/FichiersReglages.h"
 #include "startup/Installation.h"
+#include "startup/windows/FrmDepart.h"
+#include "startup/windows/FrmMedecins.h"
 
 namespace scenario {
 
@@ -33,6 +36,18 @@ QVariant ProgrammeScriptelle::Valeur(const QString& nom)
         return editeur && editeur->isActiveWindow() ? 1 : 0;
     }
     return application::Valeur(application_.Contexte(), nom);
+}
+
+void ProgrammeScriptelle::Touche(const QString& fenetre)
+{
+    application::Fenetres& fenetres = application_.Fenetres();
+    if (fenetre == QLatin1String("FrmDepart")) {
+        fenetres.Donne<startup::FrmDepart>();
+    } else if (fenetre == QLatin1String("FrmMedecins")) {
+        fenetres.Donne<startup::FrmMedecins>();
+    } else if (fenetre == QLatin1String("FrmOrdo")) {
+        fenetres.Donne<prescription::FrmOrdo>();
+    }
 }
 
 void ProgrammeScriptelle::ConfirmeImprimante(const QString& nom)

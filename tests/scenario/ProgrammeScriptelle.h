@@ -16,6 +16,7 @@ public:
     void Demarre() override;
     void ArreteSurErreur(const QString& phrase, const QString& lieu) override;
     QVariant Valeur(const QString& nom) override;
+    void Touche(const QString& fenetre) override;
     void ConfirmeImprimante(const QString& nom) override;
 
 private:
