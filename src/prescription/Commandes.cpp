@@ -46,6 +46,7 @@ bool CommenceOrdonnance(application::Contexte& contexte)
     if (!startup::ExigeMedecin(contexte)) {
         return false;
     }
+    startup::DitBaseDuMedecinAbsente(contexte);
     VideDocument(contexte);
     return true;
 }
@@ -82,6 +83,7 @@ void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang)
         return;
     }
     startup::ChangeMedecin(contexte, rang);
+    startup::DitBaseDuMedecinAbsente(contexte);
     contexte.Medecins.IndexMedecin = static_cast<qint16>(contexte.Medecins.Liste[rang].Numero);
     if (contexte.Apercu.ModeApercu != 0) {
         contexte.Apercu.ModeApercu = 1;

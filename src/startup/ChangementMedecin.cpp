@@ -24,7 +24,7 @@ namespace {
 
 void CreeLogo(const QString& cheminMedecin)
 {
-    // A doctor without a directory in this tree is told of when his database is opened.
+    // A doctor without a directory in this tree is told of when he prescribes.
     if (common::DossierExiste(cheminMedecin)) {
         common::Tolere([&] { common::CreeDossier(common::Joint(cheminMedecin, QStringLiteral("Logo"))); });
     }
@@ -44,6 +44,9 @@ void ChargeBanque(drugbank::Banque& banque, const QString& cheminMedecin)
 void ChargeLookOuDitPourquoi(Contexte& contexte)
 {
     contexte.Reglages.Look = {};
+    if (!storage::Bases::OrdoExiste(contexte.Chemins.CheminMedecin)) {
+        return; // a tree in preparation: told of when he prescribes
+    }
     outside::Tente(contexte.Dehors.Boites, [&] {
         settings::ChargeLook(contexte.Reglages.Look, contexte.Bases.Ordo(contexte.Chemins.CheminMedecin));
     });
@@ -110,6 +113,14 @@ void ChangeMedecin(Contexte& contexte, int rang)
     ChargeLookOuDitPourquoi(contexte);
     Annonce(contexte.Signaux);
     SignaleLogo(contexte);
+}
+
+void DitBaseDuMedecinAbsente(Contexte& contexte)
+{
+    const QString& chemin = contexte.Chemins.CheminMedecin;
+    if (!chemin.isEmpty() && !storage::Bases::OrdoExiste(chemin)) {
+        outside::Tente(contexte.Dehors.Boites, [&] { contexte.Bases.Ordo(chemin); });
+    }
 }
 
 bool ExigeMedecin(Contexte& contexte)

@@ -17,8 +17,12 @@ int RangMedecin(const Medecins& medecins, int numero);
 
 /// Makes the doctor of that row of the list the current one, with his settings and database. Every
 /// change of doctor of the program comes here. A row outside the list changes nothing. A database
-/// that cannot be read is told in a box.
+/// that cannot be read is told in a box; one that is absent is not, since a tree may be in preparation.
 void ChangeMedecin(application::Contexte& contexte, int rang);
+
+/// Says that the current doctor has no database in this tree; nothing when he has one. For the moments
+/// where he begins to prescribe: his sheets would have no letterhead.
+void DitBaseDuMedecinAbsente(application::Contexte& contexte);
 
 /// True with a current doctor; otherwise shows "Choisissez d'abord un médecin utilisateur.".
 bool ExigeMedecin(application::Contexte& contexte);

@@ -6,12 +6,32 @@ namespace storage {
 
 Base& Bases::Medoc(const QString& cheminTravail)
 {
-    return Ouverte(medoc_, common::Joint(cheminTravail, QStringLiteral("Medoc.mdb")), GenreBase::Medoc);
+    return Ouverte(medoc_, FichierMedoc(cheminTravail), GenreBase::Medoc);
 }
 
 Base& Bases::Ordo(const QString& cheminMedecin)
 {
-    return Ouverte(ordo_, common::Joint(cheminMedecin, QStringLiteral("Ordo.mdb")), GenreBase::Ordo);
+    return Ouverte(ordo_, FichierOrdo(cheminMedecin), GenreBase::Ordo);
+}
+
+bool Bases::MedocExiste(const QString& cheminTravail)
+{
+    return common::FichierExiste(FichierMedoc(cheminTravail));
+}
+
+bool Bases::OrdoExiste(const QString& cheminMedecin)
+{
+    return common::FichierExiste(FichierOrdo(cheminMedecin));
+}
+
+QString Bases::FichierMedoc(const QString& cheminTravail)
+{
+    return common::Joint(cheminTravail, QStringLiteral("Medoc.mdb"));
+}
+
+QString Bases::FichierOrdo(const QString& cheminMedecin)
+{
+    return common::Joint(cheminMedecin, QStringLiteral("Ordo.mdb"));
 }
 
 Base& Bases::Ouverte(std::unique_ptr<Base>& base, const QString& chemin, GenreBase genre)

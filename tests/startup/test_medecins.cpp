@@ -193,8 +193,10 @@ void TestMedecins::changeSansRepertoire()
     MondeMedecins monde({kA, kB});
     common::SupprimeDossier(monde.Medecin(kB));
     monde.Etat.Reglages.Look.NomSignature = QStringLiteral("Docteur A");
-    monde.Boites.AttendContenant(outside::Genre::Stop, QStringLiteral("Ordo.mdb"));
     ChangeMedecin(monde.Contexte, 1);
+    monde.Boites.AttendContenant(outside::Genre::Stop, QStringLiteral("Ordo.mdb"));
+    DitBaseDuMedecinAbsente(monde.Contexte);
+    QVERIFY(monde.Boites.Epuise());
     QVERIFY(!common::DossierExiste(monde.Medecin(kB)));
     QCOMPARE(monde.Etat.Reglages.Look.NomSignature, QString());
     QCOMPARE(int(monde.Etat.Medecins.NumMedecin), 2);

@@ -27,7 +27,9 @@ FrmPatient::FrmPatient(application::Contexte& contexte, application::Fenetres& f
     setWindowTitle(QStringLiteral("               Liste des Patients"));
     Dispose();
     Branche();
-    Charge();
+    if (storage::Bases::MedocExiste(contexte_.Chemins.CheminTravail)) {
+        Charge(); // an absent database is told of when the window opens
+    }
 }
 
 void FrmPatient::Branche()

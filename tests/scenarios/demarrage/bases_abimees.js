@@ -31,8 +31,14 @@ for (const fichier of [data + "/Medoc.mdb", medecin + "/Ordo.mdb"]) {
         egal(lire(fichier), contenu, "rien n'est écrit par-dessus");
     }
     effacer(fichier);
-    demarre("« " + nom + " »", "n'existe pas.");
-    clic("FrmDepart.CmdQuitter");
+    lancer();
+    clic("FrmChoixBase.CmdSuite");
+    aucuneBoite();
+    clic("FrmDepart.CmdNO");
+    clic("FrmOrdo.CmdNouvelle");
+    boites([["La base de données « " + nom + " » n'existe pas.\n" + fichier, "OK"]]);
+    clic("FrmPatient.CmdAnnule");
+    fermer("FrmOrdo");
     faux(existe(fichier), "aucune base vide n'est créée");
     copier(utilisateur + (nom === "Medoc.mdb" ? "/Ordo.bon" : "/Medoc.bon"), fichier);
     demarre("« " + nom + " »", "contient une autre base de Scriptelle");
