@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(liste->currentText(), QStringLiteral("DR ANDRE PAUL"));
         QCOMPARE(medecins.MedecinIni(), QStringLiteral(" 2 \r\nDR NEIBRE-1\r\nDR ANDRE PAUL-2\r\n"));
         support::Capture(medecins.Fenetre, QStringLiteral("FrmMedecins"));
-        liste->setCurrentIndex(0);
+        QTest::keyClick(liste, Qt::Key_Up);
         QCOMPARE(medecins.LblMed(), QStringLiteral("DR NEIBRE"));
         QCOMPARE(medecins.LstMed->currentRow(), 0);
     }
