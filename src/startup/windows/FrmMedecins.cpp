@@ -100,10 +100,19 @@ QLayout* FrmMedecins::ColonneDesBoutons()
 
 void FrmMedecins::Branche()
 {
-    connect(LstMed_, &QListWidget::currentRowChanged, this,
-            [this](int rang) { ChangeMedecin(contexte_, rang); });
+    connect(LstMed_, &QListWidget::itemSelectionChanged, this, &FrmMedecins::ChoixChange);
     connect(LstMed_, &QListWidget::itemDoubleClicked, this, &FrmMedecins::Quitte);
     connect(&contexte_.Signaux, &application::Signaux::MedecinsChanges, this, &FrmMedecins::MontreMedecins);
+}
+
+void FrmMedecins::ChoixChange()
+{
+    const QModelIndexList choisis = LstMed_->selectionModel()->selectedRows();
+    if (choisis.isEmpty()) {
+        MontreMedecins(); // no gesture takes the doctor away
+        return;
+    }
+    ChangeMedecin(contexte_, choisis.front().row());
 }
 
 void FrmMedecins::MontreMedecins()

@@ -31,6 +31,7 @@ private:
     QLayout* ColonneDesBoutons();
     void Branche();
     void MontreMedecins();
+    void ChoixChange();
     void RemplitListe();
     void Quitte();
     void MontreAide();

@@ -42,6 +42,8 @@ egal(valeur("NumMedecinDefaut"), 1, "le défaut revient au premier");
 egal(texte("FrmMedecins.LblMed"), "", "plus de médecin en cours");
 egal(selection("FrmMedecins.LstMed"), -1, "plus de sélection");
 egal(valeur("CheminMedecin"), "", "plus de répertoire");
+focus("FrmMedecins.LstMed");
+egal(valeur("CheminMedecin"), "", "le foyer ne choisit personne");
 clic("FrmMedecins.CmdSupprime");
 boites([["Sélectionnez un médecin dans la liste !", "OK"]]);
 clic("FrmMedecins.CmdDefaut");
