@@ -46,4 +46,10 @@ QList<LigneEntete> LitEntete(storage::Base& ordo)
     return lignes;
 }
 
+const LigneEntete* LigneBasDePage(const QList<LigneEntete>& lignes)
+{
+    const auto ligne = std::ranges::find(lignes.rbegin(), lignes.rend(), kBasDePage, &LigneEntete::NumLigne);
+    return ligne == lignes.rend() ? nullptr : &*ligne;
+}
+
 } // namespace page

@@ -20,6 +20,8 @@ enum ColonneEntete {
     kNbColonnesEntete
 };
 
+constexpr int kBasDePage = 22; ///< number of the row printed at the foot of the page
+
 /// One row of the table `Entete`.
 struct LigneEntete
 {
@@ -36,5 +38,8 @@ struct LigneEntete
 
 /// The rows of `Entete` in the order of `NumLigne`. Throws `Erreur`.
 QList<LigneEntete> LitEntete(storage::Base& ordo);
+
+/// The row of the foot of the page, the last one when a table holds it twice; null without one.
+const LigneEntete* LigneBasDePage(const QList<LigneEntete>& lignes);
 
 } // namespace page

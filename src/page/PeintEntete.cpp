@@ -9,7 +9,6 @@ namespace {
 
 constexpr int kDerniereAdresse = 9;
 constexpr int kPremierPraticien = 10;
-constexpr int kBasDePage = 22;
 
 constexpr double kHautDuDepart = 1500 / kTwipsParMillimetre; // millimetres
 constexpr double kGaucheDuDepart = 400;                      // twips

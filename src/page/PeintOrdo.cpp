@@ -70,14 +70,14 @@ void PeintBasDePage(Surface& cible, const Modele& modele)
     }
     cible.Print();
     cible.ForeColor(modele.Reglages.Look.CouleurEntete);
-    if (modele.Entete.size() < 2) {
+    const LigneEntete* ligne = LigneBasDePage(modele.Entete);
+    if (!ligne) {
         return;
     }
-    const LigneEntete& ligne = modele.Entete[modele.Entete.size() - 2];
-    cible.Font(ligne.PoliceApres(cible.Font()));
+    cible.Font(ligne->PoliceApres(cible.Font()));
     cible.CurrentX(0);
     cible.CurrentY(HauteurPage(modele.Reglages.Options) - modele.Reglages.Marges.MargeBasEntete);
-    cible.Print(ligne.Texte);
+    cible.Print(ligne->Texte);
 }
 
 // The titles of a certificate's sheet are those of the former painting, wrapped once more: no journal

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void sansNombre();
     void leNumeroPeutPasserLeNombre();
     void leBasDePage();
+    void leDernierRangDuBasDePage();
     void leBasDePageEnA5();
     void sansDossierDeTravailPasDeBasDePage();
     void unEnteteTropCourtNArretePasLaPeinture();
@@ -141,6 +142,16 @@ void TestPied::leBasDePage()
         QCOMPARE(bas.Encre, page::Rvb(10, 20, 30));
         QCOMPARE(Trouve(dessin, u"Règlement"_s).X, 20.0);
     }
+}
+
+void TestPied::leDernierRangDuBasDePage()
+{
+    PageDeTest page;
+    page.Entete = {{.NumLigne = 22, .Texte = u"ancien"_s, .Police = {}},
+                   {.NumLigne = 22, .Texte = u"nouveau"_s, .Police = {}},
+                   {.NumLigne = 23, .Texte = u"signature"_s, .Police = {}},
+                   {.NumLigne = 23, .Texte = u"signature"_s, .Police = {}}};
+    QCOMPARE(Mots(page.PeintCorps()), QStringList{u"nouveau"_s});
 }
 
 void TestPied::leBasDePageEnA5()
