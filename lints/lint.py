@@ -13,12 +13,19 @@ FILE_LINES = 400
 FUNCTION_LINES = 60
 
 
+def names():
+    """The repository's files, new ones included; without git, every file outside a build directory."""
+    command = ["git", "ls-files", "-co", "--exclude-standard", "-z"]
+    try:
+        return subprocess.run(command, cwd=ROOT, capture_output=True, check=True).stdout.decode().split("\0")
+    except (OSError, subprocess.CalledProcessError):
+        every = (path.relative_to(ROOT) for path in ROOT.rglob("*"))
+        return [str(path) for path in every if not path.parts[0].startswith(("build", ".git"))]
+
+
 def tracked(*suffixes):
-    """The repository's files with one of these suffixes, new ones included."""
-    out = subprocess.run(
-        ["git", "ls-files", "-co", "--exclude-standard", "-z"], cwd=ROOT, capture_output=True, check=True
-    ).stdout.decode()
-    for name in filter(None, out.split("\0")):
+    """Those of the repository's files that have one of these suffixes."""
+    for name in filter(None, names()):
         path = ROOT / name
         if path.is_file() and (not suffixes or path.suffix in suffixes):
             yield path
