@@ -27,8 +27,9 @@ void ChargeEntete(Look& look, storage::Base& ordo)
             look.NomSignature = jeu.Texte(1).trimmed();
         }
     }
-    const auto couleur = ordo.Table(QStringLiteral("CouleurPET"));
-    look.CouleurEntete = couleur.Fin() ? page::kNoir : couleur.Champ(0).toUInt();
+    for (auto jeu = ordo.Table(QStringLiteral("CouleurPET")); !jeu.Fin(); jeu.MoveNext()) {
+        look.CouleurEntete = jeu.Champ(0).toUInt();
+    }
 }
 
 void ChargeMisenpage(Look& look, storage::Base& ordo)
@@ -48,8 +49,8 @@ void ChargeLook(Look& look, storage::Base& ordo)
     Look lu;
     ChargeEntete(lu, ordo);
     ChargeMisenpage(lu, ordo);
-    if (const auto certificat = ordo.Table(QStringLiteral("Certificat")); !certificat.Fin()) {
-        LitPolice(certificat, 0, lu.Certif);
+    for (auto jeu = ordo.Table(QStringLiteral("Certificat")); !jeu.Fin(); jeu.MoveNext()) {
+        LitPolice(jeu, 0, lu.Certif);
     }
     look = lu;
 }

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
+#include <algorithm>
 
 namespace scenario {
 
@@ -143,14 +144,16 @@ void Langage::Conclut()
 QJSValue Langage::appel(const QString& nom, const QString& pile, const QJSValue& valeurs)
 {
     rapport_.Position(LigneDe(pile));
+    const Definition definition = appels_.value(nom);
+    // As every function of the script's language, a call passes over what it does not take: map(texte).
+    const int compte = std::min(valeurs.property(QStringLiteral("length")).toInt(), definition.Maximum);
     QVariantList liste;
-    for (int i = 0; i < valeurs.property(QStringLiteral("length")).toInt(); ++i) {
+    for (int i = 0; i < compte; ++i) {
         const QJSValue valeur = valeurs.property(static_cast<quint32>(i));
         liste.append(valeur.isNull() ? Nul() : valeur.toVariant());
     }
-    const Definition definition = appels_.value(nom);
     try {
-        if (liste.size() < definition.Minimum || liste.size() > definition.Maximum) {
+        if (liste.size() < definition.Minimum) {
             throw Echec{QStringLiteral("%1 prend %2 à %3 valeurs, pas %4")
                             .arg(nom)
                             .arg(definition.Minimum)

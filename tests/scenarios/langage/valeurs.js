@@ -13,3 +13,4 @@ egal([[1, 2].at(-1), "abc".at(0)], [2, "a"], "at");
 egal("a-b-c".replaceAll("-", "+"), "a+b+c", "replaceAll");
 egal(" a ".trimStart() + " b ".trimEnd(), "a  b", "trimStart et trimEnd");
 egal(Object.fromEntries([["a", 1]]), {a: 1}, "fromEntries");
+egal([programme, programme + "/absent"].map(existe), [true, false], "un appel passe ce qu'il ne prend pas");

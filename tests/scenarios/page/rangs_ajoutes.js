@@ -12,3 +12,12 @@ egal(textes, ["Docteur NEIBRE", "Tel", "Fax", "Médecine générale", "Sur rende
 clic("FrmOrdo.CmdDate");
 repondre("0");
 egal(feuille("FrmOrdo.PctOrdo").map(item => item.texte), ["Sur rendez-vous"], "le pied à l'aperçu aussi");
+
+// The look as well: the later row counts.
+ajouter("Ordo", "CouleurPET", [255]);
+ajouter("Ordo", "Misenpage", [0, "Arial", 20, 0, 0, 0]);
+ajouter("Ordo", "Certificat", ["Arial", 15, 0, 0, 0]);
+choisir("FrmOrdo.CboMed", 0);
+egal(["CouleurEntete", "TailleTitre"].map(valeur), [255, 20], "le dernier rang ajouté compte");
+clic("FrmOrdo.CmdImprime");
+egal(travaux()[1].pages[0].map(item => item.couleur), [255, 255, 255, 255, 255], "sur le papier");
