@@ -6,6 +6,7 @@
 #include "startup/Medecins.h"
 #include "startup/messagesDepart.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
@@ -101,18 +102,43 @@ QLayout* FrmMedecins::ColonneDesBoutons()
 void FrmMedecins::Branche()
 {
     connect(LstMed_, &QListWidget::itemSelectionChanged, this, &FrmMedecins::ChoixChange);
+    LstMed_->viewport()->installEventFilter(this);
+    connect(LstMed_, &QListWidget::itemClicked, this,
+            [this](const QListWidgetItem* ligne) { ReprendChoix(LstMed_->row(ligne)); });
     connect(LstMed_, &QListWidget::itemDoubleClicked, this, &FrmMedecins::Quitte);
     connect(&contexte_.Signaux, &application::Signaux::MedecinsChanges, this, &FrmMedecins::MontreMedecins);
 }
 
-void FrmMedecins::ChoixChange()
+bool FrmMedecins::eventFilter(QObject* objet, QEvent* evenement)
+{
+    if (objet == LstMed_->viewport() && evenement->type() == QEvent::MouseButtonPress) {
+        rangAvant_ = Rang();
+    }
+    return QDialog::eventFilter(objet, evenement);
+}
+
+int FrmMedecins::Rang() const
 {
     const QModelIndexList choisis = LstMed_->selectionModel()->selectedRows();
-    if (choisis.isEmpty()) {
+    return choisis.isEmpty() ? -1 : choisis.front().row();
+}
+
+void FrmMedecins::ChoixChange()
+{
+    const int rang = Rang();
+    if (rang < 0) {
         MontreMedecins(); // no gesture takes the doctor away
         return;
     }
-    ChangeMedecin(contexte_, choisis.front().row());
+    ChangeMedecin(contexte_, rang);
+}
+
+/// A click on the doctor who is chosen already reads his files again.
+void FrmMedecins::ReprendChoix(int rang)
+{
+    if (rang == rangAvant_) {
+        ChangeMedecin(contexte_, rang);
+    }
 }
 
 void FrmMedecins::MontreMedecins()

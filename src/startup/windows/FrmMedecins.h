@@ -21,6 +21,8 @@ public:
     FrmMedecins(application::Contexte& contexte, application::Fenetres& fenetres);
 
     const page::Dessin& DessinMontre() const override { return fond_.Dessin(); }
+    /// Remembers the row that was chosen before a press in the list.
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
 
 protected:
     void paintEvent(QPaintEvent* evenement) override;
@@ -32,6 +34,8 @@ private:
     void Branche();
     void MontreMedecins();
     void ChoixChange();
+    void ReprendChoix(int rang);
+    int Rang() const;
     void RemplitListe();
     void Quitte();
     void MontreAide();
@@ -39,6 +43,7 @@ private:
     application::Contexte& contexte_;
     FondPeint fond_;
     QList<Medecin> liste_; // as shown
+    int rangAvant_ = -1;
     QListWidget* LstMed_ = nullptr;
     QLabel* LblMed_ = nullptr;
 };

@@ -25,6 +25,13 @@ egal([valeur("MargeGaucheEntete"), valeur("MargeHauteEntete"), valeur("MargeGauc
 choisir("FrmDepart.CboListeMed", 1);
 egal(valeur("MargeGaucheEntete"), 12.5, "sans fichier, les marges d'avant restent");
 faux(existe(data + "/DR O'NEIL 100% D'ÉTÉ/Marges.cfg"), "rien n'est écrit");
+clic("FrmDepart.CmdMedecins");
+ecrire(data + "/DR O'NEIL 100% D'ÉTÉ/Marges.cfg", "14");
+choisir("FrmMedecins.LstMed", 1);
+egal(valeur("MargeGaucheEntete"), 14, "choisi de nouveau, il reprend ses fichiers");
+effacer(data + "/DR O'NEIL 100% D'ÉTÉ/Marges.cfg");
+doubleClic("FrmMedecins.LstMed", 1);
+faux(ouverte("FrmMedecins"), "le double clic quitte");
 clic("FrmDepart.CmdQuitter");
 
 // A directory that was left behind keeps what its doctor had.
