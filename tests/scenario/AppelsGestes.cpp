@@ -16,11 +16,14 @@ using Changement = void (QWidget::*)();
 } // namespace
 
 void Langage::AjouteGeste(const QString& nom, int minimum, int maximum,
-                          std::function<void(const Controle&, const Valeurs&)> geste)
+                          std::function<void(const Controle&, const Valeurs&)> geste, SurGris surGris)
 {
-    Ajoute(nom, minimum, maximum, [this, geste](const Valeurs& valeurs) {
+    Ajoute(nom, minimum, maximum, [this, geste, surGris](const Valeurs& valeurs) {
         const QString controle = valeurs.Texte(0);
-        AttendsAccessible(controle);
+        AttendsAccessible(controle, surGris);
+        if (relais_.Lit([&controle] { return !ObstacleGris(controle).isEmpty(); }).toBool()) {
+            return QVariant();
+        }
         const auto active = relais_.Lit([&controle] {
             return QApplication::activePopupWidget() || Trouve(controle).Fenetre->isActiveWindow();
         });
@@ -35,9 +38,12 @@ void Langage::AjouteGeste(const QString& nom, int minimum, int maximum,
 void Langage::AjouteGestes()
 {
     const auto ajouteClic = [this](const QString& nom, Geste geste) {
-        AjouteGeste(nom, 1, 2, [geste](const Controle& controle, const Valeurs& valeurs) {
-            Clique(controle, geste, valeurs.Brute(1));
-        });
+        AjouteGeste(
+            nom, 1, 2,
+            [geste](const Controle& controle, const Valeurs& valeurs) {
+                Clique(controle, geste, valeurs.Brute(1));
+            },
+            SurGris::Ignore);
     };
     ajouteClic(QStringLiteral("clic"), Geste::Clic);
     ajouteClic(QStringLiteral("doubleClic"), Geste::DoubleClic);

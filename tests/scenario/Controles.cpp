@@ -49,14 +49,14 @@ QAction* TrouveEntree(QWidget* fenetre, const QString& nom)
     return nullptr;
 }
 
-QString ObstacleEntree(const QAction& entree)
+bool EntreeActive(const QAction& entree)
 {
     for (QObject* porteur : entree.associatedObjects()) {
         if (auto* menu = qobject_cast<QMenu*>(porteur); menu && !menu->isVisible()) {
             Q_EMIT menu->aboutToShow();
         }
     }
-    return entree.isEnabled() ? QString() : QStringLiteral("l'entrée est grisée");
+    return entree.isEnabled();
 }
 
 } // namespace
@@ -106,11 +106,17 @@ QString Obstacle(const QString& nom)
     if (bloquante && !QApplication::activePopupWidget()) {
         return QStringLiteral("fenêtre bloquée par %1").arg(bloquante->objectName());
     }
-    if (controle.Entree) {
-        return ObstacleEntree(*controle.Entree);
-    }
-    if (!controle.Widget->isVisible()) {
+    if (controle.Widget && !controle.Widget->isVisible()) {
         return QStringLiteral("le contrôle n'est pas visible");
+    }
+    return {};
+}
+
+QString ObstacleGris(const QString& nom)
+{
+    const Controle controle = Trouve(nom);
+    if (controle.Entree) {
+        return EntreeActive(*controle.Entree) ? QString() : QStringLiteral("l'entrée est grisée");
     }
     return controle.Widget->isEnabled() ? QString() : QStringLiteral("le contrôle est grisé");
 }

@@ -25,8 +25,11 @@ Controle Trouve(const QString& nom);
 /// The modal window or box that keeps this window from the mouse and the keys; null when it is free.
 QWidget* FenetreBloquante(const QWidget* fenetre);
 
-/// Why a doctor could not act on the control now, empty when he could. Throws as `Trouve`.
+/// Why a doctor's mouse could not reach the control now, empty when it could. Throws as `Trouve`.
 QString Obstacle(const QString& nom);
+
+/// That the control is greyed, empty when it is not. Throws as `Trouve`.
+QString ObstacleGris(const QString& nom);
 
 /// The list, table or tree of the control; null when it is none.
 QAbstractItemView* Vue(QWidget* widget);

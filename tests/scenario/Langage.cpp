@@ -232,9 +232,9 @@ void Langage::AttendsExistence(const QString& controle)
     });
 }
 
-void Langage::AttendsAccessible(const QString& controle)
+void Langage::AttendsAccessible(const QString& controle, SurGris surGris)
 {
-    Attends([this, &controle] {
+    Attends([this, &controle, surGris] {
         session_.EnCours();
         if (session_.Boites.Ouverte()) {
             throw Echec{
@@ -242,7 +242,10 @@ void Langage::AttendsAccessible(const QString& controle)
                     .arg(controle, session_.Boites.Description()[QStringLiteral("texte")].toString())};
         }
         try {
-            const QString obstacle = Obstacle(controle);
+            QString obstacle = Obstacle(controle);
+            if (obstacle.isEmpty() && surGris == SurGris::Echoue) {
+                obstacle = ObstacleGris(controle);
+            }
             return obstacle.isEmpty() ? QString() : QStringLiteral("%1 : %2").arg(controle, obstacle);
         } catch (const Echec& echec) {
             return echec.Phrase;

@@ -69,9 +69,13 @@ private:
     void AjouteEtats();
     void AjouteAVenir();
 
+    /// What an action does on a greyed control: a click does nothing there, as for a doctor.
+    enum class SurGris { Echoue, Ignore };
+
     /// Registers an action on the control that the first value names.
     void AjouteGeste(const QString& nom, int minimum, int maximum,
-                     std::function<void(const Controle&, const Valeurs&)> geste);
+                     std::function<void(const Controle&, const Valeurs&)> geste,
+                     SurGris surGris = SurGris::Echoue);
     /// Registers a reading of the control that the first value names.
     void AjouteLecture(const QString& nom, int maximum,
                        std::function<QVariant(const Controle&, const Valeurs&)> lecture);
@@ -80,7 +84,7 @@ private:
     void AttendsBoite();
     void AttendsExistence(const QString& controle);
     void Touche(const QString& fenetre);
-    void AttendsAccessible(const QString& controle);
+    void AttendsAccessible(const QString& controle, SurGris surGris);
     QString CheminBase(const QString& nom);
     int LigneDe(const QString& pile) const;
     void Prepare(QJSEngine& moteur);
