@@ -1,5 +1,6 @@
 #include "medication/Commandes.h"
 
+#include "application/messages.h"
 #include "medication/messages.h"
 #include "outside/Boites.h"
 #include "patients/Patient.h"
@@ -109,7 +110,8 @@ void OuvreMemorisees(application::Contexte& contexte)
             .Selection(QStringLiteral("ListeOrdos"),
                        QStringLiteral("NomPatient = ? and Datenais = ? or NomPatient = '*'"),
                        {patient.PatientCourant, patient.DateNaissance});
-    contexte.Dehors.Boites.Information(modeles.Fin() ? messages::AucunModele() : messages::PlusTard());
+    contexte.Dehors.Boites.Information(modeles.Fin() ? messages::AucunModele()
+                                                     : application::messages::PasEncoreDisponible());
 }
 
 std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noeud* noeud, int rang)

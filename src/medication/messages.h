@@ -45,11 +45,6 @@ inline QString AucunModele()
     return QStringLiteral("Aucun modèle d'ordonnance n'est enregistré.");
 }
 
-inline QString PlusTard()
-{
-    return QStringLiteral("Disponible dans une prochaine version");
-}
-
 inline QString Aide()
 {
     return QStringLiteral(

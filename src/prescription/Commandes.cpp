@@ -1,6 +1,7 @@
 #include "prescription/Commandes.h"
 
 #include "application/Signaux.h"
+#include "application/messages.h"
 #include "common/Dates.h"
 #include "outside/Boites.h"
 #include "outside/Horloge.h"
@@ -73,7 +74,7 @@ void RevientAuxMedicaments(application::Contexte& contexte)
 void DemandeCertificat(application::Contexte& contexte)
 {
     if (!contexte.Chemins.CheminMedecin.isEmpty()) {
-        contexte.Dehors.Boites.Information(messages::CertificatsAVenir());
+        contexte.Dehors.Boites.Information(application::messages::PasEncoreDisponible());
     }
 }
 

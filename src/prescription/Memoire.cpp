@@ -1,5 +1,6 @@
 #include "prescription/Memoire.h"
 
+#include "application/messages.h"
 #include "outside/Boites.h"
 #include "prescription/Apercu.h"
 #include "prescription/Ordonnance.h"
@@ -20,7 +21,7 @@ void MemoriseOrdonnance(application::Contexte& contexte)
     } else if (ordonnance.LstChoix1.Vide() && ordonnance.LstChoix2.Vide()) {
         boites.Stop(messages::RienAMemoriser());
     } else {
-        boites.Information(messages::MemoireAVenir());
+        boites.Information(application::messages::PasEncoreDisponible());
     }
 }
 
@@ -35,7 +36,7 @@ void SupprimeOrdonnanceMemorisee(application::Contexte& contexte)
     } else if (contexte.Ordonnance.OrdoMemorisee == 0) {
         boites.Information(messages::PasUneMemorisee());
     } else {
-        boites.Information(messages::MemoireAVenir());
+        boites.Information(application::messages::PasEncoreDisponible());
     }
 }
 

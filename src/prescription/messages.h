@@ -15,17 +15,6 @@ inline QString FormatDate()
     return QStringLiteral("Indiquez la date de l'ordonnance\nau format jj/mm/aaaa (ex.: 07/01/2010) !");
 }
 
-inline QString CertificatsAVenir()
-{
-    return QStringLiteral("Les certificats ne sont pas encore disponibles dans cette version.");
-}
-
-inline QString MemoireAVenir()
-{
-    return QStringLiteral("La mémorisation des ordonnances n'est pas encore disponible dans cette version.\n"
-                          "Votre ordonnance reste à l'écran.");
-}
-
 inline QString CertificatNonMemorise()
 {
     return QStringLiteral("On ne peut pas enregistrer un certificat \ndans cette fenêtre.");

@@ -25,11 +25,6 @@ inline QString JournalVide()
     return QStringLiteral("Aucune ordonnance n'est encore inscrite dans le journal.");
 }
 
-inline QString ProchaineVersion()
-{
-    return QStringLiteral("Disponible dans une prochaine version");
-}
-
 inline QString AideDesMedecins()
 {
     return QStringLiteral(

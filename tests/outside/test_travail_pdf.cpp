@@ -63,6 +63,9 @@ void TestTravailPdf::TheFileIsNamed_data()
     QTest::newRow("no name") << QString() << QStringLiteral("2026-11-20 14-05.pdf");
     QTest::newRow("accents") << QStringLiteral("GÉRÔME Zoé")
                              << QStringLiteral("2026-11-20 14-05 GÉRÔME Zoé.pdf");
+    QTest::newRow("longer than a file name")
+        << QString(300, QChar(u'É'))
+        << QStringLiteral("2026-11-20 14-05 %1.pdf").arg(QString(80, QChar(u'É')));
 }
 
 void TestTravailPdf::TheFileIsNamed()

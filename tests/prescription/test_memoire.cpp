@@ -1,3 +1,4 @@
+#include "application/messages.h"
 #include "prescription/Commandes.h"
 #include "prescription/Memoire.h"
 #include "prescription/messages.h"
@@ -64,8 +65,8 @@ void TestMemoire::WhatIsToComeIsSaid()
 {
     Cabinet cabinet;
     cabinet.Prescrit(u"DOLIPRANE"_s);
-    cabinet.Boites.AttendInformation(messages::MemoireAVenir())
-        .AttendInformation(messages::CertificatsAVenir());
+    cabinet.Boites.AttendInformation(application::messages::PasEncoreDisponible())
+        .AttendInformation(application::messages::PasEncoreDisponible());
     MemoriseOrdonnance(cabinet.Contexte);
     DemandeCertificat(cabinet.Contexte);
     QVERIFY(cabinet.Boites.Epuise());

@@ -107,6 +107,10 @@ void Dimensionne(QWidget* fenetre, int largeur, int hauteur);
 /// The order in which Tab walks through the controls.
 void OrdreTab(std::initializer_list<QWidget*> controles);
 
+/// A key that brings the focus to a control without a letter of its own, while the control is shown; its
+/// tool tip names the key after its accessible name.
+void RaccourciVers(QWidget* controle, const QString& touche);
+
 /// Accessible name and tool tip in one call; `touche` ("F5") is shown in the tip.
 void Nomme(QWidget* controle, const QString& nom, const QString& touche = {});
 

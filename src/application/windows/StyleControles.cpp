@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QScreen>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -198,6 +199,13 @@ void OrdreTab(std::initializer_list<QWidget*> controles)
         }
         precedent = controle;
     }
+}
+
+void RaccourciVers(QWidget* controle, const QString& touche)
+{
+    QObject::connect(new QShortcut(QKeySequence(touche), controle), &QShortcut::activated, controle,
+                     [controle] { controle->setFocus(Qt::ShortcutFocusReason); });
+    Nomme(controle, controle->accessibleName(), touche);
 }
 
 void Nomme(QWidget* controle, const QString& nom, const QString& touche)

@@ -1,5 +1,6 @@
 #include "medication/windows/ControlesMedoc.h"
 
+#include "application/messages.h"
 #include "application/windows/Style.h"
 #include "medication/messages.h"
 #include "medication/windows/CaseEtiquetee.h"
@@ -28,7 +29,7 @@ constexpr int kLargeurOrdonnance = 5;
 QPushButton* PlusTard(QPushButton* bouton)
 {
     bouton->setEnabled(false);
-    bouton->setToolTip(messages::PlusTard());
+    bouton->setToolTip(application::messages::PasEncoreDisponible());
     return bouton;
 }
 
@@ -94,7 +95,7 @@ QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
 
 void BoutonsMedicament(ControlesMedoc& c, QWidget* parent)
 {
-    c.LblPoso = PlusTard(style::Bouton(QStringLiteral("LblPoso"), QStringLiteral("Ajouter une Posologie"),
+    c.LblPoso = PlusTard(style::Bouton(QStringLiteral("LblPoso"), QStringLiteral("A&jouter une Posologie"),
                                        QStringLiteral("pencil"), parent));
     style::SouligneSousLaSouris(c.LblPoso);
     c.CmdModifier = style::Bouton(QStringLiteral("CmdModifier"), QStringLiteral("Modi&fier données Med"),
@@ -118,6 +119,7 @@ QWidget* CarteMedicament(ControlesMedoc& c, QDialog* f)
     c.TxtPoso->setObjectName(QStringLiteral("TxtPoso"));
     c.TxtPoso->setAccessibleName(QStringLiteral("Posologie"));
     c.TxtPoso->setTabChangesFocus(true);
+    style::RaccourciVers(c.TxtPoso, QStringLiteral("Alt+G"));
     BoutonsMedicament(c, carte);
     QVBoxLayout* disposition = DansCarte(carte);
     QLabel* titre = style::Titre({}, QStringLiteral("Mé&dicament choisi"), carte, c.TxtMedoc);
@@ -152,6 +154,8 @@ QLayout* Zones(ControlesMedoc& c, QWidget* carte)
     c.ZoneNonALD = style::Legende({}, QStringLiteral("Zone non ALD"), carte);
     c.LstChoix1 = Liste(QStringLiteral("LstChoix1"), QStringLiteral("Lignes de l'ordonnance"), carte);
     c.LstChoix2 = Liste(QStringLiteral("LstChoix2"), QStringLiteral("Lignes de la zone non ALD"), carte);
+    style::RaccourciVers(c.LstChoix1, QStringLiteral("Alt+1"));
+    style::RaccourciVers(c.LstChoix2, QStringLiteral("Alt+2"));
     c.ImgUp = Fleche(QStringLiteral("ImgUp"), QStringLiteral("Monter la ligne (Alt+Haut)"),
                      QStringLiteral("arrow-up"), carte);
     c.ImgDown = Fleche(QStringLiteral("ImgDown"), QStringLiteral("Descendre la ligne (Alt+Bas)"),

@@ -1,6 +1,7 @@
 #include "medication/windows/FrmMedoc.h"
 
 #include "application/Signaux.h"
+#include "application/messages.h"
 #include "application/windows/Style.h"
 #include "common/Erreur.h"
 #include "common/Tolere.h"
@@ -70,7 +71,7 @@ void FrmMedoc::RelieRecherche()
     connect(c_.CmdModifier, &QPushButton::clicked, this, &FrmMedoc::ModifieMedicament);
     connect(c_.CmdRetire, &QPushButton::clicked, this, &FrmMedoc::RetireMedicament);
     connect(c_.CmdNouveau, &QPushButton::clicked, this,
-            [this] { contexte_.Dehors.Boites.Information(messages::PlusTard()); });
+            [this] { contexte_.Dehors.Boites.Information(application::messages::PasEncoreDisponible()); });
     connect(c_.CmdAide, &QPushButton::clicked, this,
             [this] { contexte_.Dehors.Boites.Information(messages::Aide()); });
 }

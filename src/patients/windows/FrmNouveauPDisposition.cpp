@@ -126,6 +126,7 @@ QWidget* FrmNouveauP::FaitCoordonnees()
     telephones->addWidget(txt_[2]);
     telephones->addWidget(FaitTxt(4, carte));
     style::Nomme(txt_[4], QStringLiteral("Second numéro de téléphone"));
+    style::RaccourciVers(txt_[4], QStringLiteral("Alt+2"));
     colonne->addLayout(telephones);
     return carte;
 }

@@ -53,7 +53,7 @@ QList<Commande> FrmOrdo::CommandesDuDocument()
 QList<Commande> FrmOrdo::CommandesDuProgramme()
 {
     return {
-        {QStringLiteral("CmdEnr"), QStringLiteral("&Mémoriser"), QStringLiteral("&Mémoriser"),
+        {QStringLiteral("CmdEnr"), QStringLiteral("Mém&oriser"), QStringLiteral("Mém&oriser"),
          QStringLiteral("Mémoriser l'ordonnance"), QStringLiteral("bookmark-plus"), Groupe::Memoire,
          [this] { MemoriseOrdonnance(contexte_); }},
         {QStringLiteral("CmdSupp"), QStringLiteral("&Supprimer"), QStringLiteral("&Supprimer"),
@@ -130,7 +130,7 @@ QWidget* FrmOrdo::CreeEntete()
     rangee->addStretch();
     rangee->addWidget(ChkCiv_);
     rangee->addWidget(
-        style::Legende(QStringLiteral("LblCboMed"), QStringLiteral("Médecin"), entete, CboMed_));
+        style::Legende(QStringLiteral("LblCboMed"), QStringLiteral("&Médecin"), entete, CboMed_));
     rangee->addWidget(CboMed_);
     return entete;
 }

@@ -1,7 +1,7 @@
 #include "startup/windows/MenusDepart.h"
 
+#include "application/messages.h"
 #include "application/windows/Style.h"
-#include "startup/messagesDepart.h"
 
 #include <QAction>
 #include <QMenu>
@@ -32,7 +32,7 @@ QAction* Entree(QMenu* menu, const char* nom, const QString& texte, const char* 
 void Reporte(QAction* entree)
 {
     entree->setEnabled(false);
-    entree->setToolTip(messages::ProchaineVersion());
+    entree->setToolTip(application::messages::PasEncoreDisponible());
 }
 
 } // namespace

@@ -37,13 +37,13 @@ private Q_SLOTS:
     {
         QVERIFY(!Trouve<QPushButton>("LblPoso")->isEnabled());
         QCOMPARE(Trouve<QPushButton>("LblPoso")->toolTip(),
-                 QStringLiteral("Disponible dans une prochaine version"));
+                 QStringLiteral("Cette fonction n'est pas encore disponible dans cette version."));
     }
 
     void TheLocalModeOffersNewMedications()
     {
         QVERIFY(Trouve<QPushButton>("CmdNouveau")->isEnabled());
-        monde_->Boites.AttendContenant(outside::Genre::Information, QStringLiteral("prochaine version"));
+        monde_->Boites.AttendContenant(outside::Genre::Information, QStringLiteral("pas encore disponible"));
         Clic("CmdNouveau");
     }
 

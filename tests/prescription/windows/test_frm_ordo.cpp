@@ -1,6 +1,7 @@
 #include "prescription/windows/FrmOrdo.h"
 
 #include "application/Signaux.h"
+#include "application/messages.h"
 #include "application/windows/Fenetres.h"
 #include "application/windows/Style.h"
 #include "page/windows/Feuille.h"
@@ -123,8 +124,8 @@ void TestFrmOrdo::WhatIsNotThereYetSaysSo()
     Bureau bureau;
     bureau.Prescrit(QStringLiteral("ASPIRINE"));
     bureau.Ouvre();
-    bureau.Boites.AttendInformation(messages::CertificatsAVenir())
-        .AttendInformation(messages::MemoireAVenir());
+    bureau.Boites.AttendInformation(application::messages::PasEncoreDisponible())
+        .AttendInformation(application::messages::PasEncoreDisponible());
     bureau.Fenetre->Execute(QStringLiteral("CmdCertif"));
     bureau.Fenetre->Execute(QStringLiteral("CmdEnr"));
     QVERIFY(bureau.Boites.Epuise());

@@ -16,5 +16,5 @@ boites([["Aucun modèle d'ordonnance n'est enregistré.", "OK"]]);
 // Un modèle pour tous : la fenêtre n'est pas encore là, et cela se dit.
 ajouter("Medoc", "ListeOrdos", ["Rhume", "*", 0, "0"]);
 clic("FrmMedoc.LblOrdoMem");
-boites([["Disponible dans une prochaine version", "OK"]]);
+boites([["Cette fonction n'est pas encore disponible dans cette version.", "OK"]]);
 clic("FrmMedoc.CmdAnnule");

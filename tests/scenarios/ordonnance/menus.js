@@ -17,7 +17,7 @@ touche("FrmOptions", "Echap");
 faux(ouverte("FrmOptions"), "Échap les annule");
 
 clic("FrmOrdo.CmdCertif");
-boites([["Les certificats ne sont pas encore disponibles dans cette version.", "OK"]]);
+boites([["Cette fonction n'est pas encore disponible dans cette version.", "OK"]]);
 clic("FrmOrdo.CmdEnr");
 egal(boite().genre, "stop", "rien à mémoriser");
 boites([["Aucune ordonnance n'est à enregistrer !", "OK"]]);
