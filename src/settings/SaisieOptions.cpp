@@ -9,6 +9,7 @@
 #include "prescription/Editeur.h"
 #include "settings/FichiersReglages.h"
 #include "startup/Chemins.h"
+#include "startup/DemarrageAuto.h"
 #include "startup/GestionMedecins.h"
 #include "startup/Medecins.h"
 
@@ -62,6 +63,7 @@ Instantane PrendInstantane(const application::Contexte& contexte)
 void RestaureInstantane(application::Contexte& contexte, const Instantane& instantane)
 {
     RendLesOptions(contexte.Reglages.Options, instantane.Options);
+    startup::RegleDemarrageSysteme(contexte);
     contexte.Banque.ProduitBanque = instantane.ProduitBanque;
     contexte.Banque.TypeBase = instantane.TypeBase;
     patients::Patient& patient = contexte.Patient;

@@ -220,6 +220,7 @@ void TestAccessibilite::Fenetres()
         depart.show();
         return depart;
     });
+    rang("FrmChoixBase", &Montre<startup::FrmChoixBase>);
     rang("FrmMedecins", &Montre<startup::FrmMedecins>);
     rang("FrmAPROPOS", &Montre<startup::FrmAPROPOS>);
     rang("FrmPatient", &Montre<patients::FrmPatient>);

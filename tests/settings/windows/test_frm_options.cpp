@@ -62,6 +62,7 @@ private Q_SLOTS:
     void OkWritesTheThreeFiles();
     void WithoutPrinterOkIsRefused();
     void CancelRestoresTheSnapshot();
+    void CancelRestoresTheStartWithTheSystem();
     void EscapeCancels();
     void TheCloseBoxIsRefused();
     void TheFirstPrintHasNoWayBack();
@@ -137,6 +138,18 @@ void TestFrmOptions::CancelRestoresTheSnapshot()
     QCOMPARE(int(reglage.Etat.Reglages.Options.AffichePoids), 1);
     QCOMPARE(int(reglage.Etat.Reglages.Options.LogoHauteur), 0);
     QCOMPARE(int(reglage.Etat.Reglages.Options.MinimiseImpression), 1);
+}
+
+void TestFrmOptions::CancelRestoresTheStartWithTheSystem()
+{
+    Reglage reglage;
+    reglage.Etat.Reglages.Options.LanceDemarrage = 1;
+    reglage.Pendant([&](FrmOptions& fenetre) {
+        reglage.Etat.Reglages.Options.LanceDemarrage = 0;
+        reglage.DemarrageSysteme.Desactive();
+        Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").click();
+    });
+    QVERIFY(reglage.DemarrageSysteme.Programme.endsWith(QStringLiteral("Scriptelle.exe")));
 }
 
 void TestFrmOptions::EscapeCancels()
