@@ -16,10 +16,4 @@ struct Banque
     bool ModuleAide = false; ///< the helper library could be loaded
 };
 
-/// Local mode: the personal pharmacy only.
-inline bool ModeLocal(const Banque& banque)
-{
-    return banque.TypeBase == QLatin1String("BIP");
-}
-
 } // namespace drugbank

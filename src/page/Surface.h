@@ -51,7 +51,6 @@ public:
     void Font(const Police& police) { police_ = police; }
     const Police& Font() const { return police_; }
     void FontBold(bool oui) { police_.Gras = oui; }
-    void FontItalic(bool oui) { police_.Italique = oui; }
     void FontUnderline(bool oui) { police_.Souligne = oui; }
     void FontSize(float points) { police_.Taille = points; }
 

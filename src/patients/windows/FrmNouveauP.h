@@ -45,7 +45,6 @@ private:
     QWidget* FaitPrecautions();
     QWidget* FaitNotes();
     QBoxLayout* FaitPied();
-    QLineEdit* PoseChamp(QGridLayout* grille, const QString& titre, const QString& nom);
     QLineEdit* FaitTxt(int numero, QWidget* carte);
     void OrdonneTabulations();
     void Branche();
