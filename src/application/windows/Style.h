@@ -105,7 +105,7 @@ QFont PoliceFixe();
 void Dimensionne(QWidget* fenetre, int largeur, int hauteur);
 
 /// The order in which Tab walks through the controls.
-void OrdreTab(std::initializer_list<QWidget*> controles);
+void OrdreTab(const QList<QWidget*>& controles);
 
 /// A key that brings the focus to a control without a letter of its own, while the control is shown; its
 /// tool tip names the key after its accessible name.

@@ -190,14 +190,10 @@ void Dimensionne(QWidget* fenetre, int largeur, int hauteur)
     fenetre->resize(QSize(largeur, hauteur).boundedTo(ecran->availableSize() - kBordures));
 }
 
-void OrdreTab(std::initializer_list<QWidget*> controles)
+void OrdreTab(const QList<QWidget*>& controles)
 {
-    QWidget* precedent = nullptr;
-    for (QWidget* controle : controles) {
-        if (precedent) {
-            QWidget::setTabOrder(precedent, controle);
-        }
-        precedent = controle;
+    for (qsizetype i = 1; i < controles.size(); ++i) {
+        QWidget::setTabOrder(controles[i - 1], controles[i]);
     }
 }
 

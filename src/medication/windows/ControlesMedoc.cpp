@@ -244,9 +244,7 @@ void OrdonneTabulation(const ControlesMedoc& c)
                                    c.ChkTri,      c.LstChoix1,   c.LstChoix2,   c.ImgUp,     c.ImgDown,
                                    c.CmdSaut,     c.CmdClear,    c.LblOrdoMem,  c.CmdAnnule, c.CmdOrdo,
                                    c.CmdAide,     c.CmdNouveau,  c.CmdRetire};
-    for (qsizetype i = 1; i < ordre.size(); ++i) {
-        QWidget::setTabOrder(ordre[i - 1], ordre[i]);
-    }
+    style::OrdreTab(ordre);
 }
 
 } // namespace

@@ -186,9 +186,7 @@ void FrmNouveauP::OrdonneTabulations()
     QList<QWidget*> ordre(opt_.begin(), opt_.end());
     ordre << txt_[0] << txt_[1] << meb_ << txt_[3] << lstCi_ << cmdCI_ << txtAdrV_ << txt_[2] << txt_[4]
           << txtAtcd_ << txtAdr_ << cmdAnnuler_ << cmdOK_;
-    for (qsizetype i = 1; i < ordre.size(); ++i) {
-        setTabOrder(ordre[i - 1], ordre[i]);
-    }
+    style::OrdreTab(ordre);
 }
 
 } // namespace patients

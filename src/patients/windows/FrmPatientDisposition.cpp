@@ -131,9 +131,7 @@ void FrmPatient::OrdonneTabulations()
 {
     const QList<QWidget*> ordre = {txtCherche_, lstPatient_, cmdModifier_, cmdSupprime_, cmdNouveauPatient_,
                                    cmdPassage_, cmdAide_,    cmdAnnule_,   cmdOK_};
-    for (qsizetype i = 1; i < ordre.size(); ++i) {
-        setTabOrder(ordre[i - 1], ordre[i]);
-    }
+    style::OrdreTab(ordre);
 }
 
 } // namespace patients
