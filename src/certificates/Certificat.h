@@ -1,5 +1,7 @@
 #pragma once
 
+#include "page/Police.h"
+
 #include <QString>
 
 namespace certificates {
@@ -7,8 +9,12 @@ namespace certificates {
 /// The certificate in hand.
 struct Certificat
 {
-    double DecalageCertif = 0; ///< millimetres
+    double DecalageCertif = 0; ///< millimetres, in steps of 2
+    quint8 CertifALD = 0;      ///< 1: the text is the two-zone sheet
+    quint8 ChargeCertif = 0;   ///< 1 while a template is being loaded: `ChkALD` changes nothing then
+    int IndexCertif = -1;      ///< row of the template in use when the text went to the page, -1 for none
     quint8 IdentiteCertif = 0; ///< 1: the patient block is printed above it
+    page::Police TxtCert;      ///< the font of `TxtCert`: that of the zone headings on the page
 };
 
 } // namespace certificates

@@ -93,6 +93,7 @@ struct Reglages
     settings::Marges Marges;
     settings::Dupli Dupli;
     settings::Look Look;
+    QString TxtSLP; ///< the personal height as `FrmConfOrdo` shows it; empty without one
 };
 
 } // namespace settings
