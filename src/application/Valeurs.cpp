@@ -1,6 +1,7 @@
 #include "application/Valeurs.h"
 
 #include "application/Etat.h"
+#include "certificates/Bandeaux.h"
 #include "common/Nombres.h"
 #include "startup/Demarrage.h"
 
@@ -189,8 +190,19 @@ void AjouteLook(Registre& registre)
     AjoutePolice(registre, QStringLiteral("Certif"), &settings::Look::Certif);
     VARIABLE(Reglages.Look, CouleurEntete);
     VARIABLE(Reglages.Look, NomSignature);
+}
+
+void AjouteCertificat(Registre& registre)
+{
     VARIABLE(Certificat, DecalageCertif);
+    VARIABLE(Certificat, CertifALD);
+    VARIABLE(Certificat, ChargeCertif);
+    VARIABLE(Certificat, IndexCertif);
     VARIABLE(Certificat, IdentiteCertif);
+    registre.insert(QStringLiteral("BandeauALD1"),
+                    [](const Contexte&) { return certificates::BandeauALD1(); });
+    registre.insert(QStringLiteral("BandeauALD2"),
+                    [](const Contexte&) { return certificates::BandeauALD2(); });
 }
 
 void AjouteBanque(Registre& registre)
@@ -231,6 +243,7 @@ Registre Construit()
     AjouteMarges(registre);
     AjouteDupli(registre);
     AjouteLook(registre);
+    AjouteCertificat(registre);
     AjouteBanque(registre);
     AjouteChoix(registre);
     return registre;

@@ -14,7 +14,9 @@ struct Certificat
     quint8 ChargeCertif = 0;   ///< 1 while a template is being loaded: `ChkALD` changes nothing then
     int IndexCertif = -1;      ///< row of the template in use when the text went to the page, -1 for none
     quint8 IdentiteCertif = 0; ///< 1: the patient block is printed above it
-    page::Police TxtCert;      ///< the font of `TxtCert`: that of the zone headings on the page
+    /// The font of `TxtCert`: that of the zone headings on the page. The largest, by half points, in which
+    /// each of their lines stands within 170 mm.
+    page::Police TxtCert = {.Nom = QStringLiteral("Arial"), .Taille = 10};
 };
 
 } // namespace certificates

@@ -36,6 +36,11 @@ void TestValeurs::LaValeurSuitLaVariable()
     QCOMPARE(lit("DupliTexte"), QVariant(QStringLiteral("DUPLICATA")));
     QCOMPARE(lit("FormatA4"), QVariant(1));
     QCOMPARE(lit("NoeudChoisi"), QVariant(100));
+    monde.Etat.Certificat.CertifALD = 1;
+    QCOMPARE(lit("CertifALD"), QVariant(1));
+    QCOMPARE(lit("IndexCertif"), QVariant(-1));
+    QVERIFY(lit("BandeauALD1").toString().startsWith(QStringLiteral("____")));
+    QVERIFY(lit("BandeauALD2").toString().contains(QStringLiteral("SANS RAPPORT")));
 }
 
 void TestValeurs::LesZonesSontDesListes()

@@ -3,7 +3,7 @@ installer();
 const groupes = {
     string: "Version DateExpirationBase NomSignature CheminData CheminBase CheminTravail CheminMedecin " +
         "NomMedecinSignature PatientCourant NomSeul DateNaissance AgePatient PoidsPatient PrecautionsPatient " +
-        "AdressePatient DateOrdo MessagePrecautions AgeSaisi TitreMemo LigneJournal Imprimante FichierLogo " +
+        "AdressePatient BandeauALD1 BandeauALD2 DateOrdo MessagePrecautions AgeSaisi TitreMemo LigneJournal Imprimante FichierLogo " +
         "DupliPolice DupliTexte PoliceTitre PolicePoso PoliceCertif TypeBase",
     number: "TypeStockage IndexStockage NbMedecins NumMedecin NumMedecinDefaut IndexMedecin ModePatient NbZone1 " +
         "NbZone2 NbMedZone1 NbMedZone2 ChkALD ChkDup ChkTri ChkCiv OrdoMemorisee ModeApercu EtatImprimante NbCopies " +
@@ -15,7 +15,7 @@ const groupes = {
         "HauteurSaut MargeHauteDate MargeGaucheDate MargeHauteDDN MargeGaucheDDN DupliTaille DupliItalique " +
         "DupliGras DupliCouleur DupliX DupliY DupliActif TailleTitre GrasTitre ItaliqueTitre SouligneTitre " +
         "TaillePoso GrasPoso ItaliquePoso SoulignePoso TailleCertif GrasCertif ItaliqueCertif SouligneCertif " +
-        "CouleurEntete DecalageCertif IdentiteCertif NiveauInteraction ProduitBanque FiltreBanque SessionBanque " +
+        "CouleurEntete DecalageCertif CertifALD ChargeCertif IndexCertif IdentiteCertif NiveauInteraction ProduitBanque FiltreBanque SessionBanque " +
         "NoeudChoisi ArbreChoisi OrigineEdition ListeSource IndexEdition1 IndexEdition2",
     object: "OrdoZone1 OrdoZone2 InfoPack",
 };
