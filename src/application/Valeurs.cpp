@@ -228,6 +228,8 @@ void AjouteChoix(Registre& registre)
     VARIABLE(Choix, InfoPack);
     VARIABLE(Choix, EtiquetteLue);
     VARIABLE(Choix, BaseChangee);
+    VARIABLE(Choix, DernierCboP);
+    VARIABLE(Choix, TexteQuantite);
 }
 
 #undef VARIABLE

@@ -20,6 +20,8 @@ struct Choix
     QStringList InfoPack;      ///< CIP, pack id, product id, price of the pack last clicked
     QString EtiquetteLue;      ///< tag of the stored medication that the last click read; empty for none
     quint8 BaseChangee = 0;    ///< 0 or 1: the tree is to be filled again; 2: it is filled
+    qint16 DernierCboP = 0;    ///< the box of `FrmPoso` that last changed
+    QString TexteQuantite;     ///< the quantity last typed for a moment without a time of day
 };
 
 } // namespace medication

@@ -17,15 +17,15 @@ namespace {
 
 constexpr int kBlancsF4 = 30;
 
-std::optional<Zone> ZoneDuSaut(application::Contexte& contexte)
+std::optional<Zone> DemandeZone(application::Contexte& contexte, outside::Genre genre)
 {
     using outside::Bouton;
     if (contexte.Ordonnance.ChkALD == 0) {
         return Zone::Un;
     }
     const Bouton reponse =
-        contexte.Dehors.Boites.Montre({.Genre = outside::Genre::Question,
-                                       .Texte = messages::ZoneDuSaut(),
+        contexte.Dehors.Boites.Montre({.Genre = genre,
+                                       .Texte = messages::ZoneVoulue(),
                                        .Boutons = {Bouton::Oui, Bouton::Non, Bouton::Annuler},
                                        .Defaut = Bouton::Oui});
     if (reponse == Bouton::Annuler) {
@@ -67,11 +67,16 @@ Suite Ajoute(application::Contexte& contexte, const Pharmacie& pharmacie, Zone z
 
 bool SauteLigne(application::Contexte& contexte)
 {
-    const std::optional<Zone> zone = ZoneDuSaut(contexte);
+    const std::optional<Zone> zone = DemandeZone(contexte, outside::Genre::Question);
     if (zone) {
         AjouteSaut(contexte.Ordonnance, *zone);
     }
     return zone.has_value();
+}
+
+std::optional<Zone> ZoneDePosologie(application::Contexte& contexte)
+{
+    return DemandeZone(contexte, outside::Genre::Simple);
 }
 
 void EffaceTout(application::Contexte& contexte)

@@ -24,6 +24,10 @@ Suite Ajoute(application::Contexte& contexte, const Pharmacie& pharmacie, Zone z
 /// `CmdSaut`: asks for the zone when there are two. False when nothing was added.
 bool SauteLigne(application::Contexte& contexte);
 
+/// The zone for a line composed in `FrmPoso`: the first one, or asked for when there are two; nothing on
+/// Cancel.
+std::optional<Zone> ZoneDePosologie(application::Contexte& contexte);
+
 /// `CmdClear`: the lines, the counts, the preview and the selected node are reset.
 void EffaceTout(application::Contexte& contexte);
 

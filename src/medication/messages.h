@@ -24,9 +24,31 @@ inline QString Retire(const QString& nom)
     return QStringLiteral("Supprimer ") + nom + QStringLiteral(" de la base de données ?");
 }
 
-inline QString ZoneDuSaut()
+inline QString ZoneVoulue()
 {
     return QStringLiteral("Zone ALD, tapez oui.\n\nZone non ALD, tapez non.");
+}
+
+inline QString SelectionnezUnMedicament()
+{
+    return QStringLiteral("Sélectionnez un médicament !");
+}
+
+inline QString TitreQuantite()
+{
+    return QStringLiteral("Quantité");
+}
+
+inline QString QuantiteAuBesoin()
+{
+    return QStringLiteral(
+        "Inscrire la quantité de la forme pharmaceutique choisie,\n à prendre en cas de besoin :");
+}
+
+inline QString QuantiteAuMomentVoulu()
+{
+    return QStringLiteral("Inscrire la quantité de la forme pharmaceutique choisie,\n à prendre au moment "
+                          "voulu de la journée :");
 }
 
 inline QString AucunMedicament()

@@ -1,6 +1,7 @@
 #include "application/windows/Application.h"
 
 #include "application/Sauvegarde.h"
+#include "medication/windows/FrmPoso.h"
 #include "outside/Boites.h"
 #include "outside/Plateau.h"
 #include "patients/windows/FrmPatient.h"
@@ -63,6 +64,7 @@ bool Application::MontreChoixBase(int rangStockage)
 void Application::ChargeFenetres()
 {
     fenetres_.Donne<patients::FrmPatient>();
+    fenetres_.Donne<medication::FrmPoso>();
     QApplication::processEvents();
 }
 

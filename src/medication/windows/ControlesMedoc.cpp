@@ -1,8 +1,6 @@
 #include "medication/windows/ControlesMedoc.h"
 
-#include "application/messages.h"
 #include "application/windows/Style.h"
-#include "medication/messages.h"
 #include "medication/windows/CaseEtiquetee.h"
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/ChampMedicament.h"
@@ -25,13 +23,6 @@ namespace style = application::style;
 
 constexpr int kLargeurRecherche = 2; // shares of the width
 constexpr int kLargeurOrdonnance = 5;
-
-QPushButton* PlusTard(QPushButton* bouton)
-{
-    bouton->setEnabled(false);
-    bouton->setToolTip(application::messages::PasEncoreDisponible());
-    return bouton;
-}
 
 QHBoxLayout* Rang(std::initializer_list<QWidget*> gauche, std::initializer_list<QWidget*> droite)
 {
@@ -95,8 +86,8 @@ QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
 
 void BoutonsMedicament(ControlesMedoc& c, QWidget* parent)
 {
-    c.LblPoso = PlusTard(style::Bouton(QStringLiteral("LblPoso"), QStringLiteral("A&jouter une Posologie"),
-                                       QStringLiteral("pencil"), parent));
+    c.LblPoso = style::Bouton(QStringLiteral("LblPoso"), QStringLiteral("A&jouter une Posologie"),
+                              QStringLiteral("pencil"), parent);
     style::SouligneSousLaSouris(c.LblPoso);
     c.CmdModifier = style::Bouton(QStringLiteral("CmdModifier"), QStringLiteral("Modi&fier données Med"),
                                   QStringLiteral("save"), parent);

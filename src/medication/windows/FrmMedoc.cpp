@@ -68,6 +68,7 @@ void FrmMedoc::RelieRecherche()
             c_.TxtCherche->selectAll();
         }
     });
+    connect(c_.LblPoso, &QPushButton::clicked, this, &FrmMedoc::ComposePosologie);
     connect(c_.CmdModifier, &QPushButton::clicked, this, &FrmMedoc::ModifieMedicament);
     connect(c_.CmdRetire, &QPushButton::clicked, this, &FrmMedoc::RetireMedicament);
     connect(c_.CmdNouveau, &QPushButton::clicked, this,

@@ -47,6 +47,7 @@ private:
     void ModifieMedicament();
     void RetireMedicament();
     void MontreNotes();
+    void ComposePosologie();
 
     void Ajoute(Zone zone);
     void TermineAjout();

@@ -1,5 +1,6 @@
 #include "drugbank/windows/FrmIAM.h"
 #include "medication/windows/FrmMedoc.h"
+#include "medication/windows/FrmPoso.h"
 #include "patients/windows/FrmNouveauP.h"
 #include "patients/windows/FrmPatient.h"
 #include "prescription/Editeur.h"
@@ -229,6 +230,7 @@ void TestAccessibilite::Fenetres()
     rang("FrmOrdo, bar above", [](P& p) -> QWidget& { return MontreOrdo(p, 1); });
     rang("FrmMedoc", [](P& p) -> QWidget& { return MontreMedoc(p, 0); });
     rang("FrmMedoc, two zones", [](P& p) -> QWidget& { return MontreMedoc(p, 1); });
+    rang("FrmPoso", &Montre<medication::FrmPoso>);
     rang("FrmOptions", &Montre<settings::FrmOptions>);
     rang("FrmIAM", &Montre<drugbank::FrmIAM>);
 }

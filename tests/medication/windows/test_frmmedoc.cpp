@@ -33,13 +33,6 @@ private Q_SLOTS:
         QVERIFY(Trouve<QPushButton>("CmdRetire")->isEnabled());
     }
 
-    void WindowsToComeAreDisabledWithAWord()
-    {
-        QVERIFY(!Trouve<QPushButton>("LblPoso")->isEnabled());
-        QCOMPARE(Trouve<QPushButton>("LblPoso")->toolTip(),
-                 QStringLiteral("Cette fonction n'est pas encore disponible dans cette version."));
-    }
-
     void TheLocalModeOffersNewMedications()
     {
         QVERIFY(Trouve<QPushButton>("CmdNouveau")->isEnabled());
@@ -75,13 +68,13 @@ private Q_SLOTS:
         QStringList road;
         ClicNoeud(0);
         Trouve<QLineEdit>("TxtCherche")->setFocus();
-        for (int i = 0; i < 18; ++i) {
+        for (int i = 0; i < 19; ++i) {
             road.append(Focus());
             QTest::keyClick(fenetre_->focusWidget(), Qt::Key_Tab);
         }
         const QString attendu =
-            QStringLiteral("TxtCherche TV TxtMedoc TxtPoso CmdModifier CmdAjouter1 ChkALD "
-                           "ChkDup ChkTri LstChoix1 CmdSaut CmdClear LblOrdoMem CmdAnnule CmdOrdo "
+            QStringLiteral("TxtCherche TV TxtMedoc TxtPoso LblPoso CmdModifier CmdAjouter1 "
+                           "ChkALD ChkDup ChkTri LstChoix1 CmdSaut CmdClear LblOrdoMem CmdAnnule CmdOrdo "
                            "CmdAide CmdNouveau CmdRetire");
         QCOMPARE(road.join(u' '), attendu);
     }

@@ -18,6 +18,8 @@ const noms = {
         "Label6 ChkTri Label9 CmdModifier CmdNouveau CmdRetire CmdPerso Lbl1 Lbl2 Lbl5 LblPoso LblOrdoMem HlbG HlbI " +
         "CmdAide CmdCopyright LblDatExp LstChoix1 LstChoix2 CmdAjouter1 CmdAjouter2 ImgUp ImgDown Txt CmdSaut CmdClear " +
         "CmdAnnule CmdOrdo",
+    FrmPoso: "CboP(0) CboP(1) CboP(2) CboP(3) CboP(4) CboP(5) CboP(6) CboP(7) TxtPoso LblNomMed CmdAjouter " +
+        "CmdEnregistrer CmdQuitter CmdAnnule CmdAide",
     FrmOptions: "TS CboPrint Chkimp CmdOK CmdOK(2) CmdAnnule(2)",
 };
 function manque(controle) {
@@ -50,6 +52,7 @@ clic("FrmNouveauP.CmdAnnuler");
 clic("FrmPatient.CmdAnnule");
 clic("FrmOrdo.CmdPharma");
 passe("FrmMedoc");
+passe("FrmPoso");
 clic("FrmMedoc.CmdAnnule");
 clic("FrmOrdo.CmdImprime");
 passe("FrmOptions");

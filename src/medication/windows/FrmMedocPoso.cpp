@@ -1,0 +1,35 @@
+#include "medication/messages.h"
+#include "medication/windows/ChampMedicament.h"
+#include "medication/windows/FrmMedoc.h"
+#include "medication/windows/FrmPoso.h"
+#include "outside/Boites.h"
+
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+// The posology of the medication in hand.
+namespace medication {
+
+void FrmMedoc::ComposePosologie()
+{
+    if (c_.TxtMedoc->text().isEmpty()) {
+        contexte_.Dehors.Boites.Information(messages::SelectionnezUnMedicament());
+        return;
+    }
+    const bool enregistrable = contexte_.Choix.NoeudChoisi != kAucunNoeud && c_.CmdModifier->isEnabled();
+    const Saisie saisie = Boites();
+    const auto reponse = fenetres_.Donne<FrmPoso>().Compose(saisie.TxtMedoc, saisie.TxtPoso, enregistrable);
+    if (reponse.TxtPoso) {
+        c_.TxtPoso->setPlainText(*reponse.TxtPoso);
+    }
+    if (reponse.Etiquette == FrmPoso::Etiquette::Enregistre) {
+        ModifieMedicament();
+    }
+    if (reponse.Etiquette != FrmPoso::Etiquette::Rien) {
+        if (const std::optional<Zone> zone = ZoneDePosologie(contexte_)) {
+            Ajoute(*zone);
+        }
+    }
+}
+
+} // namespace medication
