@@ -63,4 +63,12 @@ QList<Mot> MotsPosologie(const QString& posologie)
     return mots;
 }
 
+Police StyleDuMot(Police police, const Mot& mot)
+{
+    police.Gras = police.Gras || mot.Gras;
+    police.Souligne = police.Souligne || mot.Souligne;
+    police.Italique = police.Italique || mot.Italique;
+    return police;
+}
+
 } // namespace page

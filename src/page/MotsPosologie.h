@@ -1,7 +1,8 @@
 #pragma once
 
+#include "page/Police.h"
+
 #include <QList>
-#include <QString>
 
 namespace page {
 
@@ -20,5 +21,8 @@ struct Mot
 /// Splits a posology on the single blank and reads each word's markers. Line breaks stay inside their
 /// word; blanks in a row make empty words; an empty text is one empty word.
 QList<Mot> MotsPosologie(const QString& posologie);
+
+/// A text's font with the marks of one of its words.
+Police StyleDuMot(Police police, const Mot& mot);
 
 } // namespace page

@@ -65,11 +65,7 @@ void Flot::Place(const Mot& mot)
 
 void Flot::Ecrit(const Mot& mot)
 {
-    page::Police style = police_;
-    style.Gras = style.Gras || mot.Gras;
-    style.Souligne = style.Souligne || mot.Souligne;
-    style.Italique = style.Italique || mot.Italique;
-    cible_.Font(style);
+    cible_.Font(StyleDuMot(police_, mot));
     Place(mot);
     cible_.PrintSuite(mot.Imprime());
     cible_.Font(police_);

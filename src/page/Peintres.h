@@ -1,5 +1,6 @@
 #pragma once
 
+#include "certificates/Certificat.h"
 #include "outside/Boites.h"
 #include "page/LignesEntete.h"
 #include "page/Surface.h"
@@ -32,6 +33,18 @@ void PeintPatient(Surface& cible, Modele& modele, outside::Boites& boites);
 
 /// Body, count box, footer and journal line; with `ModeApercu` 1 only footer and journal line.
 void PeintOrdo(Surface& cible, Modele& modele);
+
+/// What the page of a certificate needs beside the model.
+struct TexteCertificat
+{
+    const certificates::Certificat& Certificat; ///< shift, patient block and the zone headings' font
+    QString Texte;                              ///< of "Tmp.txt", any line ends
+    QString& TxtSLP;                            ///< the painting puts "0" in an empty one
+};
+
+/// A certificate with its macros replaced, below the patient block if it bears one.
+void PeintCertificat(Surface& cible, Modele& modele, const TexteCertificat& certificat,
+                     outside::Boites& boites);
 
 /// The ruler in centimetres above the preview.
 void PeintRegle(Surface& cible);

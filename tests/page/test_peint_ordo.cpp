@@ -325,16 +325,8 @@ void TestPeintOrdo::unePageEntiere()
     page.Ajoute1(u"#LEVOTHYROX 75 µg cp"_s, u"1 le matin*$ à jeun"_s);
     page.Ajoute1(u"#QSP 3 mois#"_s);
     page.Ajoute2(u"SPASFON cp"_s, u"2 cp\r\nen cas de douleur*"_s);
-    QFile fichier(QStringLiteral(RACINE_PROJET "/tests/page/attendus/feuille.txt"));
-    const QString obtenu = support::EnTexte(page.PeintFeuille());
-    if (qEnvironmentVariableIsSet("ECRIT_ATTENDUS")) {
-        QVERIFY(fichier.open(QIODevice::WriteOnly));
-        fichier.write(obtenu.toUtf8());
-        return;
-    }
-    QVERIFY(fichier.open(QIODevice::ReadOnly));
-    const QStringList attendues = QString::fromUtf8(fichier.readAll()).split(u'\n');
-    QCOMPARE(obtenu.split(u'\n'), attendues);
+    const page::Dessin feuille = page.PeintFeuille();
+    QCOMPARE(support::Obtenues(feuille), support::Attendues(u"feuille.txt"_s, feuille));
 }
 
 QTEST_MAIN(TestPeintOrdo)

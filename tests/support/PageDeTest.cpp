@@ -1,5 +1,6 @@
 #include "support/PageDeTest.h"
 
+#include <QFile>
 #include <QTest>
 
 namespace support {
@@ -126,6 +127,14 @@ page::Dessin PageDeTest::PeintEntete(page::Surface& cible)
     return cible.Resultat();
 }
 
+page::Dessin PageDeTest::PeintCertificat(const QString& texte, page::Cible cible)
+{
+    page::Surface surface(cible);
+    page::Modele modele = Modele();
+    page::PeintCertificat(surface, modele, {Certificat, texte, Reglages.TxtSLP}, Boites);
+    return surface.Resultat();
+}
+
 page::Dessin PageDeTest::PeintFeuille()
 {
     page::Surface surface(page::Cible::Imprimante);
@@ -208,6 +217,22 @@ QString EnTexte(const page::Dessin& dessin)
         texte += std::visit(Redacteur{}, item) + QLatin1Char('\n');
     }
     return texte;
+}
+
+QStringList Attendues(const QString& nom, const page::Dessin& dessin)
+{
+    QFile fichier(QStringLiteral(RACINE_PROJET "/tests/page/attendus/") + nom);
+    if (qEnvironmentVariableIsSet("ECRIT_ATTENDUS") && fichier.open(QIODevice::WriteOnly)) {
+        fichier.write(EnTexte(dessin).toUtf8());
+        fichier.close();
+    }
+    return fichier.open(QIODevice::ReadOnly) ? QString::fromUtf8(fichier.readAll()).split(u'\n')
+                                             : QStringList{QStringLiteral("fichier absent : ") + nom};
+}
+
+QStringList Obtenues(const page::Dessin& dessin)
+{
+    return EnTexte(dessin).split(u'\n');
 }
 
 } // namespace support

@@ -11,6 +11,7 @@ struct PageDeTest
     patients::Patient Patient;
     prescription::Ordonnance Ordonnance;
     settings::Reglages Reglages;
+    certificates::Certificat Certificat;
     QList<page::LigneEntete> Entete;
     quint8 ModeApercu = 0;
     bool AvecTravail = true;
@@ -30,6 +31,7 @@ struct PageDeTest
     page::Dessin PeintCorps(page::Cible cible = page::Cible::Imprimante);
     page::Dessin PeintPatient(page::Cible cible = page::Cible::Imprimante);
     page::Dessin PeintEntete(page::Surface& cible);
+    page::Dessin PeintCertificat(const QString& texte, page::Cible cible = page::Cible::Imprimante);
     /// Letterhead, patient and body, as a printed sheet.
     page::Dessin PeintFeuille();
 };
@@ -46,5 +48,11 @@ QList<page::ItemTrait> Traits(const page::Dessin& dessin);
 
 /// One line for each item, with its place in millimetres, for golden files.
 QString EnTexte(const page::Dessin& dessin);
+
+/// The lines that a golden file of tests/page/attendus holds. With ECRIT_ATTENDUS in the environment it is
+/// written from the drawing first.
+QStringList Attendues(const QString& nom, const page::Dessin& dessin);
+/// The drawing in the same form.
+QStringList Obtenues(const page::Dessin& dessin);
 
 } // namespace support
