@@ -8,7 +8,7 @@
 #include "startup/Demarrage.h"
 #include "startup/GestionMedecins.h"
 #include "startup/Medecins.h"
-#include "startup/messagesDepart.h"
+#include "startup/messages.h"
 
 namespace startup {
 

@@ -54,7 +54,7 @@ void Base::Ouvre()
     base_.setDatabaseName(chemin_);
     base_.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=3000"));
     if (!base_.open()) {
-        throw Panne(BaseIllisibleMessage, chemin_);
+        throw Panne(messages::BaseIllisible, chemin_);
     }
     Execute(QStringLiteral("pragma journal_mode=delete"));
     Execute(QStringLiteral("pragma synchronous=full"));
@@ -110,7 +110,7 @@ QSqlQuery Base::Prepare(const QString& instruction)
 void Base::LieEtLance(QSqlQuery& requete, const QVariantList& valeurs)
 {
     if (crochet_ && crochet_(requete.lastQuery())) {
-        throw Panne(InstructionRefuseeMessage, chemin_);
+        throw Panne(messages::InstructionRefusee, chemin_);
     }
     for (qsizetype i = 0; i < valeurs.size(); ++i) {
         requete.bindValue(static_cast<int>(i), Liee(valeurs[i]));

@@ -48,7 +48,7 @@ Jeu::Jeu(Base& base, const QString& table, const QString& condition, const QVari
     : base_(&base), table_(ChercheTable(base.Genre(), table))
 {
     if (!table_) {
-        throw Panne(InstructionRefuseeMessage, base.Chemin());
+        throw Panne(messages::InstructionRefusee, base.Chemin());
     }
     const qsizetype nombre = table_->Colonnes.size();
     QSqlQuery requete = base.Lance(SelectDe(*table_, condition), valeurs);
@@ -71,7 +71,7 @@ void Jeu::VaA(qsizetype ligne)
 void Jeu::ExigeLigne() const
 {
     if (!SurUneLigne()) {
-        throw Panne(FicheDisparueMessage, base_->Chemin());
+        throw Panne(messages::FicheDisparue, base_->Chemin());
     }
 }
 
@@ -126,7 +126,7 @@ void Jeu::Edit()
 void Jeu::Ecris(int position, const QVariant& valeur)
 {
     if (ecriture_ == Ecriture::Aucune || position < 0 || position >= enCours_.Champs.size()) {
-        throw Panne(InstructionRefuseeMessage, base_->Chemin());
+        throw Panne(messages::InstructionRefusee, base_->Chemin());
     }
     enCours_.Champs[position] = ValeurDe(table_->Colonnes[position].Type, valeur);
     if (ecriture_ == Ecriture::Changement) {
@@ -138,7 +138,7 @@ void Jeu::Update()
 {
     switch (ecriture_) {
     case Ecriture::Aucune:
-        throw Panne(InstructionRefuseeMessage, base_->Chemin());
+        throw Panne(messages::InstructionRefusee, base_->Chemin());
     case Ecriture::Ajout:
         Insere();
         break;
@@ -176,7 +176,7 @@ void Jeu::Change()
     const QString instruction =
         QStringLiteral("update %1 set %2 where rowid = ?").arg(Cite(table_->Nom), affectations.join(u','));
     if (base_->Lance(instruction, valeurs).numRowsAffected() == 0) {
-        throw Panne(FicheDisparueMessage, base_->Chemin());
+        throw Panne(messages::FicheDisparue, base_->Chemin());
     }
     if (const int compteur = PlaceCompteur(); compteur >= 0) {
         enCours_.Cle = enCours_.Champs[compteur].toLongLong();

@@ -68,7 +68,7 @@ bool Decoupe(Textes& textes)
 Textes Base::LitTextes(const QString& table, const QString& cle, const QString& texte)
 {
     if (!Connait(*this, table, cle) || !Connait(*this, table, texte)) {
-        throw Panne(InstructionRefuseeMessage, chemin_);
+        throw Panne(messages::InstructionRefusee, chemin_);
     }
     Textes textes;
     {

@@ -18,21 +18,21 @@ Message MessageDuCode(int code)
     switch (code) {
     case 5: // busy
     case 6: // locked
-        return BaseVerrouilleeMessage;
+        return messages::BaseVerrouillee;
     case 8:  // read-only
     case 14: // the journal beside an open file cannot be made
-        return LectureSeuleMessage;
+        return messages::LectureSeule;
     case 10: // disk error
-        return DisqueEnPanneMessage;
+        return messages::DisqueEnPanne;
     case 11: // corrupt
     case 26: // not a database
-        return BaseEndommageeMessage;
+        return messages::BaseEndommagee;
     case 13: // full
-        return DisquePleinMessage;
+        return messages::DisquePlein;
     case 19: // constraint: the only one that our tables have is the autonumber
-        return CleOccupeeMessage;
+        return messages::CleOccupee;
     default:
-        return InstructionRefuseeMessage;
+        return messages::InstructionRefusee;
     }
 }
 

@@ -33,7 +33,7 @@ Transaction::~Transaction()
 void Transaction::Valide()
 {
     if (base_.condamnee_) {
-        throw Panne(InstructionRefuseeMessage, base_.Chemin());
+        throw Panne(messages::InstructionRefusee, base_.Chemin());
     }
     if (base_.profondeur_ == 1) {
         base_.Execute(QStringLiteral("commit"));

@@ -36,14 +36,14 @@ void VerifieMarques(Base& base)
     const GenreBase autre = base.Genre() == GenreBase::Medoc ? GenreBase::Ordo : GenreBase::Medoc;
     if (marque == MarqueApplication(autre)) {
         const QString nom = QFileInfo(base.Chemin()).fileName();
-        throw common::Erreur(AutreGenreMessage(nom, NomAttendu(base.Genre())), base.Chemin());
+        throw common::Erreur(messages::AutreGenre(nom, NomAttendu(base.Genre())), base.Chemin());
     }
     if (marque != MarqueApplication(base.Genre())) {
-        throw Panne(PasUneBaseMessage, base.Chemin());
+        throw Panne(messages::PasUneBase, base.Chemin());
     }
     const int version = LitTexte(base, QStringLiteral("pragma user_version")).toInt();
     if (version > kVersionSchema) {
-        throw Panne(BaseTropRecenteMessage, base.Chemin());
+        throw Panne(messages::BaseTropRecente, base.Chemin());
     }
 }
 
@@ -53,7 +53,7 @@ void VerifieTaille(Base& base)
     const qint64 pages = LitTexte(base, QStringLiteral("pragma page_count")).toLongLong();
     const qint64 taille = LitTexte(base, QStringLiteral("pragma page_size")).toLongLong();
     if (QFileInfo(base.Chemin()).size() < pages * taille) {
-        throw Panne(BaseEndommageeMessage, base.Chemin());
+        throw Panne(messages::BaseEndommagee, base.Chemin());
     }
 }
 
@@ -71,7 +71,7 @@ void VerifieTables(Base& base)
             attendues.append(colonne.Nom);
         }
         if (colonnes.value(table.Nom) != attendues) {
-            throw Panne(BaseEndommageeMessage, base.Chemin());
+            throw Panne(messages::BaseEndommagee, base.Chemin());
         }
     }
 }
@@ -82,15 +82,15 @@ void VerifieFichier(const QString& chemin)
 {
     const QFileInfo info(chemin);
     if (!info.isFile()) {
-        throw Panne(info.exists() ? PasUneBaseMessage : BaseAbsenteMessage, chemin);
+        throw Panne(info.exists() ? messages::PasUneBase : messages::BaseAbsente, chemin);
     }
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly)) {
-        throw Panne(BaseIllisibleMessage, chemin);
+        throw Panne(messages::BaseIllisible, chemin);
     }
     const QByteArray entete("SQLite format 3", 16);
     if (fichier.read(entete.size()) != entete) {
-        throw Panne(PasUneBaseMessage, chemin);
+        throw Panne(messages::PasUneBase, chemin);
     }
 }
 
@@ -101,7 +101,7 @@ void VerifieContenu(Base& base)
     VerifieTables(base);
     const bool verifiable = QFileInfo(base.Chemin()).size() <= kTailleVerifiee;
     if (verifiable && LitTexte(base, QStringLiteral("pragma quick_check(1)")) != QLatin1String("ok")) {
-        throw Panne(BaseEndommageeMessage, base.Chemin());
+        throw Panne(messages::BaseEndommagee, base.Chemin());
     }
 }
 

@@ -4,7 +4,7 @@
 #include "application/windows/Style.h"
 #include "startup/GestionMedecins.h"
 #include "startup/Medecins.h"
-#include "startup/messagesDepart.h"
+#include "startup/messages.h"
 
 #include <QEvent>
 #include <QLabel>

@@ -3,7 +3,7 @@
 #include "prescription/windows/FrmOrdo.h"
 #include "settings/FichiersReglages.h"
 #include "settings/windows/FrmOptions.h"
-#include "startup/messagesDepart.h"
+#include "startup/messages.h"
 #include "startup/windows/FrmAPROPOS.h"
 #include "startup/windows/ProgrammeDeTest.h"
 
