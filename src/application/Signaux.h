@@ -27,6 +27,8 @@ Q_SIGNALS:
     void DocumentVide();
     /// The prescription in hand was reset or given other check boxes.
     void OrdonnanceChange();
+    /// The prescription in hand is a memorised one from now on, or is none any more.
+    void MemoireChange();
     /// The table of patients changed from outside its window.
     void PatientsChanges();
     /// A window asks for the end of the program: session closed, tray icon removed, windows unloaded.

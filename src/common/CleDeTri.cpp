@@ -1,6 +1,5 @@
 #include "common/CleDeTri.h"
 
-#include <QString>
 #include <algorithm>
 #include <array>
 
@@ -237,6 +236,17 @@ CleDeTri Cle(QStringView texte)
     CalculeRepliee(texte, cle);
     CalculeMajuscule(texte, cle);
     return cle;
+}
+
+QString Replie(QStringView texte)
+{
+    QString replie;
+    replie.reserve(texte.size());
+    Lecteur lecteur(texte);
+    while (const char16_t lettre = lecteur.Suivant()) {
+        replie.append(QChar(lettre));
+    }
+    return replie;
 }
 
 bool CommencePar(QStringView texte, QStringView debut)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QStringView>
 #include <compare>
 
@@ -20,6 +21,9 @@ struct CleDeTri
 };
 
 CleDeTri Cle(QStringView texte);
+
+/// The letters that a text is sorted as: without accents and in upper case, "œ" as "OE".
+QString Replie(QStringView texte);
 
 /// A single character in upper case; the length of a text never changes by it.
 inline QChar Majuscule(QChar c)

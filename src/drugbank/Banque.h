@@ -1,8 +1,13 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <optional>
 
 namespace drugbank {
+
+/// The product id of a CIP code; nothing when the bank does not know it.
+using ResolutionCip = std::function<std::optional<qint32>(const QString& cip)>;
 
 /// Where medications come from, and the session with a bank.
 struct Banque
@@ -13,7 +18,8 @@ struct Banque
     qint32 FiltreBanque = 64;                 ///< 64, 128 or 255
     qint32 SessionBanque = 0;
     QString DateExpirationBase;
-    bool ModuleAide = false; ///< the helper library could be loaded
+    ResolutionCip ProduitDuCip; ///< of the session in use, empty without one
+    bool ModuleAide = false;    ///< the helper library could be loaded
 };
 
 } // namespace drugbank

@@ -1,15 +1,9 @@
 #include "medication/Commandes.h"
 
-#include "application/messages.h"
 #include "medication/messages.h"
 #include "outside/Boites.h"
-#include "patients/Patient.h"
 #include "prescription/Apercu.h"
 #include "prescription/Editeur.h"
-#include "startup/Chemins.h"
-#include "storage/Base.h"
-#include "storage/Bases.h"
-#include "storage/Jeu.h"
 
 namespace medication {
 
@@ -105,18 +99,6 @@ void MontreOrdonnance(application::Contexte& contexte)
 {
     contexte.Apercu.ModeApercu = 0;
     prescription::Repeint(contexte);
-}
-
-void OuvreMemorisees(application::Contexte& contexte)
-{
-    const patients::Patient& patient = contexte.Patient;
-    const storage::Jeu modeles =
-        contexte.Bases.Medoc(contexte.Chemins.CheminTravail)
-            .Selection(QStringLiteral("ListeOrdos"),
-                       QStringLiteral("NomPatient = ? and Datenais = ? or NomPatient = '*'"),
-                       {patient.PatientCourant, patient.DateNaissance});
-    contexte.Dehors.Boites.Information(modeles.Fin() ? messages::AucunModele()
-                                                     : application::messages::PasEncoreDisponible());
 }
 
 std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noeud* noeud, int rang)

@@ -36,10 +36,6 @@ void PrepareOrdonnance(application::Contexte& contexte);
 /// `CmdOrdo` after it: the document becomes a prescription and is painted on the preview.
 void MontreOrdonnance(application::Contexte& contexte);
 
-/// `LblOrdoMem`: the message without a memorised prescription for this patient or for all. Their window is
-/// still to come, which is said where there is one.
-void OuvreMemorisees(application::Contexte& contexte);
-
 /// A click on the node of a row: what the boxes show. A row outside the tree changes nothing.
 std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noeud* noeud, int rang);
 

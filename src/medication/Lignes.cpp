@@ -15,11 +15,6 @@ constexpr int kFinDeLigne = 30;
 
 const QLatin1String kSaut("##");
 
-QString TexteLigne(const QString& texte, int blancs, const QString& identifiant)
-{
-    return QStringLiteral("  ") + TitreMontre(texte) + QString(blancs, u' ') + identifiant;
-}
-
 prescription::Entree EntreeDe(const Saisie& saisie)
 {
     return {TitreStocke(saisie.TxtMedoc), saisie.TxtPoso};
@@ -67,11 +62,6 @@ QString TitreStocke(const QString& texte)
     return titre == QLatin1String("#") ? kSaut : titre;
 }
 
-QString TitreMontre(const QString& titre)
-{
-    return titre == kSaut ? QStringLiteral("#") : titre;
-}
-
 prescription::LignesZone& Lignes(prescription::Ordonnance& ordonnance, Zone zone)
 {
     return zone == Zone::Un ? ordonnance.LstChoix1 : ordonnance.LstChoix2;
@@ -97,7 +87,8 @@ void AjouteLigne(prescription::Ordonnance& ordonnance, Zone zone, const Saisie& 
                  const QString& identifiant)
 {
     const int indice = AjouteEntree(ordonnance, zone, EntreeDe(saisie));
-    Lignes(ordonnance, zone).Ajoute({TexteLigne(saisie.TxtMedoc, kBlancsAjout, identifiant), indice});
+    Lignes(ordonnance, zone)
+        .Ajoute({prescription::TexteDeLigne(saisie.TxtMedoc, kBlancsAjout, identifiant), indice});
 }
 
 void RemetLigne(prescription::Ordonnance& ordonnance, Choix& choix, Zone zone, const Saisie& saisie)
@@ -105,14 +96,16 @@ void RemetLigne(prescription::Ordonnance& ordonnance, Choix& choix, Zone zone, c
     const int indice = IndexEdition(choix, zone);
     Entrees(ordonnance, zone)[indice] = EntreeDe(saisie);
     Lignes(ordonnance, zone)
-        .Ajoute({TexteLigne(saisie.TxtMedoc, kBlancsReprise, choix.IdentifiantRepris), indice});
+        .Ajoute(
+            {prescription::TexteDeLigne(saisie.TxtMedoc, kBlancsReprise, choix.IdentifiantRepris), indice});
     choix.OrigineEdition = 0;
 }
 
 void AjouteSaut(prescription::Ordonnance& ordonnance, Zone zone)
 {
     const int indice = AjouteEntree(ordonnance, zone, {kSaut, QString()});
-    Lignes(ordonnance, zone).Ajoute({TexteLigne(kSaut, kBlancsSaut, QStringLiteral("1")), indice});
+    Lignes(ordonnance, zone)
+        .Ajoute({prescription::TexteDeLigne(kSaut, kBlancsSaut, QStringLiteral("1")), indice});
 }
 
 std::optional<Saisie> PresseLigne(prescription::Ordonnance& ordonnance, Choix& choix, Zone zone, int rang)

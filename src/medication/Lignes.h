@@ -18,8 +18,7 @@ constexpr Zone Autre(Zone zone)
 
 /// A text as a stored title: trimmed, and a lone "#" is "##", the line jump.
 QString TitreStocke(const QString& texte);
-/// A stored title as the doctor meets it: "##" is "#".
-QString TitreMontre(const QString& titre);
+using prescription::TitreMontre;
 
 /// The rows of a zone and its array.
 prescription::LignesZone& Lignes(prescription::Ordonnance& ordonnance, Zone zone);

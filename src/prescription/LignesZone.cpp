@@ -69,6 +69,16 @@ void LignesZone::Efface()
     endResetModel();
 }
 
+QString TitreMontre(const QString& titre)
+{
+    return titre == QLatin1String("##") ? QStringLiteral("#") : titre;
+}
+
+QString TexteDeLigne(const QString& titre, int blancs, const QString& identifiant)
+{
+    return QStringLiteral("  ") + TitreMontre(titre) + QString(blancs, u' ') + identifiant;
+}
+
 QString IdentifiantDeLigne(const QString& texte)
 {
     return texte.right(kLongueurIdentifiant).trimmed();

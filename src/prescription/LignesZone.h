@@ -37,6 +37,10 @@ private:
     QList<Ligne> lignes_;
 };
 
+/// A stored title as the doctor meets it: "##", the line jump, is "#".
+QString TitreMontre(const QString& titre);
+/// The text of a row: two blanks, the title as shown, that many blanks, the identifier.
+QString TexteDeLigne(const QString& titre, int blancs, const QString& identifiant);
 /// The identifier at the end of a row: its last ten characters, trimmed.
 QString IdentifiantDeLigne(const QString& texte);
 /// The title in a row: what stays without the last thirty characters, trimmed.

@@ -1,13 +1,126 @@
 #include "prescription/Memoire.h"
 
-#include "application/messages.h"
-#include "outside/Boites.h"
+#include "application/Signaux.h"
+#include "outside/Tente.h"
+#include "patients/Patient.h"
 #include "prescription/Apercu.h"
 #include "prescription/Ordonnance.h"
+#include "prescription/OrdosMemorisees.h"
 #include "prescription/messages.h"
+#include "prescription/messagesMemoire.h"
+#include "startup/Chemins.h"
 #include "startup/GestionMedecins.h"
+#include "storage/Bases.h"
 
 namespace prescription {
+
+namespace {
+
+QString IdProduit(const Ligne& ligne, const QString& typeBase)
+{
+    const QString identifiant = IdentifiantDeLigne(ligne.Texte);
+    bool nombre = false;
+    identifiant.toInt(&nombre);
+    return nombre && typeBase != QLatin1String("BIP") ? identifiant : QStringLiteral("1");
+}
+
+void AjouteZone(QList<LigneMemorisee>& lignes, const LignesZone& rangees, const QList<Entree>& entrees,
+                int zone, const QString& typeBase)
+{
+    for (const Ligne& rangee : rangees.Lignes()) {
+        const Entree entree = entrees.value(rangee.Indice);
+        lignes.append(
+            {entree.Titre, entree.Posologie, zone, IdProduit(rangee, typeBase), QStringLiteral("1")});
+    }
+}
+
+/// The prescription in hand as it is stored: the second zone only where the page has two.
+QList<LigneMemorisee> LignesEnMain(const application::Contexte& contexte)
+{
+    const Ordonnance& ordonnance = contexte.Ordonnance;
+    const QString& typeBase = contexte.Banque.TypeBase;
+    QList<LigneMemorisee> lignes;
+    AjouteZone(lignes, ordonnance.LstChoix1, ordonnance.OrdoZone1, 1, typeBase);
+    if (ordonnance.ChkALD == 1) {
+        AjouteZone(lignes, ordonnance.LstChoix2, ordonnance.OrdoZone2, 2, typeBase);
+    }
+    return lignes;
+}
+
+CleMemo ClePour(const QString& titre, const patients::Patient& patient)
+{
+    return patient.PatientCourant.isEmpty() || patient.PatientCourant == QLatin1String("*")
+               ? CleMemo{titre}
+               : CleMemo{titre, patient.PatientCourant, patient.DateNaissance};
+}
+
+/// Where the prescription in hand stands in the tables, as far as this patient's lists reach it.
+std::optional<CleMemo> CleEnMain(const application::Contexte& contexte)
+{
+    const std::optional<CleMemo>& cle = contexte.Ordonnance.CleMemo;
+    const bool atteinte = contexte.Ordonnance.OrdoMemorisee == 1 && cle &&
+                          (cle->Generique() || *cle == CleMemo{cle->Titre, contexte.Patient.PatientCourant,
+                                                               contexte.Patient.DateNaissance});
+    return atteinte ? cle : std::nullopt;
+}
+
+bool EnregistreModifications(application::Contexte& contexte, storage::Base& medoc, const CleMemo& cle)
+{
+    const Ordonnance& ordonnance = contexte.Ordonnance;
+    if (!contexte.Dehors.Boites.Question(messages::EnregistrerModifications(ordonnance.TitreMemo))) {
+        return false;
+    }
+    RemplaceMemorisee(medoc, {cle, ordonnance.ChkALD}, LignesEnMain(contexte));
+    return true;
+}
+
+bool EnregistreSousUnNom(application::Contexte& contexte, storage::Base& medoc)
+{
+    outside::Boites& boites = contexte.Dehors.Boites;
+    Ordonnance& ordonnance = contexte.Ordonnance;
+    const QString titre =
+        boites.Demande({.Invite = messages::InviteNomMemo(), .Valeur = {}, .Titre = messages::TitreNomMemo()})
+            .value_or(QString())
+            .trimmed();
+    if (titre.isEmpty()) {
+        boites.Information(messages::NonMemorisee());
+        return false;
+    }
+    const QString& patient = contexte.Patient.PatientCourant;
+    const bool specifique = !patient.isEmpty() && boites.Question(messages::Specifique(patient));
+    const CleMemo cle = specifique ? ClePour(titre, contexte.Patient) : CleMemo{titre};
+    AjouteMemorisee(medoc, {cle, ordonnance.ChkALD}, LignesEnMain(contexte));
+    ordonnance.TitreMemo = titre;
+    ordonnance.CleMemo = cle;
+    return true;
+}
+
+void Memorise(application::Contexte& contexte)
+{
+    storage::Base& medoc = contexte.Bases.Medoc(contexte.Chemins.CheminTravail);
+    const std::optional<CleMemo> cle = CleEnMain(contexte);
+    const bool connue = cle && EstMemorisee(medoc, *cle);
+    if (connue ? EnregistreModifications(contexte, medoc, *cle) : EnregistreSousUnNom(contexte, medoc)) {
+        contexte.Ordonnance.OrdoMemorisee = 1;
+        Q_EMIT contexte.Signaux.MemoireChange();
+    }
+}
+
+bool SupprimeLaMemorisee(application::Contexte& contexte)
+{
+    outside::Boites& boites = contexte.Dehors.Boites;
+    Ordonnance& ordonnance = contexte.Ordonnance;
+    const std::optional<CleMemo> cle = CleEnMain(contexte);
+    if (boites.Question(messages::SupprimerDesMemorisees(ordonnance.TitreMemo), outside::Bouton::Non) &&
+        cle) {
+        SupprimeMemorisee(contexte.Bases.Medoc(contexte.Chemins.CheminTravail), *cle);
+    }
+    ordonnance.OrdoMemorisee = 0;
+    Q_EMIT contexte.Signaux.MemoireChange();
+    return boites.Question(messages::EffacerActuelle(), outside::Bouton::Non);
+}
+
+} // namespace
 
 void MemoriseOrdonnance(application::Contexte& contexte)
 {
@@ -21,23 +134,27 @@ void MemoriseOrdonnance(application::Contexte& contexte)
     } else if (ordonnance.LstChoix1.Vide() && ordonnance.LstChoix2.Vide()) {
         boites.Stop(messages::RienAMemoriser());
     } else {
-        boites.Information(application::messages::PasEncoreDisponible());
+        outside::Tente(boites, [&] { Memorise(contexte); });
     }
 }
 
-void SupprimeOrdonnanceMemorisee(application::Contexte& contexte)
+bool SupprimeOrdonnanceMemorisee(application::Contexte& contexte)
 {
     outside::Boites& boites = contexte.Dehors.Boites;
     if (!startup::ExigeMedecin(contexte)) {
-        return;
+        return false;
     }
     if (contexte.Apercu.ModeApercu == 1) {
         boites.Information(messages::CertificatNonSupprime());
-    } else if (contexte.Ordonnance.OrdoMemorisee == 0) {
-        boites.Information(messages::PasUneMemorisee());
-    } else {
-        boites.Information(application::messages::PasEncoreDisponible());
+        return false;
     }
+    if (contexte.Ordonnance.OrdoMemorisee == 0) {
+        boites.Information(messages::PasUneMemorisee());
+        return false;
+    }
+    bool nouvelle = false;
+    outside::Tente(boites, [&] { nouvelle = SupprimeLaMemorisee(contexte); });
+    return nouvelle;
 }
 
 } // namespace prescription

@@ -4,11 +4,14 @@
 
 namespace prescription {
 
-/// `CmdEnr`: refuses without a doctor, a certificate and an empty prescription, each with its message;
-/// keeping a prescription is not available yet, and that is said.
+/// `CmdEnr`: refuses without a doctor, a certificate and an empty prescription, each with its message, then
+/// asks and stores the prescription in hand under its title or a new one. A failure is told, and nothing
+/// is changed.
 void MemoriseOrdonnance(application::Contexte& contexte);
 
-/// `CmdSupp`: refuses without a doctor, a certificate and a prescription that is not a memorised one.
-void SupprimeOrdonnanceMemorisee(application::Contexte& contexte);
+/// `CmdSupp`: refuses without a doctor, a certificate and a prescription that is not a memorised one, then
+/// asks and deletes it. True when the prescription in hand is to be given up for a new one. A failure is
+/// told, and nothing is changed.
+bool SupprimeOrdonnanceMemorisee(application::Contexte& contexte);
 
 } // namespace prescription

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "prescription/CleMemo.h"
 #include "prescription/LignesZone.h"
+
+#include <optional>
 
 namespace prescription {
 
@@ -27,6 +30,9 @@ struct Ordonnance
     quint8 ChkCiv = 1; ///< 1: the name is printed with its civility
     quint8 OrdoMemorisee = 0;
     QString TitreMemo;
+    /// Where `TitreMemo` stands in the tables; nothing when its row stood beyond the 99th of its list.
+    std::optional<prescription::CleMemo> CleMemo;
+    QString CodesMemo;    ///< "*" and `Converti` of each row of the last loading
     QString LigneJournal; ///< of the last painting
 };
 

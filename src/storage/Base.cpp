@@ -37,6 +37,7 @@ Base::Base(const QString& chemin, GenreBase genre)
     try {
         Ouvre();
         VerifieContenu(*this);
+        CompleteIndexes(*this);
     } catch (...) {
         Ferme();
         throw;

@@ -24,7 +24,7 @@ public:
     using Crochet = std::function<bool(const QString& instruction)>;
 
     /// Opens an existing file and checks it: a database, ours, of this kind and version, whole.
-    /// Nothing is created and nothing is written over.
+    /// Nothing is created and nothing is written over but indexes that are missing.
     Base(const QString& chemin, GenreBase genre);
     ~Base();
     Base(const Base&) = delete;

@@ -51,6 +51,9 @@ QStringList InstructionsDe(GenreBase genre)
     for (const Table& table : Tables(genre)) {
         instructions.append(CreateDe(table));
     }
+    for (const Index& index : Indexes(genre)) {
+        instructions.append(CreeIndexSql(index));
+    }
     return instructions << QStringLiteral("commit");
 }
 

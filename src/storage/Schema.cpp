@@ -70,6 +70,15 @@ QList<Table> TablesOrdo()
     };
 }
 
+QList<Index> IndexesMedoc()
+{
+    return {
+        {QStringLiteral("OrdoEnrTitre"),
+         QStringLiteral("OrdoEnr"),
+         {QStringLiteral("Titre"), QStringLiteral("Patient")}},
+        {QStringLiteral("ListeOrdosPatient"), QStringLiteral("ListeOrdos"), {QStringLiteral("NomPatient")}}};
+}
+
 } // namespace
 
 int MarqueApplication(GenreBase genre)
@@ -89,6 +98,23 @@ const Table* ChercheTable(GenreBase genre, const QString& nom)
     const QList<Table>& tables = Tables(genre);
     const auto trouvee = std::ranges::find(tables, nom, &Table::Nom);
     return trouvee == tables.end() ? nullptr : &*trouvee;
+}
+
+const QList<Index>& Indexes(GenreBase genre)
+{
+    static const QList<Index> medoc = IndexesMedoc();
+    static const QList<Index> ordo;
+    return genre == GenreBase::Medoc ? medoc : ordo;
+}
+
+QString CreeIndexSql(const Index& index)
+{
+    QStringList colonnes;
+    for (const QString& colonne : index.Colonnes) {
+        colonnes.append(Cite(colonne));
+    }
+    return QStringLiteral("create index if not exists %1 on %2 (%3)")
+        .arg(Cite(index.Nom), Cite(index.Table), colonnes.join(QLatin1String(", ")));
 }
 
 QString Cite(const QString& nom)

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace storage {
 
@@ -21,6 +22,14 @@ struct Table
     QList<Colonne> Colonnes;
 };
 
+/// What makes the selections on a table quick. No part of the format: a file without it works the same.
+struct Index
+{
+    QString Nom;
+    QString Table;
+    QStringList Colonnes;
+};
+
 /// The marks in a file's header that tell our databases apart, and the version of the layout.
 int MarqueApplication(GenreBase genre);
 inline constexpr int kVersionSchema = 1;
@@ -30,6 +39,12 @@ const QList<Table>& Tables(GenreBase genre);
 
 /// The table of that name, or null.
 const Table* ChercheTable(GenreBase genre, const QString& nom);
+
+/// The indexes of a kind of database.
+const QList<Index>& Indexes(GenreBase genre);
+
+/// The statement that creates an index where it is missing.
+QString CreeIndexSql(const Index& index);
 
 /// The name as a statement needs it: in double quotes, inner ones doubled.
 QString Cite(const QString& nom);

@@ -1,5 +1,6 @@
 #include "storage/Verification.h"
 
+#include "common/Tolere.h"
 #include "storage/Base.h"
 #include "storage/Pannes.h"
 #include "storage/Schema.h"
@@ -103,6 +104,25 @@ void VerifieContenu(Base& base)
     if (verifiable && LitTexte(base, QStringLiteral("pragma quick_check(1)")) != QLatin1String("ok")) {
         throw Panne(messages::BaseEndommagee, base.Chemin());
     }
+}
+
+void CompleteIndexes(Base& base)
+{
+    QStringList presents;
+    base.Parcourt(QStringLiteral("select name from sqlite_master where type = 'index'"), {},
+                  [&](const Rangee& rangee) { presents.append(rangee.Texte(0)); });
+    const QString attente = LitTexte(base, QStringLiteral("pragma busy_timeout"));
+    for (const Index& index : Indexes(base.Genre())) {
+        if (!presents.contains(index.Nom)) {
+            // Without it the selections are slow and right. A share may be read-only, or in use: nobody
+            // waits.
+            common::Tolere([&] {
+                base.Execute(QStringLiteral("pragma busy_timeout = 0"));
+                base.Execute(CreeIndexSql(index));
+            });
+        }
+    }
+    base.Execute(QStringLiteral("pragma busy_timeout = ") + attente);
 }
 
 } // namespace storage

@@ -13,4 +13,8 @@ void VerifieFichier(const QString& chemin);
 /// in their order, and undamaged as far as that can be seen quickly.
 void VerifieContenu(Base& base);
 
+/// Adds the indexes that a file made by an earlier version lacks. One that cannot be added, as in a file
+/// that is only to be read, stays missing.
+void CompleteIndexes(Base& base);
+
 } // namespace storage

@@ -1,19 +1,18 @@
 #include "storage/Schema.h"
 #include "support/BaseDeTest.h"
+#include "support/SansPrivilege.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTest>
 
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
-
 using storage::GenreBase;
 using support::AjouteLigne;
 using support::BaseDeTest;
 using support::Lignes;
+using support::OuvreATous;
 using support::PhraseDEchec;
+using support::SansPrivilege;
 
 namespace {
 
@@ -37,39 +36,6 @@ QString PhraseDOuverture(const QString& chemin)
 {
     return PhraseDEchec([&] { storage::Base base(chemin, GenreBase::Medoc); });
 }
-
-/// Lets every user into the directory, none of them may change it but its owner.
-void OuvreATous(const QString& dossier)
-{
-    QFile::setPermissions(dossier, QFile::permissions(dossier) | QFile::ReadGroup | QFile::ExeGroup |
-                                       QFile::ReadOther | QFile::ExeOther);
-}
-
-/// Leaves the rights of root while it lives, since nothing is read-only for root.
-class SansPrivilege
-{
-public:
-    SansPrivilege()
-    {
-#ifdef Q_OS_UNIX
-        constexpr uid_t kPersonne = 65534;
-        if (::geteuid() == 0) {
-            actif_ = ::seteuid(kPersonne) == 0;
-        }
-#endif
-    }
-    ~SansPrivilege()
-    {
-#ifdef Q_OS_UNIX
-        if (actif_ && ::seteuid(0) != 0) {
-            qFatal("the test cannot take its rights back");
-        }
-#endif
-    }
-
-private:
-    bool actif_ = false;
-};
 
 } // namespace
 

@@ -44,6 +44,7 @@ class TestSchema : public QObject
 private Q_SLOTS:
     void ALesTablesDeMedoc();
     void ALesTablesDOrdo();
+    void ALesIndex();
     void CommenceParUnMedocVide();
     void CommenceParLEnteteVierge();
     void CommenceParLesPolices();
@@ -74,6 +75,16 @@ void TestSchema::ALesTablesDOrdo()
              Textes({u"Certificat: Police Taille Gras Italique Souligne", u"CouleurPET: Couleur",
                      u"Entete: NumLigne Texte Police Taille Gras Italique Souligne Espaces",
                      u"Misenpage: NumLigne Police Taille Gras Italique Souligne"}));
+}
+
+void TestSchema::ALesIndex()
+{
+    BaseDeTest base;
+    QStringList index;
+    base.Medoc().Parcourt(
+        QStringLiteral("select name, tbl_name from sqlite_master where type = 'index' order by name"), {},
+        [&](const storage::Rangee& rangee) { index.append(rangee.Texte(0) + u' ' + rangee.Texte(1)); });
+    QCOMPARE(index, Textes({u"ListeOrdosPatient ListeOrdos", u"OrdoEnrTitre OrdoEnr"}));
 }
 
 void TestSchema::CommenceParUnMedocVide()

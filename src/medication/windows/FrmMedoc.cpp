@@ -90,8 +90,7 @@ void FrmMedoc::RelieLignes()
         c_.TxtCherche->setFocus();
     });
     connect(c_.CmdClear, &QPushButton::clicked, this, &FrmMedoc::ToutEfface);
-    connect(c_.LblOrdoMem, &QPushButton::clicked, this,
-            [this] { Tente([this] { OuvreMemorisees(contexte_); }); });
+    connect(c_.LblOrdoMem, &QPushButton::clicked, this, &FrmMedoc::OuvreMemorisees);
     connect(c_.CmdAnnule, &QPushButton::clicked, this, [this] {
         ToutEfface();
         hide();

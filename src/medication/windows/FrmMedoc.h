@@ -59,6 +59,9 @@ private:
     void LacheLigne(Zone zone, const QPoint& point);
     void ToutEfface();
     void CreeOrdonnance();
+    /// `LblOrdoMem`, and again as long as a converted prescription is to be chosen anew.
+    void OuvreMemorisees();
+    bool ChoisitMemorisee();
 
     void SuitOrdonnance();
     void MontreZones();

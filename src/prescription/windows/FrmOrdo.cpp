@@ -8,6 +8,7 @@
 #include "prescription/Commandes.h"
 #include "prescription/Editeur.h"
 #include "prescription/Impression.h"
+#include "prescription/Memoire.h"
 #include "prescription/windows/BarreCommandes.h"
 #include "prescription/windows/VueFeuille.h"
 #include "settings/Reglages.h"
@@ -53,6 +54,7 @@ void FrmOrdo::EcouteSignaux()
     connect(signaux, &application::Signaux::ReglagesChanges, this, &FrmOrdo::SuitReglages);
     connect(signaux, &application::Signaux::ApercuChange, this, &FrmOrdo::SuitApercu);
     connect(signaux, &application::Signaux::OrdonnanceChange, this, &FrmOrdo::SuitOrdonnance);
+    connect(signaux, &application::Signaux::MemoireChange, this, &FrmOrdo::SuitOrdonnance);
     connect(CboMed_, &QComboBox::activated, this,
             [this](int rang) { ChangeMedecinDeLEditeur(contexte_, rang); });
     connect(ChkCiv_, &QCheckBox::clicked, this, [this](bool coche) {
@@ -114,6 +116,13 @@ void FrmOrdo::Imprime()
     }
     if (ImprimeDocument(contexte_) && contexte_.Reglages.Options.MinimiseImpression == 1) {
         showMinimized();
+    }
+}
+
+void FrmOrdo::Supprime()
+{
+    if (SupprimeOrdonnanceMemorisee(contexte_)) {
+        Nouvelle();
     }
 }
 

@@ -49,6 +49,7 @@ private:
     void Pharma();
     void Date();
     void Imprime();
+    void Supprime();
     void Accueil();
     void MontreAide();
     void OuvreOptions();

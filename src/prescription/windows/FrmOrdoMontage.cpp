@@ -58,7 +58,7 @@ QList<Commande> FrmOrdo::CommandesDuProgramme()
          [this] { MemoriseOrdonnance(contexte_); }},
         {QStringLiteral("CmdSupp"), QStringLiteral("&Supprimer"), QStringLiteral("&Supprimer"),
          QStringLiteral("Supprimer l'ordonnance mémorisée"), QStringLiteral("trash3"), Groupe::Memoire,
-         [this] { SupprimeOrdonnanceMemorisee(contexte_); }},
+         [this] { Supprime(); }},
         {QStringLiteral("CmdAccueil"), QStringLiteral("&Accueil"), QStringLiteral("&Accueil"),
          QStringLiteral("Revenir à la fenêtre d'accueil"), QStringLiteral("house"), Groupe::Programme,
          [this] { Accueil(); }},

@@ -5,6 +5,7 @@
 #include "patients/windows/FrmPatient.h"
 #include "prescription/Editeur.h"
 #include "prescription/Ordonnance.h"
+#include "prescription/windows/FrmMemo.h"
 #include "prescription/windows/FrmOrdo.h"
 #include "settings/Reglages.h"
 #include "settings/windows/FrmOptions.h"
@@ -231,6 +232,7 @@ void TestAccessibilite::Fenetres()
     rang("FrmMedoc", [](P& p) -> QWidget& { return MontreMedoc(p, 0); });
     rang("FrmMedoc, two zones", [](P& p) -> QWidget& { return MontreMedoc(p, 1); });
     rang("FrmPoso", &Montre<medication::FrmPoso>);
+    rang("FrmMemo", &Montre<prescription::FrmMemo>);
     rang("FrmOptions", &Montre<settings::FrmOptions>);
     rang("FrmIAM", &Montre<drugbank::FrmIAM>);
 }

@@ -124,10 +124,8 @@ void TestFrmOrdo::WhatIsNotThereYetSaysSo()
     Bureau bureau;
     bureau.Prescrit(QStringLiteral("ASPIRINE"));
     bureau.Ouvre();
-    bureau.Boites.AttendInformation(application::messages::PasEncoreDisponible())
-        .AttendInformation(application::messages::PasEncoreDisponible());
+    bureau.Boites.AttendInformation(application::messages::PasEncoreDisponible());
     bureau.Fenetre->Execute(QStringLiteral("CmdCertif"));
-    bureau.Fenetre->Execute(QStringLiteral("CmdEnr"));
     QVERIFY(bureau.Boites.Epuise());
     QCOMPARE(bureau.Etat.Ordonnance.LstChoix1.Lignes().size(), 1);
 }

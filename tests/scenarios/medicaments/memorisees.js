@@ -1,4 +1,4 @@
-// Les ordonnances mémorisées : sans modèle, un message.
+// Les ordonnances mémorisées : sans modèle, un message ; avec un modèle, leur fenêtre.
 installer();
 clic("FrmDepart.CmdNO");
 clic("FrmOrdo.CmdPharma");
@@ -13,8 +13,11 @@ ajouter("Medoc", "ListeOrdos", ["HTA", "Monsieur  L'ÉTÉ  \"Paul\"", 0, "20/03/
 clic("FrmMedoc.LblOrdoMem");
 boites([["Aucun modèle d'ordonnance n'est enregistré.", "OK"]]);
 
-// Un modèle pour tous : la fenêtre n'est pas encore là, et cela se dit.
+// Un modèle pour tous.
 ajouter("Medoc", "ListeOrdos", ["Rhume", "*", 0, "0"]);
 clic("FrmMedoc.LblOrdoMem");
-boites([["Cette fonction n'est pas encore disponible dans cette version.", "OK"]]);
+egal(lignes("FrmMemo.LstMemo(0)"), ["1- Rhume"], "il est proposé");
+egal(lignes("FrmMemo.LstMemo(1)"), [], "celui de l'autre patient ne l'est pas");
+clic("FrmMemo.CmdQuitter");
+vrai(ouverte("FrmMedoc"), "retour à la pharmacie");
 clic("FrmMedoc.CmdAnnule");

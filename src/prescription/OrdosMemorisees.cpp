@@ -1,0 +1,196 @@
+#include "prescription/OrdosMemorisees.h"
+
+#include "patients/Patient.h"
+#include "storage/Base.h"
+#include "storage/Jeu.h"
+
+namespace prescription {
+
+namespace {
+
+constexpr int kIdProduit = 6; // columns of OrdoEnr
+constexpr int kConverti = 7;
+
+QString Liste()
+{
+    return QStringLiteral("ListeOrdos");
+}
+
+QString Lignes()
+{
+    return QStringLiteral("OrdoEnr");
+}
+
+/// The condition that a key stands for, and its values.
+struct Condition
+{
+    QString Texte;
+    QVariantList Valeurs;
+};
+
+Condition DansListe(const CleMemo& cle)
+{
+    if (cle.Generique()) {
+        return {QStringLiteral("Titre = ? and NomPatient = '*'"), {cle.Titre}};
+    }
+    return {QStringLiteral("Titre = ? and NomPatient = ? and Datenais = ?"),
+            {cle.Titre, cle.NomPatient, cle.Datenais}};
+}
+
+Condition DansLignes(const CleMemo& cle)
+{
+    if (cle.Generique()) {
+        return {QStringLiteral("Titre = ? and Patient = '*'"), {cle.Titre}};
+    }
+    return {QStringLiteral("Titre = ? and Patient = ? and Datenais = ?"),
+            {cle.Titre, cle.NomPatient, cle.Datenais}};
+}
+
+int SupprimeLignes(storage::Base& medoc, const CleMemo& cle)
+{
+    const Condition condition = DansLignes(cle);
+    return medoc.SupprimeOu(Lignes(), condition.Texte, condition.Valeurs);
+}
+
+void InscritDansListe(storage::Base& medoc, const Memorisee& memorisee)
+{
+    const CleMemo& cle = memorisee.Cle;
+    medoc.Execute(
+        QStringLiteral("insert into ListeOrdos (Titre, NomPatient, ALD, Datenais) values (?, ?, ?, ?)"),
+        {cle.Titre, cle.NomPatient, memorisee.ALD, cle.Datenais});
+}
+
+void AjouteLignes(storage::Base& medoc, const CleMemo& cle, const QList<LigneMemorisee>& lignes)
+{
+    for (const LigneMemorisee& ligne : lignes) {
+        medoc.Execute(
+            QStringLiteral("insert into OrdoEnr (Titre, TitreLigne, Posologie, Zone, Patient, Datenais, "
+                           "IdProduit, Converti) values (?, ?, ?, ?, ?, ?, ?, ?)"),
+            {cle.Titre, ligne.TitreLigne, ligne.Posologie, ligne.Zone, cle.NomPatient, cle.Datenais,
+             ligne.IdProduit.toInt(), ligne.Converti.toInt()});
+    }
+}
+
+/// What a line of an old version is given; nothing when the bank does not know its code.
+struct Nouveau
+{
+    bool Connu = true;
+    std::optional<qint32> IdProduit;
+};
+
+Nouveau NouveauDe(const storage::Jeu& ligne, const drugbank::ResolutionCip& produitDuCip)
+{
+    const QString code = ligne.Texte(kIdProduit);
+    const bool aucun = code.isEmpty() || code == QLatin1String("0") || code == QLatin1String("1");
+    if (aucun || ligne.Texte(kConverti) == QLatin1String("1")) {
+        return {};
+    }
+    const std::optional<qint32> produit = produitDuCip ? produitDuCip(code) : std::nullopt;
+    return {produit.has_value(), produit};
+}
+
+void EcritNouveau(storage::Jeu& ligne, const Nouveau& nouveau)
+{
+    ligne.Edit();
+    if (nouveau.IdProduit) {
+        ligne.Ecris(kIdProduit, *nouveau.IdProduit);
+    }
+    ligne.Ecris(kConverti, 1);
+    ligne.Update();
+}
+
+} // namespace
+
+QList<Memorisee> ListeMemorisees(storage::Base& medoc, const patients::Patient& patient)
+{
+    QList<Memorisee> liste;
+    const auto lit = [&](const storage::Rangee& rangee) {
+        const CleMemo cle{rangee.Texte(0), rangee.Texte(1), rangee.Texte(3)};
+        liste.append({cle, static_cast<quint8>(rangee.Entier(2) != 0)});
+    };
+    medoc.Parcourt(QStringLiteral("select Titre, NomPatient, ALD, Datenais from ListeOrdos "
+                                  "where NomPatient = ? and Datenais = ? or NomPatient = '*' order by rowid"),
+                   {patient.PatientCourant, patient.DateNaissance}, lit);
+    return liste;
+}
+
+QList<LigneMemorisee> LitMemorisee(storage::Base& medoc, const CleMemo& cle)
+{
+    QList<LigneMemorisee> lignes;
+    const Condition condition = DansLignes(cle);
+    const auto lit = [&](const storage::Rangee& rangee) {
+        lignes.append({rangee.Texte(0), rangee.Texte(1), rangee.Entier(2) == 2 ? 2 : 1, rangee.Texte(3),
+                       rangee.Texte(4)});
+    };
+    medoc.Parcourt(QStringLiteral("select TitreLigne, Posologie, Zone, IdProduit, Converti from OrdoEnr "
+                                  "where %1 order by rowid")
+                       .arg(condition.Texte),
+                   condition.Valeurs, lit);
+    return lignes;
+}
+
+bool EstMemorisee(storage::Base& medoc, const CleMemo& cle)
+{
+    const Condition condition = DansListe(cle);
+    return !medoc.Selection(Liste(), condition.Texte, condition.Valeurs).Fin();
+}
+
+void AjouteMemorisee(storage::Base& medoc, const Memorisee& memorisee, const QList<LigneMemorisee>& lignes)
+{
+    storage::Transaction transaction(medoc);
+    InscritDansListe(medoc, memorisee);
+    AjouteLignes(medoc, memorisee.Cle, lignes);
+    transaction.Valide();
+}
+
+void RemplaceMemorisee(storage::Base& medoc, const Memorisee& memorisee, const QList<LigneMemorisee>& lignes)
+{
+    const Condition condition = DansListe(memorisee.Cle);
+    storage::Transaction transaction(medoc);
+    SupprimeLignes(medoc, memorisee.Cle);
+    AjouteLignes(medoc, memorisee.Cle, lignes);
+    if (!EstMemorisee(medoc, memorisee.Cle)) {
+        InscritDansListe(medoc, memorisee); // another station has just deleted it
+    }
+    medoc.Execute(QStringLiteral("update ListeOrdos set ALD = ? where ") + condition.Texte,
+                  QVariantList{memorisee.ALD} + condition.Valeurs);
+    transaction.Valide();
+}
+
+void SupprimeMemorisee(storage::Base& medoc, const CleMemo& cle)
+{
+    const Condition condition = DansListe(cle);
+    storage::Transaction transaction(medoc);
+    medoc.SupprimeOu(Liste(), condition.Texte, condition.Valeurs);
+    SupprimeLignes(medoc, cle);
+    transaction.Valide();
+}
+
+void MarqueConvertie(storage::Base& medoc, const CleMemo& cle)
+{
+    const Condition condition = DansLignes(cle);
+    storage::Transaction transaction(medoc);
+    medoc.Execute(QStringLiteral("update OrdoEnr set Converti = 1 where ") + condition.Texte,
+                  condition.Valeurs);
+    transaction.Valide();
+}
+
+Conversion ConvertitMemorisee(storage::Base& medoc, const CleMemo& cle,
+                              const drugbank::ResolutionCip& produitDuCip)
+{
+    Conversion conversion;
+    const Condition condition = DansLignes(cle);
+    storage::Transaction transaction(medoc);
+    storage::Jeu lignes = medoc.Selection(Lignes(), condition.Texte, condition.Valeurs);
+    for (; !lignes.Fin(); lignes.MoveNext()) {
+        const Nouveau nouveau = NouveauDe(lignes, produitDuCip);
+        if (nouveau.Connu) {
+            EcritNouveau(lignes, nouveau);
+        }
+        ++(nouveau.Connu ? conversion.Converties : conversion.Inconnues);
+    }
+    transaction.Valide();
+    return conversion;
+}
+
+} // namespace prescription
