@@ -28,4 +28,7 @@ void EcritBaseCfg(const drugbank::Banque& banque, const QString& chemin);
 /// stays. The variables are left as they are when it throws `Erreur`.
 void ChargeLook(Look& look, storage::Base& ordo);
 
+/// Makes the font of certificates the one row of `Certificat`. Throws `Erreur`; the table is as before then.
+void EcritPoliceCertificat(const page::Police& police, storage::Base& ordo);
+
 } // namespace settings

@@ -55,4 +55,21 @@ void ChargeLook(Look& look, storage::Base& ordo)
     look = lu;
 }
 
+void EcritPoliceCertificat(const page::Police& police, storage::Base& ordo)
+{
+    storage::Transaction transaction(ordo);
+    auto jeu = ordo.Table(QStringLiteral("Certificat"));
+    for (; !jeu.Fin(); jeu.MoveNext()) {
+        jeu.Delete();
+    }
+    jeu.AddNew();
+    jeu.Ecris(0, police.Nom);
+    jeu.Ecris(1, police.Taille);
+    jeu.Ecris(2, police.Gras);
+    jeu.Ecris(3, police.Italique);
+    jeu.Ecris(4, police.Souligne);
+    jeu.Update();
+    transaction.Valide();
+}
+
 } // namespace settings

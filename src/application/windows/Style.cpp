@@ -101,6 +101,8 @@ QColor Teinte(Ton ton)
         return QColor(130, 146, 166);
     case Ton::Rouge:
         return QColor(180, 35, 24);
+    case Ton::RougeSombre:
+        return QColor(192, 0, 0);
     case Ton::Blanc:
         break;
     }

@@ -33,10 +33,11 @@ enum class Ton {
     Encre,   ///< what acts: primary button, focus, headings, links, selection
     Jaune,   ///< medications used before
     Texte,
-    Discret, ///< captions beside a control, contrast 4.5 to 1 on white
-    Filet,   ///< hairlines
-    Eteint,  ///< what is disabled
-    Rouge,   ///< what forbids or destroys, nothing else
+    Discret,     ///< captions beside a control, contrast 4.5 to 1 on white
+    Filet,       ///< hairlines
+    Eteint,      ///< what is disabled
+    Rouge,       ///< what forbids or destroys, nothing else
+    RougeSombre, ///< 192, 0, 0: the command that hands a certificate to the page
     Blanc
 };
 
@@ -59,6 +60,10 @@ QPushButton* Bouton(const QString& nomObjet, const QString& texte, const QString
 /// The window's one primary button: in a dialogue Enter presses it.
 QPushButton* BoutonPrincipal(const QString& nomObjet, const QString& texte, const QString& icone,
                              QWidget* parent);
+/// The same with its caption in dark red on white: it puts another document in the place of the one on the
+/// page.
+QPushButton* BoutonPrincipalRouge(const QString& nomObjet, const QString& texte, const QString& icone,
+                                  QWidget* parent);
 /// A button that destroys something.
 QPushButton* BoutonDestructeur(const QString& nomObjet, const QString& texte, const QString& icone,
                                QWidget* parent);

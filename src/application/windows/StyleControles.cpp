@@ -71,6 +71,15 @@ QPushButton* BoutonPrincipal(const QString& nomObjet, const QString& texte, cons
     return bouton;
 }
 
+QPushButton* BoutonPrincipalRouge(const QString& nomObjet, const QString& texte, const QString& icone,
+                                  QWidget* parent)
+{
+    QPushButton* bouton = BoutonPrincipal(nomObjet, texte, {}, parent);
+    bouton->setIcon(IconeOuRien(icone, Ton::RougeSombre));
+    bouton->setProperty("teinte", QStringLiteral("rouge"));
+    return bouton;
+}
+
 QPushButton* BoutonDestructeur(const QString& nomObjet, const QString& texte, const QString& icone,
                                QWidget* parent)
 {

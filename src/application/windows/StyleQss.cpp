@@ -20,6 +20,13 @@ QPushButton[genre="principal"]:pressed { background: @encreAppui@; }
 QPushButton[genre="principal"]:focus { border: 3px double white; padding: 4px 11px; }
 QPushButton[genre="principal"]:disabled { background: @filet@; border: 1px solid @filet@; color: @discret@;
     padding: 6px 13px; }
+QPushButton[teinte="rouge"][genre="principal"] { background: @blanc@; border: 2px solid @encre@; color: @rougeSombre@;
+    padding: 5px 12px; }
+QPushButton[teinte="rouge"][genre="principal"]:hover { background: @page@; }
+QPushButton[teinte="rouge"][genre="principal"]:pressed { background: @filet@; }
+QPushButton[teinte="rouge"][genre="principal"]:focus { border: 3px double @encre@; padding: 4px 11px; }
+QPushButton[teinte="rouge"][genre="principal"]:disabled { background: @filet@; border: 1px solid @filet@;
+    color: @discret@; padding: 6px 13px; }
 QPushButton[genre="destructeur"] { color: @rouge@; }
 QPushButton[genre="destructeur"]:hover { background: @rougeSurvol@; border-color: @rouge@; }
 QPushButton[genre="destructeur"]:focus { border-color: @rouge@; }
@@ -170,6 +177,7 @@ QString FeuilleDeStyle()
     pose(QLatin1String("@texte@"), Teinte(Ton::Texte));
     pose(QLatin1String("@discret@"), Teinte(Ton::Discret));
     pose(QLatin1String("@eteint@"), Teinte(Ton::Eteint));
+    pose(QLatin1String("@rougeSombre@"), Teinte(Ton::RougeSombre));
     pose(QLatin1String("@rouge@"), Teinte(Ton::Rouge));
     pose(QLatin1String("@rougeSurvol@"), Teinte(Ton::Rouge).lighter(520));
     return feuille;

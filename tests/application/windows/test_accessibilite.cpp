@@ -1,3 +1,4 @@
+#include "certificates/windows/FrmCertif.h"
 #include "drugbank/windows/FrmIAM.h"
 #include "medication/windows/FrmMedoc.h"
 #include "medication/windows/FrmPoso.h"
@@ -234,6 +235,7 @@ void TestAccessibilite::Fenetres()
     rang("FrmPoso", &Montre<medication::FrmPoso>);
     rang("FrmMemo", &Montre<prescription::FrmMemo>);
     rang("FrmOptions", &Montre<settings::FrmOptions>);
+    rang("FrmCertif", &Montre<certificates::FrmCertif>);
     rang("FrmIAM", &Montre<drugbank::FrmIAM>);
 }
 
