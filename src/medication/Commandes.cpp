@@ -1,9 +1,12 @@
 #include "medication/Commandes.h"
 
+#include "common/Tolere.h"
 #include "medication/messages.h"
 #include "outside/Boites.h"
 #include "prescription/Apercu.h"
 #include "prescription/Editeur.h"
+#include "startup/Chemins.h"
+#include "storage/Bases.h"
 
 namespace medication {
 
@@ -26,6 +29,13 @@ std::optional<Zone> DemandeZone(application::Contexte& contexte, outside::Genre 
         return std::nullopt;
     }
     return reponse == Bouton::Oui ? Zone::Un : Zone::Deux;
+}
+
+/// The CIP of the pack whose name the boxes hold; empty for any other medication.
+QString PackEnMain(const Choix& choix, const Noeud* noeud)
+{
+    const bool dUnPack = choix.OrigineEdition == 0 && noeud && noeud->Etiquette.contains(u'/');
+    return dUnPack ? noeud->Etiquette.section(u'/', 0, 0) : QString();
 }
 
 } // namespace
@@ -112,6 +122,20 @@ std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noe
     const std::optional<Saisie> lue = pharmacie.Lit(*noeud);
     choix.EtiquetteLue = noeud->Etiquette;
     return lue.value_or(Saisie{noeud->Texte, QString()});
+}
+
+void RemplitOffres(application::Contexte& contexte, OffresPosologie& offres, const QString& nom,
+                   const Noeud* noeud)
+{
+    QList<Offre> lues;
+    if (!nom.trimmed().isEmpty()) {
+        // A hint that cannot be read is as good as none.
+        common::Tolere([&] {
+            lues = LitOffres(contexte.Bases.Medoc(contexte.Chemins.CheminTravail), nom,
+                             PackEnMain(contexte.Choix, noeud));
+        });
+    }
+    offres.Remplit(std::move(lues));
 }
 
 bool PresseRecherche(Choix& choix)

@@ -3,6 +3,7 @@
 #include "application/Contexte.h"
 #include "medication/ArbreMedicaments.h"
 #include "medication/Lignes.h"
+#include "medication/OffresPosologie.h"
 #include "medication/Pharmacie.h"
 
 namespace medication {
@@ -38,6 +39,11 @@ void MontreOrdonnance(application::Contexte& contexte);
 
 /// A click on the node of a row: what the boxes show. A row outside the tree changes nothing.
 std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noeud* noeud, int rang);
+
+/// The posologies to offer for the name in hand; `noeud`: the selected node, null for none. Whatever cannot
+/// be read leaves none.
+void RemplitOffres(application::Contexte& contexte, OffresPosologie& offres, const QString& nom,
+                   const Noeud* noeud);
 
 /// A press in the search box. True when its whole text is to be selected.
 bool PresseRecherche(Choix& choix);

@@ -70,13 +70,24 @@ QList<Table> TablesOrdo()
     };
 }
 
+Index IndexDe(const char16_t* nom, const char16_t* table, std::initializer_list<const char16_t*> colonnes,
+              bool sansCasse = false)
+{
+    Index index{QString::fromUtf16(nom), QString::fromUtf16(table), {}, sansCasse};
+    for (const char16_t* colonne : colonnes) {
+        index.Colonnes.append(QString::fromUtf16(colonne));
+    }
+    return index;
+}
+
 QList<Index> IndexesMedoc()
 {
-    return {
-        {QStringLiteral("OrdoEnrTitre"),
-         QStringLiteral("OrdoEnr"),
-         {QStringLiteral("Titre"), QStringLiteral("Patient")}},
-        {QStringLiteral("ListeOrdosPatient"), QStringLiteral("ListeOrdos"), {QStringLiteral("NomPatient")}}};
+    return {IndexDe(u"OrdoEnrTitre", u"OrdoEnr", {u"Titre", u"Patient"}),
+            IndexDe(u"ListeOrdosPatient", u"ListeOrdos", {u"NomPatient"}),
+            IndexDe(u"OrdoEnrTitreLigne", u"OrdoEnr", {u"TitreLigne", u"Posologie"}, true),
+            IndexDe(u"BddMedNom", u"BddMed", {u"Nom"}, true),
+            IndexDe(u"BiblioTitre", u"Biblio", {u"Titre"}, true),
+            IndexDe(u"VidalCIP", u"Vidal", {u"CIP"})};
 }
 
 } // namespace
@@ -111,7 +122,8 @@ QString CreeIndexSql(const Index& index)
 {
     QStringList colonnes;
     for (const QString& colonne : index.Colonnes) {
-        colonnes.append(Cite(colonne));
+        colonnes.append(Cite(colonne) +
+                        (index.SansCasse ? QLatin1String(" collate nocase") : QLatin1String()));
     }
     return QStringLiteral("create index if not exists %1 on %2 (%3)")
         .arg(Cite(index.Nom), Cite(index.Table), colonnes.join(QLatin1String(", ")));

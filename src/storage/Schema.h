@@ -28,6 +28,7 @@ struct Index
     QString Nom;
     QString Table;
     QStringList Colonnes;
+    bool SansCasse = false; ///< serves selections that take capitals and small letters for the same
 };
 
 /// The marks in a file's header that tell our databases apart, and the version of the layout.

@@ -4,14 +4,15 @@
 #include "medication/windows/CaseEtiquetee.h"
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/ChampMedicament.h"
+#include "medication/windows/ChampPosologie.h"
 #include "medication/windows/ListeLignes.h"
+#include "medication/windows/ListeOffres.h"
 
 #include <QAction>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -23,6 +24,7 @@ namespace style = application::style;
 
 constexpr int kLargeurRecherche = 2; // shares of the width
 constexpr int kLargeurOrdonnance = 5;
+constexpr int kLignesPoso = 2; // the posology shows at least these
 
 QHBoxLayout* Rang(std::initializer_list<QWidget*> gauche, std::initializer_list<QWidget*> droite)
 {
@@ -106,17 +108,23 @@ QWidget* CarteMedicament(ControlesMedoc& c, QDialog* f)
     c.TxtMedoc = new ChampMedicament(carte);
     c.TxtMedoc->setObjectName(QStringLiteral("TxtMedoc"));
     c.TxtMedoc->setToolTip(QStringLiteral("F2 : notes du médicament ; F4 : blancs après le nom"));
-    c.TxtPoso = new QPlainTextEdit(carte);
+    c.TxtPoso = new ChampPosologie(carte);
     c.TxtPoso->setObjectName(QStringLiteral("TxtPoso"));
     c.TxtPoso->setAccessibleName(QStringLiteral("Posologie"));
-    c.TxtPoso->setTabChangesFocus(true);
+    c.TxtPoso->setMinimumHeight(kLignesPoso * c.TxtPoso->fontMetrics().lineSpacing() +
+                                2 * style::kDansGroupe);
     style::RaccourciVers(c.TxtPoso, QStringLiteral("Alt+G"));
+    c.LstOffres = new ListeOffres(carte);
+    c.LstOffres->setObjectName(QStringLiteral("LstOffres"));
+    c.LstOffres->setAccessibleName(QStringLiteral("Posologies déjà écrites"));
+    c.TxtPoso->PoseOffres(c.LstOffres);
     BoutonsMedicament(c, carte);
     QVBoxLayout* disposition = DansCarte(carte);
     QLabel* titre = style::Titre({}, QStringLiteral("Mé&dicament choisi"), carte, c.TxtMedoc);
     disposition->addLayout(Rang({titre}, {c.CmdAide}));
     disposition->addWidget(c.TxtMedoc);
     disposition->addWidget(c.TxtPoso, 1);
+    disposition->addWidget(c.LstOffres);
     disposition->addLayout(Rang({c.LblPoso, c.CmdModifier}, {c.CmdAjouter2, c.CmdAjouter1}));
     return carte;
 }

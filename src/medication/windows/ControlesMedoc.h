@@ -5,7 +5,6 @@
 class QCheckBox;
 class QDialog;
 class QLabel;
-class QPlainTextEdit;
 class QPushButton;
 class QToolButton;
 class QTreeView;
@@ -15,7 +14,9 @@ namespace medication {
 
 class ChampCherche;
 class ChampMedicament;
+class ChampPosologie;
 class ListeLignes;
+class ListeOffres;
 
 /// The controls of the picker, laid out in its window, which owns them.
 struct ControlesMedoc
@@ -26,7 +27,8 @@ struct ControlesMedoc
     QPushButton* CmdRetire = nullptr;
 
     medication::ChampMedicament* TxtMedoc = nullptr;
-    QPlainTextEdit* TxtPoso = nullptr;
+    medication::ChampPosologie* TxtPoso = nullptr;
+    ListeOffres* LstOffres = nullptr;
     QPushButton* LblPoso = nullptr;
     QPushButton* CmdModifier = nullptr;
     QPushButton* CmdAjouter1 = nullptr;

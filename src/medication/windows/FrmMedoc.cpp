@@ -9,6 +9,7 @@
 #include "medication/messages.h"
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/ChampMedicament.h"
+#include "medication/windows/ChampPosologie.h"
 #include "medication/windows/ListeLignes.h"
 #include "outside/Boites.h"
 #include "page/Mesure.h"
@@ -17,7 +18,6 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QPlainTextEdit>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -45,6 +45,7 @@ FrmMedoc::FrmMedoc(application::Contexte& contexte, application::Fenetres& fenet
     }
     RelieRecherche();
     RelieLignes();
+    RelieOffres();
     RelieSignaux();
     SuitOrdonnance();
 }

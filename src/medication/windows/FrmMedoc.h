@@ -47,6 +47,7 @@ private:
     void ModifieMedicament();
     void RetireMedicament();
     void MontreNotes();
+    void RelieOffres();
     void ComposePosologie();
 
     void Ajoute(Zone zone);
@@ -80,6 +81,7 @@ private:
     application::Fenetres& fenetres_;
     std::unique_ptr<Pharmacie> pharmacie_;
     ArbreMedicaments arbre_;
+    OffresPosologie offres_;
     ControlesMedoc c_;
 };
 

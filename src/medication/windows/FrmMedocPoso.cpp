@@ -1,14 +1,29 @@
 #include "medication/messages.h"
 #include "medication/windows/ChampMedicament.h"
+#include "medication/windows/ChampPosologie.h"
 #include "medication/windows/FrmMedoc.h"
 #include "medication/windows/FrmPoso.h"
+#include "medication/windows/ListeOffres.h"
 #include "outside/Boites.h"
 
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 // The posology of the medication in hand.
 namespace medication {
+
+void FrmMedoc::RelieOffres()
+{
+    c_.LstOffres->setModel(&offres_);
+    connect(c_.TxtPoso, &ChampPosologie::Entre, this, [this] {
+        RemplitOffres(contexte_, offres_, c_.TxtMedoc->text(), arbre_.Lis(NoeudSelectionne()));
+    });
+    connect(c_.TxtPoso, &ChampPosologie::Tape, this, [this] {
+        offres_.Restreint(c_.TxtPoso->toPlainText());
+        c_.TxtPoso->MontreOffres();
+    });
+    connect(c_.LstOffres, &ListeOffres::Prise, this,
+            [this](int rang) { c_.TxtPoso->Remplace(offres_.Texte(rang)); });
+}
 
 void FrmMedoc::ComposePosologie()
 {

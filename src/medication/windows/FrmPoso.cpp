@@ -2,30 +2,13 @@
 
 #include "medication/messages.h"
 #include "medication/windows/BoiteCboP.h"
+#include "medication/windows/ChampPosologie.h"
 #include "outside/Boites.h"
 
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTextCursor>
 
 namespace medication {
-
-namespace {
-
-/// Replaces the whole text in one step that the doctor can undo.
-void Remplace(QPlainTextEdit& boite, const QString& texte)
-{
-    if (boite.toPlainText() == texte) {
-        return;
-    }
-    QTextCursor curseur(boite.document());
-    curseur.select(QTextCursor::Document);
-    curseur.insertText(texte);
-    boite.moveCursor(QTextCursor::End);
-}
-
-} // namespace
 
 FrmPoso::FrmPoso(application::Contexte& contexte, application::Fenetres&) : contexte_(contexte)
 {
@@ -80,7 +63,7 @@ void FrmPoso::Montre()
         cboP_[size_t(i)]->Montre(composition_.CboP[size_t(i)]);
         cboP_[size_t(i)]->setEnabled(composition_.QuantitesActives || !EstQuantite(i));
     }
-    Remplace(*txtPoso_, composition_.TxtPoso);
+    txtPoso_->Remplace(composition_.TxtPoso);
 }
 
 void FrmPoso::Rend(Etiquette etiquette)

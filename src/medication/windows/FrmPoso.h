@@ -8,12 +8,12 @@
 class QBoxLayout;
 class QGridLayout;
 class QLabel;
-class QPlainTextEdit;
 class QPushButton;
 
 namespace medication {
 
 class BoiteCboP;
+class ChampPosologie;
 
 /// The composer of a posology: a few choices become a sentence that the doctor can still edit. Shown by
 /// `Compose`, hidden and reused.
@@ -55,7 +55,7 @@ private:
     Reponse reponse_;
     std::array<BoiteCboP*, kNbCboP> cboP_ = {};
     QLabel* lblNomMed_ = nullptr;
-    QPlainTextEdit* txtPoso_ = nullptr;
+    ChampPosologie* txtPoso_ = nullptr;
     QPushButton* cmdAide_ = nullptr;
     QPushButton* cmdAnnule_ = nullptr;
     QPushButton* cmdQuitter_ = nullptr;

@@ -1,11 +1,11 @@
 #include "application/windows/Style.h"
 #include "medication/windows/BoiteCboP.h"
+#include "medication/windows/ChampPosologie.h"
 #include "medication/windows/FrmPoso.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 
 // The layout of the composer.
 namespace medication {
@@ -81,9 +81,8 @@ QWidget* FrmPoso::FaitTexte()
 {
     QWidget* carte = style::Carte(this);
     auto* colonne = Interieur<QVBoxLayout>(carte);
-    txtPoso_ = new QPlainTextEdit(carte);
+    txtPoso_ = new ChampPosologie(carte);
     txtPoso_->setObjectName(QStringLiteral("TxtPoso"));
-    txtPoso_->setTabChangesFocus(true);
     txtPoso_->setMinimumHeight(kLignesTexte * txtPoso_->fontMetrics().lineSpacing());
     colonne->addWidget(style::Titre({}, QStringLiteral("&Posologie"), carte, txtPoso_));
     colonne->addWidget(txtPoso_, 1);
