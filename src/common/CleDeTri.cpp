@@ -230,17 +230,6 @@ std::strong_ordering CompareReplie(QStringView a, QStringView b)
     }
 }
 
-QString Replie(QStringView texte)
-{
-    QString repli;
-    repli.reserve(texte.size());
-    Lecteur lecteur(texte);
-    while (const char16_t lettre = lecteur.Suivant()) {
-        repli += QChar(lettre);
-    }
-    return repli;
-}
-
 CleDeTri Cle(QStringView texte)
 {
     CleDeTri cle;

@@ -10,9 +10,6 @@ namespace common {
 /// before a hyphen, and both before the letters.
 std::strong_ordering CompareReplie(QStringView a, QStringView b);
 
-/// The letters that a text is sorted as: capitals without accents, "œ" as "OE".
-QString Replie(QStringView texte);
-
 /// What a text gives to a sort and to a search, in a few numbers.
 struct CleDeTri
 {

@@ -84,7 +84,8 @@ void TestSchema::ALesIndex()
     base.Medoc().Parcourt(
         QStringLiteral("select name, tbl_name from sqlite_master where type = 'index' order by name"), {},
         [&](const storage::Rangee& rangee) { index.append(rangee.Texte(0) + u' ' + rangee.Texte(1)); });
-    QCOMPARE(index, Textes({u"ListeOrdosPatient ListeOrdos", u"OrdoEnrTitre OrdoEnr"}));
+    QCOMPARE(index, Textes({u"BddMedNom BddMed", u"BiblioTitre Biblio", u"ListeOrdosPatient ListeOrdos",
+                            u"OrdoEnrTitre OrdoEnr", u"OrdoEnrTitreLigne OrdoEnr", u"VidalCIP Vidal"}));
 }
 
 void TestSchema::CommenceParUnMedocVide()
