@@ -1,7 +1,6 @@
 #include "prescription/Commandes.h"
 
 #include "application/Signaux.h"
-#include "application/messages.h"
 #include "common/Dates.h"
 #include "outside/Boites.h"
 #include "outside/Horloge.h"
@@ -69,13 +68,6 @@ void RevientAuxMedicaments(application::Contexte& contexte)
     EffaceApercu(contexte);
     contexte.Apercu.ModeApercu = 0;
     Q_EMIT contexte.Signaux.OrdonnanceChange();
-}
-
-void DemandeCertificat(application::Contexte& contexte)
-{
-    if (!contexte.Chemins.CheminMedecin.isEmpty()) {
-        contexte.Dehors.Boites.Information(application::messages::PasEncoreDisponible());
-    }
 }
 
 void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang)

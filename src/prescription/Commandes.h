@@ -15,9 +15,6 @@ void DemandeDate(application::Contexte& contexte);
 /// `CmdPharma` before its window: the preview is emptied and shows prescriptions from now on.
 void RevientAuxMedicaments(application::Contexte& contexte);
 
-/// `CmdCertif`: without a doctor nothing; certificates are not available yet, and that is said.
-void DemandeCertificat(application::Contexte& contexte);
-
 /// `CboMed`: another doctor takes over, his settings are read, the preview is emptied. -1, or a row that
 /// the list does not have, changes nothing.
 void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang);

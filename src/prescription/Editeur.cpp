@@ -6,6 +6,7 @@
 #include "common/Tolere.h"
 #include "outside/Horloge.h"
 #include "prescription/Apercu.h"
+#include "prescription/PageCertificat.h"
 #include "startup/Chemins.h"
 #include "storage/Bases.h"
 
@@ -48,6 +49,11 @@ void SupprimeCertificatEnMain(const QString& cheminMedecin)
     }
 }
 
+std::optional<QString> TexteEnMain(const application::Contexte& contexte)
+{
+    return contexte.Apercu.ModeApercu == 1 ? TexteDuCertificat(contexte.Chemins) : std::nullopt;
+}
+
 void MontreApercu(application::Contexte& contexte, const page::Surface& apercu)
 {
     contexte.Apercu.PctOrdo = apercu.Resultat();
@@ -83,14 +89,15 @@ void EffaceApercu(application::Contexte& contexte)
 void Repeint(application::Contexte& contexte)
 {
     EffaceApercu(contexte);
-    if (contexte.Apercu.ModeApercu != 0) {
-        return;
-    }
     QList<page::LigneEntete> entete;
     page::Modele modele = ModelePage(contexte, entete);
     page::Surface apercu(page::Cible::Apercu);
-    page::PeintPatient(apercu, modele, contexte.Dehors.Boites);
-    page::PeintOrdo(apercu, modele);
+    if (contexte.Apercu.ModeApercu == 0) {
+        page::PeintPatient(apercu, modele, contexte.Dehors.Boites);
+        page::PeintOrdo(apercu, modele);
+    } else if (const auto texte = TexteEnMain(contexte)) {
+        PeintPageCertificat(apercu, modele, contexte, *texte);
+    }
     MontreApercu(contexte, apercu);
 }
 

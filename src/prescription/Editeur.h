@@ -18,7 +18,8 @@ QString DefautDuLogo(const settings::Options& options);
 /// Clears the preview.
 void EffaceApercu(application::Contexte& contexte);
 
-/// Clears the preview and paints the document in hand on it: patient block and body, or certificate.
+/// Clears the preview and paints the document in hand on it: patient block and body, or the certificate,
+/// whose text may be missing.
 void Repeint(application::Contexte& contexte);
 
 /// Clears the preview and paints the patient block alone.

@@ -1,5 +1,7 @@
 #include "prescription/Feuillets.h"
 
+#include "prescription/PageCertificat.h"
+
 #include <algorithm>
 
 namespace prescription {
@@ -37,6 +39,16 @@ quint8 NombreDeCopies(const Ordonnance& ordonnance, quint8 modeApercu)
         return 2;
     }
     return ordonnance.ChkTri == 1 ? 3 : 1;
+}
+
+page::Dessin PeintFeuilletCertificat(page::Modele& modele, const QImage& logo,
+                                     application::Contexte& contexte, const QString& texte)
+{
+    page::Surface cible(page::Cible::Imprimante);
+    cible.ForeColor(modele.Reglages.Look.CouleurEntete);
+    page::PeintEntete(cible, modele, logo);
+    PeintPageCertificat(cible, modele, contexte, texte);
+    return cible.Resultat();
 }
 
 QList<page::Dessin> PeintFeuillets(page::Modele& modele, const QImage& logo, int nombre,

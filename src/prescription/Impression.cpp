@@ -10,6 +10,7 @@
 #include "prescription/Editeur.h"
 #include "prescription/Feuillets.h"
 #include "prescription/Journal.h"
+#include "prescription/PageCertificat.h"
 #include "prescription/messages.h"
 #include "startup/Chemins.h"
 #include "startup/Medecins.h"
@@ -27,6 +28,7 @@ struct Tirage
     QImage Logo;
     QString Imprimante;
     outside::Travail Travail;
+    std::optional<QString> TexteCertificat; ///< of a certificate alone
 };
 
 QString TitreDuTravail(const patients::Patient& patient)
@@ -60,8 +62,26 @@ bool LitLEntete(application::Contexte& contexte)
     }
 }
 
+/// The text of a certificate, if one is on the page. False when it has gone.
+bool LitLeCertificat(application::Contexte& contexte, std::optional<QString>& texte)
+{
+    if (contexte.Apercu.ModeApercu != 1) {
+        return true;
+    }
+    texte = TexteDuCertificat(contexte.Chemins);
+    if (!texte) {
+        contexte.Dehors.Boites.Stop(messages::CertificatIllisible());
+    }
+    return texte.has_value();
+}
+
 void Peint(Tirage& tirage)
 {
+    if (tirage.TexteCertificat) {
+        tirage.Travail.Pages = {
+            PeintFeuilletCertificat(tirage.Modele, tirage.Logo, tirage.Contexte, *tirage.TexteCertificat)};
+        return;
+    }
     tirage.Travail.Pages = PeintFeuillets(tirage.Modele, tirage.Logo, tirage.Contexte.Impression.NbCopies,
                                           tirage.Contexte.Dehors.Boites);
 }
@@ -69,8 +89,9 @@ void Peint(Tirage& tirage)
 bool AccepteLaPerte(const Tirage& tirage)
 {
     const int perdues = page::LignesPerdues(tirage.Travail.Pages.constFirst(), tirage.Modele.Reglages);
-    return perdues == 0 || tirage.Contexte.Dehors.Boites.Question(messages::LignesHorsDeLaFeuille(perdues),
-                                                                  outside::Bouton::Non);
+    return perdues == 0 || tirage.Contexte.Dehors.Boites.Question(
+                               messages::LignesHorsDeLaFeuille(perdues, tirage.TexteCertificat.has_value()),
+                               outside::Bouton::Non);
 }
 
 void AbandonneLePremier(Tirage& tirage)
@@ -114,7 +135,8 @@ void InscritAuJournal(application::Contexte& contexte)
 
 bool ImprimeDocument(application::Contexte& contexte)
 {
-    if (!LitLEntete(contexte)) {
+    std::optional<QString> certificat;
+    if (!LitLEntete(contexte) || !LitLeCertificat(contexte, certificat)) {
         return false;
     }
     const QString imprimante = ImprimanteEnUsage(contexte);
@@ -127,7 +149,8 @@ bool ImprimeDocument(application::Contexte& contexte)
                   imprimante,
                   {.Titre = TitreDuTravail(contexte.Patient),
                    .Pages = {},
-                   .CheminPdf = common::Joint(contexte.Chemins.CheminTravail, QStringLiteral("PDF"))}};
+                   .CheminPdf = common::Joint(contexte.Chemins.CheminTravail, QStringLiteral("PDF"))},
+                  certificat};
     Peint(tirage);
     if (!AccepteLaPerte(tirage)) {
         return false;

@@ -35,6 +35,16 @@ inline QString PasUneMemorisee()
     return QStringLiteral("Ce raccourci ne peut que supprimer une ordonnance mémorisée.");
 }
 
+inline QString PourLePatientEnCours(const QString& patient)
+{
+    return QStringLiteral("Pour le patient en cours (%1) ?").arg(patient);
+}
+
+inline QString CertificatIllisible()
+{
+    return QStringLiteral("Le texte du certificat est introuvable ou illisible. Rien n'est imprimé.");
+}
+
 inline QString ImprimanteIntrouvable(const QString& choisie, const QString& utilisee)
 {
     return QStringLiteral("L'imprimante « %1 » n'est plus installée sur cet ordinateur.\n"
@@ -42,14 +52,16 @@ inline QString ImprimanteIntrouvable(const QString& choisie, const QString& util
         .arg(choisie, utilisee);
 }
 
-inline QString LignesHorsDeLaFeuille(int nombre)
+inline QString LignesHorsDeLaFeuille(int nombre, bool certificat)
 {
-    const QString debut = nombre == 1
-                              ? QStringLiteral("Une ligne de l'ordonnance dépasse le bas de la feuille "
-                                               "et ne sera pas imprimée.")
-                              : QStringLiteral("%1 lignes de l'ordonnance dépassent le bas de la feuille "
-                                               "et ne seront pas imprimées.")
-                                    .arg(nombre);
+    const QString document = certificat ? QStringLiteral("du certificat") : QStringLiteral("de l'ordonnance");
+    const QString debut = nombre == 1 ? QStringLiteral("Une ligne %1 dépasse le bas de la feuille "
+                                                       "et ne sera pas imprimée.")
+                                            .arg(document)
+                                      : QStringLiteral("%1 lignes %2 dépassent le bas de la feuille "
+                                                       "et ne seront pas imprimées.")
+                                            .arg(nombre)
+                                            .arg(document);
     return debut + QStringLiteral("\n\nImprimer quand même ?");
 }
 

@@ -63,7 +63,6 @@ private Q_SLOTS:
     void unEnteteIllisibleNArretePasLaPeinture();
     void unChampNulSeVoit();
     void repeintMontrePatientEtOrdonnance();
-    void repeintVideLApercuDUnCertificat();
     void repeintPatientNeMontreQueLui();
     void effaceApercuLeDit();
     void videDocument();
@@ -133,16 +132,6 @@ void TestEditeur::repeintMontrePatientEtOrdonnance()
     QCOMPARE(mots.count(u"DOLIPRANE"_s), 1);
     QVERIFY(!change.isEmpty());
     QCOMPARE(cabinet.Etat.Ordonnance.LigneJournal, u"20/11/2026*MARTIN  Paul*20/03/1953*DOLIPRANE"_s);
-}
-
-void TestEditeur::repeintVideLApercuDUnCertificat()
-{
-    Cabinet cabinet;
-    cabinet.Prescrit(u"DOLIPRANE"_s);
-    Repeint(cabinet.Contexte);
-    cabinet.Etat.Apercu.ModeApercu = 1;
-    Repeint(cabinet.Contexte);
-    QVERIFY(!support::Mots(cabinet.Etat.Apercu.PctOrdo).contains(u"DOLIPRANE"_s));
 }
 
 void TestEditeur::repeintPatientNeMontreQueLui()

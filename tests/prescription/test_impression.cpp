@@ -57,7 +57,6 @@ private Q_SLOTS:
     void TheMarkTakesItsLook();
     void AnInactiveMarkLeavesEqualCopies();
     void TheFirstJobIsAbandonedOnce();
-    void ACertificateTakesOneSheetAndNoJournal();
     void TheJournalLine();
     void ThreeSheetsGiveOneLine();
     void TheJournalIsAppendedTo();
@@ -186,17 +185,6 @@ void TestImpression::TheFirstJobIsAbandonedOnce()
     QVERIFY(ImprimeDocument(cabinet.Contexte));
     QCOMPARE(cabinet.Imprimantes.Abandons.size(), 1);
     QCOMPARE(cabinet.Imprimantes.Travaux.size(), 2);
-}
-
-void TestImpression::ACertificateTakesOneSheetAndNoJournal()
-{
-    Cabinet cabinet;
-    cabinet.Etat.Apercu.ModeApercu = 1;
-    cabinet.Etat.Ordonnance.ChkTri = 1;
-    cabinet.Etat.Reglages.Options.TenirJournal = 1;
-    QVERIFY(ImprimeDocument(cabinet.Contexte));
-    QCOMPARE(cabinet.Imprimantes.Travaux.constFirst().Travail.Pages.size(), 1);
-    QVERIFY(!common::FichierExiste(FichierJournal(cabinet)));
 }
 
 void TestImpression::TheJournalLine()

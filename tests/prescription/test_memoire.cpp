@@ -1,5 +1,4 @@
 #include "application/Signaux.h"
-#include "application/messages.h"
 #include "prescription/Commandes.h"
 #include "prescription/Memoire.h"
 #include "prescription/messages.h"
@@ -66,7 +65,6 @@ private Q_SLOTS:
     void ACertificateIsNoPrescription();
     void AnEmptyPrescriptionIsNotKept();
     void OnlyAMemorisedPrescriptionIsDeleted();
-    void CertificatesAreToCome();
     void ANameIsAskedAndTrimmed();
     void WithoutANameNothingIsKept_data();
     void WithoutANameNothingIsKept();
@@ -84,7 +82,6 @@ private Q_SLOTS:
     void DeletionStaysWithItsOwner();
     void AnotherPatientsIsNotDeleted();
     void AFailedDeletionIsTold();
-    void WithoutDoctorCertificatesAreSilent();
 };
 
 void TestMemoire::WithoutDoctorNothingIsKept()
@@ -122,14 +119,6 @@ void TestMemoire::OnlyAMemorisedPrescriptionIsDeleted()
     Cabinet cabinet;
     cabinet.Boites.AttendInformation(u"Ce raccourci ne peut que supprimer une ordonnance mémorisée."_s);
     SupprimeOrdonnanceMemorisee(cabinet.Contexte);
-    QVERIFY(cabinet.Boites.Epuise());
-}
-
-void TestMemoire::CertificatesAreToCome()
-{
-    Cabinet cabinet;
-    cabinet.Boites.AttendInformation(application::messages::PasEncoreDisponible());
-    DemandeCertificat(cabinet.Contexte);
     QVERIFY(cabinet.Boites.Epuise());
 }
 
@@ -351,14 +340,6 @@ void TestMemoire::AFailedDeletionIsTold()
     QVERIFY(cabinet.Boites.Epuise());
     QCOMPARE(cabinet.Ordo().OrdoMemorisee, 1);
     QCOMPARE(cabinet.Liste().size() + cabinet.Lignes().size(), 2);
-}
-
-void TestMemoire::WithoutDoctorCertificatesAreSilent()
-{
-    Cabinet cabinet;
-    cabinet.Etat.Chemins.CheminMedecin.clear();
-    DemandeCertificat(cabinet.Contexte);
-    QVERIFY(cabinet.Boites.Epuise());
 }
 
 QTEST_MAIN(TestMemoire)

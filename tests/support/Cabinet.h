@@ -1,5 +1,6 @@
 #pragma once
 
+#include "certificates/Texte.h"
 #include "common/Fichiers.h"
 #include "storage/Schema.h"
 #include "support/Monde.h"
@@ -29,6 +30,14 @@ struct Cabinet : support::Monde
         Etat.Ordonnance.OrdoZone1.append({titre, posologie});
         Etat.Ordonnance.LstChoix1.Ajoute(
             {QStringLiteral("  ") + titre, static_cast<int>(Etat.Ordonnance.OrdoZone1.size()) - 1});
+    }
+
+    /// Hands a certificate's text over to the page.
+    void PoseCertificat(const QString& texte)
+    {
+        common::CreeDossier(certificates::CheminCertificats(Etat.Chemins.CheminTravail));
+        certificates::EcritTexte(certificates::CheminTmp(Etat.Chemins.CheminTravail), texte);
+        Etat.Apercu.ModeApercu = 1;
     }
 
     /// Enough lines for the body to run past the sheet.

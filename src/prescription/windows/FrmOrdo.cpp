@@ -1,10 +1,12 @@
 #include "prescription/windows/FrmOrdo.h"
 
 #include "application/Signaux.h"
+#include "certificates/windows/FrmCertif.h"
 #include "medication/windows/FrmMedoc.h"
 #include "outside/Plateau.h"
 #include "patients/windows/FrmPatient.h"
 #include "prescription/Apercu.h"
+#include "prescription/CommandeCertificat.h"
 #include "prescription/Commandes.h"
 #include "prescription/Editeur.h"
 #include "prescription/Impression.h"
@@ -53,6 +55,7 @@ void FrmOrdo::EcouteSignaux()
     connect(signaux, &application::Signaux::MedecinChange, this, &FrmOrdo::SuitReglages);
     connect(signaux, &application::Signaux::ReglagesChanges, this, &FrmOrdo::SuitReglages);
     connect(signaux, &application::Signaux::ApercuChange, this, &FrmOrdo::SuitApercu);
+    connect(signaux, &application::Signaux::ApercuChange, this, &FrmOrdo::SuitOrdonnance);
     connect(signaux, &application::Signaux::OrdonnanceChange, this, &FrmOrdo::SuitOrdonnance);
     connect(signaux, &application::Signaux::MemoireChange, this, &FrmOrdo::SuitOrdonnance);
     connect(CboMed_, &QComboBox::activated, this,
@@ -102,6 +105,20 @@ void FrmOrdo::Date()
 {
     if (startup::ExigeMedecin(contexte_)) {
         DemandeDate(contexte_);
+    }
+}
+
+void FrmOrdo::Certificat()
+{
+    EtapeCertificat etape = CommenceCertificat(contexte_);
+    if (etape == EtapeCertificat::Patient) {
+        fenetres_.Donne<patients::FrmPatient>().Ouvre(false);
+        etape = PoursuitCertificat(contexte_);
+    }
+    if (etape == EtapeCertificat::Nouveau) {
+        fenetres_.Donne<certificates::FrmCertif>().Ouvre();
+    } else if (etape == EtapeCertificat::Reprise) {
+        fenetres_.Donne<certificates::FrmCertif>().Reprend();
     }
 }
 

@@ -48,6 +48,7 @@ private:
     void Patient();
     void Pharma();
     void Date();
+    void Certificat();
     void Imprime();
     void Supprime();
     void Accueil();

@@ -43,7 +43,7 @@ QList<Commande> FrmOrdo::CommandesDuDocument()
          [this] { Date(); }},
         {QStringLiteral("CmdCertif"), QStringLiteral("&Certificat"), QStringLiteral("&Certificat"),
          QStringLiteral("Certificats"), QStringLiteral("file-earmark-text"), Groupe::Document,
-         [this] { DemandeCertificat(contexte_); }},
+         [this] { Certificat(); }},
         {QStringLiteral("CmdImprime"), QStringLiteral("&Imprimer"), QStringLiteral("&Imprimer"),
          QStringLiteral("Imprimer l'ordonnance"), QStringLiteral("printer"), Groupe::Papier,
          [this] { Imprime(); }, QKeySequence(QKeySequence::Print)},
@@ -174,7 +174,7 @@ void FrmOrdo::SuitApercu()
 void FrmOrdo::SuitOrdonnance()
 {
     const Ordonnance& ordonnance = contexte_.Ordonnance;
-    const bool memorisee = ordonnance.OrdoMemorisee == 1;
+    const bool memorisee = ordonnance.OrdoMemorisee == 1 && contexte_.Apercu.ModeApercu == 0;
     ImgMemo_->setVisible(memorisee);
     titreMemo_->setText(memorisee ? ordonnance.TitreMemo : QString());
     ChkCiv_->setChecked(ordonnance.ChkCiv == 1);

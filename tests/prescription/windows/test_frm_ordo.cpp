@@ -1,9 +1,9 @@
 #include "prescription/windows/FrmOrdo.h"
 
 #include "application/Signaux.h"
-#include "application/messages.h"
 #include "application/windows/Fenetres.h"
 #include "application/windows/Style.h"
+#include "certificates/windows/FrmCertif.h"
 #include "page/windows/Feuille.h"
 #include "prescription/Editeur.h"
 #include "prescription/messages.h"
@@ -59,7 +59,7 @@ class TestFrmOrdo : public QObject
 private Q_SLOTS:
     void TheStateAtOpening();
     void TheTabOrderFollowsTheEye();
-    void WhatIsNotThereYetSaysSo();
+    void TheCertificateOpensItsEditor();
     void ADoubleClickPrintsOnce();
     void AnEndMeanwhilePrintsNothing();
     void EveryCommandNeedsADoctor_data();
@@ -119,15 +119,24 @@ void TestFrmOrdo::TheTabOrderFollowsTheEye()
                           QStringLiteral("CmdFermer"), QStringLiteral("ChkCiv"), QStringLiteral("CboMed")}));
 }
 
-void TestFrmOrdo::WhatIsNotThereYetSaysSo()
+void TestFrmOrdo::TheCertificateOpensItsEditor()
 {
     Bureau bureau;
-    bureau.Prescrit(QStringLiteral("ASPIRINE"));
+    bureau.Etat.Ordonnance.OrdoMemorisee = 1;
     bureau.Ouvre();
-    bureau.Boites.AttendInformation(application::messages::PasEncoreDisponible());
+    QVERIFY(bureau.Fenetre->findChild<QLabel*>(QStringLiteral("ImgMemo"))->isVisible());
+    bureau.Boites.AttendQuestion(messages::PourLePatientEnCours(QStringLiteral("Monsieur  MARTIN  Paul")),
+                                 outside::Bouton::Oui);
+    bool ouverte = false;
+    QTimer::singleShot(0, bureau.Fenetre, [&] {
+        auto& editeur = bureau.Fenetres.Donne<certificates::FrmCertif>();
+        ouverte = editeur.isVisible() && editeur.isModal();
+        editeur.hide();
+    });
     bureau.Fenetre->Execute(QStringLiteral("CmdCertif"));
-    QVERIFY(bureau.Boites.Epuise());
-    QCOMPARE(bureau.Etat.Ordonnance.LstChoix1.Lignes().size(), 1);
+    QVERIFY(ouverte);
+    QVERIFY(!bureau.Un<QCheckBox>("ChkCiv").isEnabled());
+    QVERIFY(!bureau.Fenetre->findChild<QLabel*>(QStringLiteral("ImgMemo"))->isVisible());
 }
 
 void TestFrmOrdo::ADoubleClickPrintsOnce()

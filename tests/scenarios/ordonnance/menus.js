@@ -16,8 +16,6 @@ vrai(ouverte("FrmOptions"), "les options");
 touche("FrmOptions", "Echap");
 faux(ouverte("FrmOptions"), "Échap les annule");
 
-clic("FrmOrdo.CmdCertif");
-boites([["Cette fonction n'est pas encore disponible dans cette version.", "OK"]]);
 clic("FrmOrdo.CmdEnr");
 egal(boite().genre, "stop", "rien à mémoriser");
 boites([["Aucune ordonnance n'est à enregistrer !", "OK"]]);
