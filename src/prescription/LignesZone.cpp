@@ -1,5 +1,7 @@
 #include "prescription/LignesZone.h"
 
+#include <algorithm>
+
 namespace prescription {
 
 namespace {
@@ -76,7 +78,12 @@ QString TitreMontre(const QString& titre)
 
 QString TexteDeLigne(const QString& titre, int blancs, const QString& identifiant)
 {
-    return QStringLiteral("  ") + TitreMontre(titre) + QString(blancs, u' ') + identifiant;
+    constexpr qsizetype kRetrait = 2;
+    const QString montre = TitreMontre(titre);
+    QString texte(kRetrait + montre.size() + blancs + identifiant.size(), u' ');
+    std::ranges::copy(montre, texte.begin() + kRetrait);
+    std::ranges::copy(identifiant, texte.end() - identifiant.size());
+    return texte;
 }
 
 QString IdentifiantDeLigne(const QString& texte)

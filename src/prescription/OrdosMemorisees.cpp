@@ -8,6 +8,7 @@ namespace prescription {
 
 namespace {
 
+constexpr qsizetype kLignesCourantes = 32;
 constexpr int kIdProduit = 6; // columns of OrdoEnr
 constexpr int kConverti = 7;
 
@@ -117,6 +118,7 @@ QList<Memorisee> ListeMemorisees(storage::Base& medoc, const patients::Patient& 
 QList<LigneMemorisee> LitMemorisee(storage::Base& medoc, const CleMemo& cle)
 {
     QList<LigneMemorisee> lignes;
+    lignes.reserve(kLignesCourantes);
     const Condition condition = DansLignes(cle);
     const auto lit = [&](const storage::Rangee& rangee) {
         lignes.append({rangee.Texte(0), rangee.Texte(1), rangee.Entier(2) == 2 ? 2 : 1, rangee.Texte(3),

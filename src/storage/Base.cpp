@@ -15,6 +15,8 @@ namespace storage {
 
 namespace {
 
+constexpr size_t kInstructionsPretes = 32;
+
 QString NouvelleConnexion()
 {
     static std::atomic<int> numero = 0;
@@ -63,6 +65,7 @@ void Base::Ouvre()
 
 void Base::Ferme()
 {
+    pretes_.clear();
     base_ = QSqlDatabase();
     QSqlDatabase::removeDatabase(connexion_);
 }
@@ -91,10 +94,17 @@ void Base::Execute(const QString& instruction, const QVariantList& valeurs)
 void Base::Parcourt(const QString& instruction, const QVariantList& valeurs,
                     const std::function<void(const Rangee&)>& lecteur)
 {
-    QSqlQuery requete = Lance(instruction, valeurs);
+    // Out of the cache while it runs: the reader may run the same instruction.
+    auto prete = pretes_.extract(instruction);
+    QSqlQuery requete = prete ? std::move(prete.mapped()) : Prepare(instruction);
+    LieEtLance(requete, valeurs);
     const Rangee rangee(requete);
     while (Avance(requete)) {
         lecteur(rangee);
+    }
+    requete.finish();
+    if (pretes_.size() < kInstructionsPretes) {
+        pretes_.insert_or_assign(instruction, std::move(requete));
     }
 }
 

@@ -4,11 +4,11 @@
 #include "storage/Rangee.h"
 
 #include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QStringList>
 #include <QVariantList>
 #include <functional>
-
-class QSqlQuery;
+#include <unordered_map>
 
 namespace storage {
 
@@ -65,6 +65,8 @@ private:
     GenreBase genre_;
     QString connexion_;
     QSqlDatabase base_;
+    /// Statements of `Parcourt` that are not running, ready for the next time.
+    std::unordered_map<QString, QSqlQuery> pretes_;
     Crochet crochet_;
     int profondeur_ = 0;     ///< of nested transactions
     bool condamnee_ = false; ///< an inner transaction was given up: the outer one cannot be stored
