@@ -185,6 +185,11 @@ QString CoupeVirgule(const QString& texte)
     return coupe.endsWith(u',') ? coupe.chopped(1) : texte;
 }
 
+bool ResteUnX(const QString& texte)
+{
+    return texte.contains(QLatin1String("max X par jour")) || texte.contains(QStringLiteral("Xème"));
+}
+
 QString PosologieRendue(const QString& texte)
 {
     return CoupeVirgule(texte.trimmed());

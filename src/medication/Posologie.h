@@ -41,6 +41,8 @@ QString PhrasePosologie(CasPosologie cas, const ChoixPosologie& choix, const QSt
 
 /// A text that ends in a comma, blanks apart: trimmed and without it; any other text as it is.
 QString CoupeVirgule(const QString& texte);
+/// True while a number that the lists leave open is still an X, as in "(max X par jour)" or "du Xème".
+bool ResteUnX(const QString& texte);
 /// What the buttons hand over: trimmed, without an end comma.
 QString PosologieRendue(const QString& texte);
 

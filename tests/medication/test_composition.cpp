@@ -210,6 +210,14 @@ private Q_SLOTS:
         QCOMPARE(PosologieRendue(QStringLiteral(" , ")), QString());
     }
 
+    void AnOpenNumberIsSeen()
+    {
+        QVERIFY(ResteUnX(PhrasePosologie(CasPosologie::Besoin, {}, QStringLiteral("1"))));
+        QVERIFY(ResteUnX(QStringLiteral("du 5ème au Xème jour du cycle")));
+        QVERIFY(!ResteUnX(QStringLiteral("1 , en cas de besoin (max 3 par jour)")));
+        QVERIFY(!ResteUnX(QStringLiteral("1 XANAX")));
+    }
+
     void AskingForTheQuantity_data()
     {
         QTest::addColumn<QString>("moment");

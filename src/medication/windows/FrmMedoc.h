@@ -71,6 +71,8 @@ private:
     ListeLignes* Liste(Zone zone) const { return zone == Zone::Un ? c_.LstChoix1 : c_.LstChoix2; }
     Zone ZoneSource() const { return contexte_.Choix.ListeSource == 2 ? Zone::Deux : Zone::Un; }
     int NoeudSelectionne() const;
+    /// The node whose medication the boxes hold; null when they hold another one.
+    const Noeud* NoeudEnMain() const;
     void SelectionneNoeud(int rang);
     Saisie Boites() const;
     void RemplitBoites(const Saisie& saisie);

@@ -11,12 +11,16 @@
 // The posology of the medication in hand.
 namespace medication {
 
+const Noeud* FrmMedoc::NoeudEnMain() const
+{
+    return c_.CmdModifier->isEnabled() ? arbre_.Lis(NoeudSelectionne()) : nullptr;
+}
+
 void FrmMedoc::RelieOffres()
 {
     c_.LstOffres->setModel(&offres_);
-    connect(c_.TxtPoso, &ChampPosologie::Entre, this, [this] {
-        RemplitOffres(contexte_, offres_, c_.TxtMedoc->text(), arbre_.Lis(NoeudSelectionne()));
-    });
+    connect(c_.TxtPoso, &ChampPosologie::Entre, this,
+            [this] { RemplitOffres(contexte_, offres_, c_.TxtMedoc->text(), NoeudEnMain()); });
     connect(c_.TxtPoso, &ChampPosologie::Tape, this, [this] {
         offres_.Restreint(c_.TxtPoso->toPlainText());
         c_.TxtPoso->MontreOffres();
@@ -31,7 +35,7 @@ void FrmMedoc::ComposePosologie()
         contexte_.Dehors.Boites.Information(messages::SelectionnezUnMedicament());
         return;
     }
-    const bool enregistrable = contexte_.Choix.NoeudChoisi != kAucunNoeud && c_.CmdModifier->isEnabled();
+    const bool enregistrable = contexte_.Choix.NoeudChoisi != kAucunNoeud && NoeudEnMain();
     const Saisie saisie = Boites();
     const auto reponse = fenetres_.Donne<FrmPoso>().Compose(saisie.TxtMedoc, saisie.TxtPoso, enregistrable);
     if (reponse.TxtPoso) {

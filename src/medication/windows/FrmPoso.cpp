@@ -24,6 +24,8 @@ void FrmPoso::Branche()
         connect(cboP_[size_t(i)], &BoiteCboP::Change, this,
                 [this, i](const QString& texte) { Change(i, texte); });
     }
+    connect(txtPoso_, &QPlainTextEdit::textChanged, this,
+            [this] { lblX_->setVisible(ResteUnX(txtPoso_->toPlainText())); });
     connect(cmdAide_, &QPushButton::clicked, this,
             [this] { contexte_.Dehors.Boites.Information(messages::Aide()); });
     connect(cmdAnnule_, &QPushButton::clicked, this, &QDialog::reject);

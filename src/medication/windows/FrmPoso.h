@@ -55,6 +55,7 @@ private:
     Reponse reponse_;
     std::array<BoiteCboP*, kNbCboP> cboP_ = {};
     QLabel* lblNomMed_ = nullptr;
+    QLabel* lblX_ = nullptr; ///< a number is still to be given
     ChampPosologie* txtPoso_ = nullptr;
     QPushButton* cmdAide_ = nullptr;
     QPushButton* cmdAnnule_ = nullptr;

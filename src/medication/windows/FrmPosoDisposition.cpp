@@ -84,7 +84,14 @@ QWidget* FrmPoso::FaitTexte()
     txtPoso_ = new ChampPosologie(carte);
     txtPoso_->setObjectName(QStringLiteral("TxtPoso"));
     txtPoso_->setMinimumHeight(kLignesTexte * txtPoso_->fontMetrics().lineSpacing());
-    colonne->addWidget(style::Titre({}, QStringLiteral("&Posologie"), carte, txtPoso_));
+    lblX_ = style::Avertissement(QStringLiteral("LblX"), QStringLiteral("Remplacez chaque X par un nombre."),
+                                 carte);
+    lblX_->hide();
+    auto* tete = new QHBoxLayout;
+    tete->addWidget(style::Titre({}, QStringLiteral("&Posologie"), carte, txtPoso_));
+    tete->addStretch(1);
+    tete->addWidget(lblX_);
+    colonne->addLayout(tete);
     colonne->addWidget(txtPoso_, 1);
     return carte;
 }

@@ -90,4 +90,8 @@ saisir("FrmMedoc.TxtMedoc", "INCONNU");
 saisir(poso, "");
 taper(poso, "1");
 faux(visible(liste), "rien pour un inconnu");
+saisir("FrmMedoc.TxtMedoc", "");
+saisir(poso, "");
+taper(poso, "5");
+faux(visible(liste), "rien sans médicament");
 clic("FrmMedoc.CmdAnnule");
