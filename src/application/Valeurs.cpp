@@ -190,6 +190,15 @@ void AjouteLook(Registre& registre)
     AjoutePolice(registre, QStringLiteral("Certif"), &settings::Look::Certif);
     VARIABLE(Reglages.Look, CouleurEntete);
     VARIABLE(Reglages.Look, NomSignature);
+    registre.insert(QStringLiteral("EspacesLigne"), [](const Contexte& contexte) {
+        QVariantList espaces;
+        for (const qint16 ligne : contexte.Reglages.SaisieEntete.EspacesLigne) {
+            espaces.append(static_cast<int>(ligne));
+        }
+        return QVariant(espaces);
+    });
+    VARIABLE(Reglages.SaisieEntete, LigneCourante);
+    VARIABLE(Reglages.SaisieEntete, TexteAvantCurseur);
 }
 
 void AjouteCertificat(Registre& registre)

@@ -8,6 +8,7 @@
 #include "patients/Patient.h"
 #include "prescription/Apercu.h"
 #include "prescription/Editeur.h"
+#include "prescription/Envoi.h"
 #include "prescription/Feuillets.h"
 #include "prescription/Journal.h"
 #include "prescription/PageCertificat.h"
@@ -35,19 +36,6 @@ QString TitreDuTravail(const patients::Patient& patient)
 {
     const QString nom = patient.NomSeul.simplified();
     return nom.isEmpty() ? QStringLiteral("Ordonnance") : nom;
-}
-
-QString ImprimanteEnUsage(application::Contexte& contexte)
-{
-    const QString choisie = contexte.Reglages.Options.Imprimante;
-    if (contexte.Dehors.Imprimantes.Noms().contains(choisie)) {
-        return choisie;
-    }
-    const QString utilisee = contexte.Dehors.Imprimantes.ParDefaut();
-    if (!choisie.isEmpty()) {
-        contexte.Dehors.Boites.Information(messages::ImprimanteIntrouvable(choisie, utilisee));
-    }
-    return utilisee;
 }
 
 /// A sheet without its letterhead is no prescription: nothing is printed then.
@@ -104,20 +92,6 @@ void AbandonneLePremier(Tirage& tirage)
     Peint(tirage);
 }
 
-bool Envoie(Tirage& tirage)
-{
-    try {
-        if (tirage.Imprimante == outside::NomFichierPdf()) {
-            common::CreeDossier(tirage.Travail.CheminPdf);
-        }
-        tirage.Contexte.Dehors.Imprimantes.Imprime(tirage.Imprimante, tirage.Travail);
-        return true;
-    } catch (const common::Erreur& erreur) {
-        tirage.Contexte.Dehors.Boites.Stop(messages::ImpressionEchouee(tirage.Imprimante, erreur.Phrase()));
-        return false;
-    }
-}
-
 void InscritAuJournal(application::Contexte& contexte)
 {
     if (contexte.Apercu.ModeApercu == 1 || contexte.Reglages.Options.TenirJournal != 1) {
@@ -143,20 +117,19 @@ bool ImprimeDocument(application::Contexte& contexte)
     contexte.Impression.NbCopies = NombreDeCopies(contexte.Ordonnance, contexte.Apercu.ModeApercu);
     QList<page::LigneEntete> entete;
     page::Modele modele = ModelePage(contexte, entete);
-    Tirage tirage{contexte,
-                  modele,
-                  ChargeLogo(contexte.Reglages.Options),
-                  imprimante,
-                  {.Titre = TitreDuTravail(contexte.Patient),
-                   .Pages = {},
-                   .CheminPdf = common::Joint(contexte.Chemins.CheminTravail, QStringLiteral("PDF"))},
-                  certificat};
+    Tirage tirage{
+        contexte,
+        modele,
+        ChargeLogo(contexte.Reglages.Options),
+        imprimante,
+        {.Titre = TitreDuTravail(contexte.Patient), .Pages = {}, .CheminPdf = DossierPdf(contexte.Chemins)},
+        certificat};
     Peint(tirage);
     if (!AccepteLaPerte(tirage)) {
         return false;
     }
     AbandonneLePremier(tirage);
-    if (!Envoie(tirage)) {
+    if (!Envoie(contexte, imprimante, tirage.Travail)) {
         return false;
     }
     InscritAuJournal(contexte);

@@ -3,6 +3,7 @@
 #include "page/Police.h"
 
 #include <QString>
+#include <array>
 
 namespace settings {
 
@@ -86,6 +87,14 @@ struct Look
     bool operator==(const Look&) const = default;
 };
 
+/// Where the doctor stands in the header designer.
+struct SaisieEntete
+{
+    std::array<qint16, 24> EspacesLigne = {}; ///< the indentation of each row
+    qint16 LigneCourante = 0;                 ///< the row that last had the focus
+    QString TexteAvantCurseur;                ///< of that row, left of the caret, trimmed
+};
+
 /// One variable per settings field. Whatever prints or draws reads these, never the files.
 struct Reglages
 {
@@ -93,6 +102,7 @@ struct Reglages
     settings::Marges Marges;
     settings::Dupli Dupli;
     settings::Look Look;
+    settings::SaisieEntete SaisieEntete;
     QString TxtSLP; ///< the personal height as `FrmConfOrdo` shows it; empty without one
 };
 

@@ -15,8 +15,6 @@ namespace storage {
 
 namespace {
 
-constexpr int kLignesEntete = 24;
-
 QString TypeSql(TypeColonne type)
 {
     switch (type) {
@@ -96,7 +94,27 @@ void Ajoute(Jeu& jeu, const QVariantList& champs)
     jeu.Update();
 }
 
-QString TexteEntete(int ligne)
+void EcritPremieresLignes(Base& base)
+{
+    const QString police = QStringLiteral("Arial");
+    Transaction transaction(base);
+    Jeu entete = base.Table(QStringLiteral("Entete"));
+    for (int ligne = 0; ligne < kLignesEntete; ++ligne) {
+        Ajoute(entete, {ligne, TextePremiereEntete(ligne), police, 10, false, false, false, 0});
+    }
+    Jeu misenpage = base.Table(QStringLiteral("Misenpage"));
+    Ajoute(misenpage, {0, police, 11, true, false, false});
+    Ajoute(misenpage, {1, police, 10, false, false, false});
+    Jeu couleur = base.Table(QStringLiteral("CouleurPET"));
+    Ajoute(couleur, {0});
+    Jeu certificat = base.Table(QStringLiteral("Certificat"));
+    Ajoute(certificat, {police, 11, false, false, false});
+    transaction.Valide();
+}
+
+} // namespace
+
+QString TextePremiereEntete(int ligne)
 {
     switch (ligne) {
     case 5:
@@ -112,26 +130,6 @@ QString TexteEntete(int ligne)
         return QStringLiteral("*");
     }
 }
-
-void EcritPremieresLignes(Base& base)
-{
-    const QString police = QStringLiteral("Arial");
-    Transaction transaction(base);
-    Jeu entete = base.Table(QStringLiteral("Entete"));
-    for (int ligne = 0; ligne < kLignesEntete; ++ligne) {
-        Ajoute(entete, {ligne, TexteEntete(ligne), police, 10, false, false, false, 0});
-    }
-    Jeu misenpage = base.Table(QStringLiteral("Misenpage"));
-    Ajoute(misenpage, {0, police, 11, true, false, false});
-    Ajoute(misenpage, {1, police, 10, false, false, false});
-    Jeu couleur = base.Table(QStringLiteral("CouleurPET"));
-    Ajoute(couleur, {0});
-    Jeu certificat = base.Table(QStringLiteral("Certificat"));
-    Ajoute(certificat, {police, 11, false, false, false});
-    transaction.Valide();
-}
-
-} // namespace
 
 void CreeBase(const QString& chemin, GenreBase genre, ContenuInitial contenu)
 {

@@ -53,6 +53,11 @@ QString Cite(const QString& nom);
 /// `Premier` for a database that a doctor begins with, `Aucun` for one that rows will be copied into.
 enum class ContenuInitial { Premier, Aucun };
 
+inline constexpr int kLignesEntete = 24;
+
+/// The text that a row of `Entete`, 0 to 23, bears at first use.
+QString TextePremiereEntete(int ligne);
+
 /// Creates a database with all its tables over whatever stands at that path, with its first rows (24 rows
 /// of `Entete`, ...) where asked. The former file stays until the new one is whole. Throws `Erreur`.
 void CreeBase(const QString& chemin, GenreBase genre, ContenuInitial contenu = ContenuInitial::Premier);

@@ -1,23 +1,187 @@
 #include "settings/windows/FrmEntete.h"
 
+#include "application/Signaux.h"
 #include "application/windows/Style.h"
+#include "common/Nombres.h"
+#include "outside/Boites.h"
+#include "outside/Tente.h"
+#include "page/windows/VueAjustee.h"
+#include "prescription/Editeur.h"
+#include "settings/ApercuEntete.h"
+#include "settings/FichiersReglages.h"
+#include "settings/messages.h"
 #include "settings/windows/FrmOptions.h"
+#include "settings/windows/SaisieRangs.h"
+#include "startup/Chemins.h"
+#include "startup/GestionMedecins.h"
 
-#include <QVBoxLayout>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShortcut>
 
 namespace settings {
 
 namespace style = application::style;
 
 FrmEntete::FrmEntete(application::Contexte& contexte, application::Fenetres& fenetres)
-    : contexte_(contexte), fenetres_(fenetres)
+    : contexte_(contexte), fenetres_(fenetres), controles_(contexte.Reglages.SaisieEntete, this)
 {
     setObjectName(QStringLiteral("FrmEntete"));
     setWindowTitle(QStringLiteral("   En-tête ordonnance"));
-    auto* quitte = style::Bouton(QStringLiteral("CmdQuitter"), QStringLiteral("&Quitter"),
-                                 QStringLiteral("arrow-left"), this);
-    style::Fenetre(this)->addWidget(quitte);
-    connect(quitte, &QPushButton::clicked, this, &FrmEntete::Quitte);
+    style::Dimensionne(this, 1240, 700);
+    Charge();
+    Branche();
+}
+
+FrmEntete::~FrmEntete() = default;
+
+void FrmEntete::Branche()
+{
+    for (int ordre = 0; ordre < 2; ++ordre) {
+        connect(controles_.Opt.at(static_cast<size_t>(ordre)), &QRadioButton::clicked, this,
+                [this, ordre] { ChangeOrdre(ordre); });
+    }
+    for (QLineEdit* marge : {controles_.TxtMG, controles_.TxtMH, controles_.TxtMB}) {
+        connect(marge, &QLineEdit::textChanged, this, &FrmEntete::SuitModifications);
+    }
+    connect(controles_.Rangs, &SaisieRangs::Change, this, &FrmEntete::SuitModifications);
+    connect(controles_.Rangs, &SaisieRangs::RangCourant, this, &FrmEntete::MontrePolice);
+    connect(controles_.CmdPolice, &QPushButton::clicked, this, &FrmEntete::ChoisitPolice);
+    connect(controles_.CmdCouleur, &QPushButton::clicked, this, &FrmEntete::ChoisitCouleur);
+    connect(controles_.CmdEnregistrer, &QPushButton::clicked, this, &FrmEntete::Enregistre);
+    connect(controles_.CmdImpression, &QPushButton::clicked, this, &FrmEntete::Imprime);
+    connect(controles_.CmdQuitter, &QPushButton::clicked, this, &FrmEntete::Quitte);
+    connect(controles_.CmdAide, &QPushButton::clicked, this,
+            [this] { contexte_.Dehors.Boites.Information(messages::AideEntete()); });
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, controles_.CmdAide, &QPushButton::click);
+    connect(&contexte_.Signaux, &application::Signaux::MedecinChange, this, &FrmEntete::Charge);
+}
+
+// Rows that could not be read are never written over.
+void FrmEntete::Charge()
+{
+    contexte_.Reglages.SaisieEntete = {};
+    gardee_.reset();
+    logo_ = prescription::ChargeLogo(contexte_.Reglages.Options);
+    const QString& chemin = contexte_.Chemins.CheminMedecin;
+    Entete entete{.Rangs = PremiersRangs()};
+    if (!chemin.isEmpty()) {
+        outside::Tente(contexte_.Dehors.Boites, [&] {
+            entete = ChargeEntete(contexte_);
+            gardee_ = std::make_unique<Entete>(entete);
+        });
+    }
+    Options ecrites = contexte_.Reglages.Options;
+    LitOptions(ecrites, chemin);
+    ordreGarde_ = ecrites.ModeEntete;
+    controles_.CmdEnregistrer->setEnabled(gardee_ || chemin.isEmpty());
+    Montre(entete);
+}
+
+void FrmEntete::Montre(const Entete& entete)
+{
+    montre_ = true;
+    controles_.Rangs->Montre(entete.Rangs);
+    const Marges& marges = contexte_.Reglages.Marges;
+    controles_.TxtMG->setText(common::TexteSimple(marges.MargeGaucheEntete));
+    controles_.TxtMH->setText(common::TexteSimple(marges.MargeHauteEntete));
+    controles_.TxtMB->setText(common::TexteSimple(marges.MargeBasEntete));
+    controles_.LblColor->Montre(contexte_.Reglages.Look.CouleurEntete);
+    const quint8 ordre = contexte_.Reglages.Options.ModeEntete;
+    if (ordre < controles_.Opt.size()) {
+        controles_.Opt.at(ordre)->setChecked(true);
+    }
+    montre_ = false;
+    MontrePolice(contexte_.Reglages.SaisieEntete.LigneCourante);
+    PeintEnregistree();
+    SuitModifications();
+}
+
+Entete FrmEntete::Lit() const
+{
+    return {.Rangs = controles_.Rangs->Lit(),
+            .Couleur = contexte_.Reglages.Look.CouleurEntete,
+            .MargeGauche = MargeTapee(controles_.TxtMG->text()),
+            .MargeHaute = MargeTapee(controles_.TxtMH->text()),
+            .MargeBas = MargeTapee(controles_.TxtMB->text())};
+}
+
+void FrmEntete::PeintEnregistree()
+{
+    controles_.PctEntete->Montre(DessinEntete(contexte_));
+}
+
+void FrmEntete::SuitModifications()
+{
+    if (montre_) {
+        return;
+    }
+    const Entete saisie = Lit();
+    controles_.LblModifie->setVisible(gardee_ && saisie != *gardee_);
+    controles_.LblOrdre->setVisible(ordreGarde_ != contexte_.Reglages.Options.ModeEntete);
+    controles_.PctFeuille->Montre(FeuilleAvec(contexte_, saisie, logo_));
+}
+
+void FrmEntete::MontrePolice(int rang)
+{
+    controles_.LblPolice->setText(controles_.Rangs->NomPolice(rang));
+}
+
+void FrmEntete::ChangeOrdre(int ordre)
+{
+    contexte_.Reglages.Options.ModeEntete = static_cast<quint8>(ordre);
+    PeintEnregistree();
+    SuitModifications();
+    controles_.CmdEnregistrer->setFocus();
+}
+
+void FrmEntete::ChoisitPolice()
+{
+    const int rang = contexte_.Reglages.SaisieEntete.LigneCourante;
+    if (const auto police = contexte_.Dehors.Boites.ChoisitPolice(controles_.Rangs->Police(rang))) {
+        controles_.Rangs->PosePolice(rang, *police);
+        MontrePolice(rang);
+    }
+}
+
+void FrmEntete::ChoisitCouleur()
+{
+    outside::Boites& boites = contexte_.Dehors.Boites;
+    boites.Information(messages::CouleurDeTouteLEntete());
+    page::Couleur& couleur = contexte_.Reglages.Look.CouleurEntete;
+    couleur = boites.ChoisitCouleur(couleur).value_or(couleur);
+    controles_.LblColor->Montre(couleur);
+    SuitModifications();
+}
+
+void FrmEntete::Enregistre()
+{
+    if (!startup::ExigeMedecin(contexte_)) {
+        return;
+    }
+    const Entete entete = Lit();
+    try {
+        EnregistreEntete(contexte_, entete);
+    } catch (const common::Erreur& erreur) {
+        contexte_.Dehors.Boites.Stop(
+            messages::EnteteNonEnregistree(outside::messages::Panne(erreur.Phrase(), erreur.Lieu())));
+        return;
+    }
+    gardee_ = std::make_unique<Entete>(entete);
+    controles_.LblColor->Montre(entete.Couleur);
+    PeintEnregistree();
+    SuitModifications();
+    contexte_.Dehors.Boites.Information(messages::EnteteEnregistree());
+}
+
+void FrmEntete::Imprime()
+{
+    if (startup::ExigeMedecin(contexte_)) {
+        ImprimeEntete(contexte_);
+    }
 }
 
 void FrmEntete::Quitte()
@@ -26,5 +190,21 @@ void FrmEntete::Quitte()
     fenetres_.Decharge<FrmEntete>();
     fenetres_.Donne<FrmOptions>().Ouvre(1);
 }
+
+void FrmEntete::changeEvent(QEvent* evenement)
+{
+    QDialog::changeEvent(evenement);
+    if (evenement->type() == QEvent::ActivationChange && isActiveWindow()) {
+        PeintEnregistree();
+    }
+}
+
+void FrmEntete::closeEvent(QCloseEvent* evenement)
+{
+    evenement->ignore();
+}
+
+// Escape would drop what is typed: `CmdQuitter` is the way out.
+void FrmEntete::reject() {}
 
 } // namespace settings

@@ -1,0 +1,44 @@
+#include "prescription/Envoi.h"
+
+#include "common/Erreur.h"
+#include "common/Fichiers.h"
+#include "outside/Boites.h"
+#include "prescription/messages.h"
+#include "settings/Reglages.h"
+#include "startup/Chemins.h"
+
+namespace prescription {
+
+QString ImprimanteEnUsage(application::Contexte& contexte)
+{
+    const QString choisie = contexte.Reglages.Options.Imprimante;
+    if (contexte.Dehors.Imprimantes.Noms().contains(choisie)) {
+        return choisie;
+    }
+    const QString utilisee = contexte.Dehors.Imprimantes.ParDefaut();
+    if (!choisie.isEmpty()) {
+        contexte.Dehors.Boites.Information(messages::ImprimanteIntrouvable(choisie, utilisee));
+    }
+    return utilisee;
+}
+
+QString DossierPdf(const startup::Chemins& chemins)
+{
+    return common::Joint(chemins.CheminTravail, QStringLiteral("PDF"));
+}
+
+bool Envoie(application::Contexte& contexte, const QString& imprimante, const outside::Travail& travail)
+{
+    try {
+        if (imprimante == outside::NomFichierPdf()) {
+            common::CreeDossier(travail.CheminPdf);
+        }
+        contexte.Dehors.Imprimantes.Imprime(imprimante, travail);
+        return true;
+    } catch (const common::Erreur& erreur) {
+        contexte.Dehors.Boites.Stop(messages::ImpressionEchouee(imprimante, erreur.Phrase()));
+        return false;
+    }
+}
+
+} // namespace prescription

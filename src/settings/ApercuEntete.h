@@ -1,0 +1,21 @@
+#pragma once
+
+#include "page/Dessin.h"
+#include "settings/Entete.h"
+
+namespace settings {
+
+/// `PctEntete`: the stored rows as `PeintEntete` draws them, in the order and colour in force. As high as
+/// what it shows. Empty without a doctor.
+page::Dessin DessinEntete(application::Contexte& contexte);
+
+/// The same for rows that are not stored.
+page::Dessin DessinEntete(application::Contexte& contexte, const QList<page::LigneEntete>& lignes);
+
+/// The whole sample sheet as it would be printed with this letterhead, stored or not.
+page::Dessin FeuilleAvec(application::Contexte& contexte, const Entete& entete, const QImage& logo);
+
+/// `CmdImpression`: the stored letterhead and the foot of the page on paper. A failure is told; false then.
+bool ImprimeEntete(application::Contexte& contexte);
+
+} // namespace settings
