@@ -21,6 +21,8 @@ constexpr double kHauteurA4 = 297;
 constexpr double kHauteurA5 = 210;
 constexpr double kMoindreHauteur = 45; // of the picture, millimetres as all here
 constexpr double kSousLeTexte = 4;
+constexpr double kLargeurDuHaut = 110;
+constexpr double kHauteurDuHaut = 32;
 
 double BasDuTexte(const page::Dessin& dessin)
 {
@@ -71,16 +73,19 @@ page::Dessin DessinEntete(application::Contexte& contexte)
 {
     QList<page::LigneEntete> lignes;
     prescription::ModelePage(contexte, lignes);
-    return DessinEntete(contexte, lignes);
-}
-
-page::Dessin DessinEntete(application::Contexte& contexte, const QList<page::LigneEntete>& lignes)
-{
     page::Surface cible(page::Cible::Autre, kLargeurFeuille, kHauteurA4);
     page::PeintEntete(cible, ModeleEntete(contexte, lignes), QImage());
     page::Dessin dessin = cible.Resultat();
     dessin.Hauteur = std::clamp(BasDuTexte(dessin) + kSousLeTexte, kMoindreHauteur, kHauteurA4);
     return dessin;
+}
+
+page::Dessin HautDeFeuille(application::Contexte& contexte, const RangsEntete& rangs)
+{
+    page::Surface cible(page::Cible::Imprimante, kLargeurDuHaut, kHauteurDuHaut);
+    const QList<page::LigneEntete> lignes = LignesDe(rangs);
+    page::PeintEntete(cible, ModeleEntete(contexte, lignes), QImage());
+    return cible.Resultat();
 }
 
 page::Dessin FeuilleAvec(application::Contexte& contexte, const Entete& entete, const QImage& logo)

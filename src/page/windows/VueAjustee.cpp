@@ -30,6 +30,11 @@ void VueAjustee::Montre(const Dessin& dessin)
     Ajuste();
 }
 
+void VueAjustee::MontrePied(bool oui)
+{
+    verticalScrollBar()->setValue(oui ? verticalScrollBar()->maximum() : 0);
+}
+
 void VueAjustee::resizeEvent(QResizeEvent* evenement)
 {
     QScrollArea::resizeEvent(evenement);

@@ -18,7 +18,8 @@ public:
     VueAjustee(const QString& nom, const QString& titre, QWidget* parent);
 
     void Montre(const Dessin& dessin);
-    const page::Feuille& Feuille() const { return *feuille_; }
+    /// Scrolls to the sheet's foot or back to its head.
+    void MontrePied(bool oui);
 
 protected:
     void resizeEvent(QResizeEvent* evenement) override;

@@ -2,6 +2,7 @@
 
 #include "application/windows/Style.h"
 #include "page/windows/VueAjustee.h"
+#include "settings/windows/Pastille.h"
 #include "settings/windows/SaisieRangs.h"
 
 #include <QHBoxLayout>
@@ -20,8 +21,7 @@ namespace {
 
 constexpr int kLargeurMarge = 64;
 constexpr int kLargeurFeuilles = 440;
-constexpr QSize kTaillePastille(48, 26);
-constexpr int kHauteurEntete = 150;
+constexpr int kHauteurEntete = 140;
 
 QRadioButton* Option(int rang, const QString& texte, QWidget* carte)
 {
@@ -46,25 +46,9 @@ QLineEdit* Marge(const QString& nom, const QString& texte, QWidget* carte, QHBox
 
 } // namespace
 
-Pastille::Pastille(QWidget* parent) : QWidget(parent)
-{
-    setFixedSize(kTaillePastille);
-    setAutoFillBackground(true);
-}
-
-void Pastille::Montre(page::Couleur couleur)
-{
-    constexpr page::Couleur kOctet = 255;
-    QPalette palette = this->palette();
-    palette.setColor(backgroundRole(),
-                     QColor(static_cast<int>(couleur & kOctet), static_cast<int>(couleur >> 8 & kOctet),
-                            static_cast<int>(couleur >> 16 & kOctet)));
-    setPalette(palette);
-}
-
 ControlesEntete::ControlesEntete(SaisieEntete& saisie, QWidget* fenetre)
 {
-    auto* page = style::Fenetre(fenetre);
+    QVBoxLayout* page = style::Fenetre(fenetre);
     auto* corps = new QHBoxLayout;
     corps->setSpacing(style::kEntreGroupes);
     corps->addLayout(Gauche(saisie, fenetre), 1);
@@ -157,14 +141,8 @@ QWidget* ControlesEntete::CarteFeuilles(QWidget* fenetre)
     PctEntete =
         new page::VueAjustee(QStringLiteral("PctEntete"), QStringLiteral("En-tête enregistrée"), cadre);
     PctEntete->setFixedHeight(kHauteurEntete);
-    LblModifie = style::Avertissement(QStringLiteral("LblModifie"),
-                                      QStringLiteral("Modifications non enregistrées"), cadre);
-    auto* titre = new QHBoxLayout;
-    titre->addWidget(style::Titre(QStringLiteral("LblFeuille"),
-                                  QStringLiteral("Feuille telle qu'elle s'imprimera"), cadre));
-    titre->addStretch();
-    titre->addWidget(LblModifie);
-    colonne->addLayout(titre);
+    colonne->addWidget(style::Titre(QStringLiteral("LblFeuille"),
+                                    QStringLiteral("Feuille telle qu'elle s'imprimera"), cadre));
     colonne->addWidget(PctFeuille, 1);
     colonne->addWidget(
         style::Titre(QStringLiteral("LblEntete"), QStringLiteral("En-tête enregistrée"), cadre));
@@ -186,11 +164,15 @@ QLayout* ControlesEntete::Commandes(QWidget* fenetre)
     CmdQuitter->setToolTip(QStringLiteral("Retour aux options, sans enregistrer (Alt+Q)"));
     CmdEnregistrer = style::BoutonPrincipal(QStringLiteral("CmdEnregistrer"), QStringLiteral("&Enregistrer"),
                                             QStringLiteral("save"), fenetre);
+    LblModifie = style::Avertissement(QStringLiteral("LblModifie"),
+                                      QStringLiteral("Modifications non enregistrées"), fenetre);
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(style::kDansGroupe);
     ligne->addWidget(CmdAide);
     ligne->addWidget(CmdImpression);
     ligne->addStretch();
+    ligne->addWidget(LblModifie);
+    ligne->addSpacing(style::kDansGroupe);
     ligne->addWidget(CmdQuitter);
     ligne->addWidget(CmdEnregistrer);
     return ligne;

@@ -1,14 +1,13 @@
 #pragma once
 
-#include "page/Police.h"
-
-#include <QWidget>
 #include <array>
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QLayout;
+class QWidget;
 
 namespace page {
 class VueAjustee;
@@ -16,19 +15,9 @@ class VueAjustee;
 
 namespace settings {
 
+class Pastille;
 struct SaisieEntete;
 class SaisieRangs;
-
-/// A patch of a colour that the doctor chose.
-class Pastille : public QWidget
-{
-    Q_OBJECT
-
-public:
-    explicit Pastille(QWidget* parent);
-
-    void Montre(page::Couleur couleur);
-};
 
 /// The controls of `FrmEntete`: the rows and settings at the left, the two sheets at the right.
 struct ControlesEntete

@@ -11,6 +11,7 @@
 #include "settings/FichiersReglages.h"
 #include "settings/messages.h"
 #include "settings/windows/FrmOptions.h"
+#include "settings/windows/Pastille.h"
 #include "settings/windows/SaisieRangs.h"
 #include "startup/Chemins.h"
 #include "startup/GestionMedecins.h"
@@ -48,7 +49,10 @@ void FrmEntete::Branche()
         connect(marge, &QLineEdit::textChanged, this, &FrmEntete::SuitModifications);
     }
     connect(controles_.Rangs, &SaisieRangs::Change, this, &FrmEntete::SuitModifications);
-    connect(controles_.Rangs, &SaisieRangs::RangCourant, this, &FrmEntete::MontrePolice);
+    connect(controles_.Rangs, &SaisieRangs::RangCourant, this, [this](int rang) {
+        MontrePolice(rang);
+        controles_.PctFeuille->MontrePied(rang == page::kBasDePage);
+    });
     connect(controles_.CmdPolice, &QPushButton::clicked, this, &FrmEntete::ChoisitPolice);
     connect(controles_.CmdCouleur, &QPushButton::clicked, this, &FrmEntete::ChoisitCouleur);
     connect(controles_.CmdEnregistrer, &QPushButton::clicked, this, &FrmEntete::Enregistre);

@@ -23,6 +23,7 @@ namespace {
 constexpr float kPlusPetite = 4; // points: what a field can show
 constexpr float kPlusGrande = 40;
 constexpr int kLignesDuPied = 3;
+constexpr int kEntreRangs = 3;
 constexpr int kPlusGrandRetrait = 120; // pixels
 
 QFont PoliceDuChamp(const page::Police& police)
@@ -99,7 +100,7 @@ bool EstClicGauche(const QEvent* evenement)
 QVBoxLayout* Groupe(QWidget* carte, const QString& nom, const QString& titre, QWidget* premier)
 {
     auto* groupe = new QVBoxLayout(carte);
-    groupe->setSpacing(style::kDansGroupe);
+    groupe->setSpacing(kEntreRangs);
     const QString accessible = premier->accessibleName();
     groupe->addWidget(style::Titre(nom, titre, carte, premier));
     premier->setAccessibleName(accessible);
@@ -128,15 +129,14 @@ SaisieRangs::SaisieRangs(SaisieEntete& saisie, QWidget* parent) : QWidget(parent
     auto* gauche = new QVBoxLayout;
     gauche->setSpacing(style::kEntreGroupes);
     gauche->addWidget(CarteAdresse());
+    gauche->addWidget(CarteBasDePage());
+    gauche->addWidget(CarteSignature());
     gauche->addStretch();
     colonnes->addLayout(gauche, 1);
     colonnes->addWidget(CartePraticien(), 1);
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins({});
-    page->setSpacing(style::kEntreGroupes);
     page->addLayout(colonnes);
-    page->addWidget(CarteBasDePage());
-    page->addWidget(CarteSignature());
     page->addStretch();
 }
 

@@ -2,10 +2,12 @@
 #include "medication/windows/FrmMedoc.h"
 #include "prescription/Editeur.h"
 #include "prescription/windows/FrmOrdo.h"
+#include "settings/EntetePropose.h"
 #include "settings/windows/FrmOptions.h"
 #include "startup/Chemins.h"
 #include "startup/Documents.h"
 #include "startup/GestionMedecins.h"
+#include "startup/windows/CarteEntete.h"
 #include "startup/windows/FrmAPROPOS.h"
 #include "startup/windows/FrmDepart.h"
 #include "startup/windows/FrmMedecins.h"
@@ -50,6 +52,10 @@ void FrmDepart::BrancheControles()
             [this] { Deroule(menus_.MnuAideInv, controles_.CmdAide); });
     connect(controles_.CmdAP, &QPushButton::clicked, this, [this] { fenetres_.OuvreModale<FrmAPROPOS>(); });
     connect(controles_.CmdQuitter, &QPushButton::clicked, this, &QWidget::close);
+    connect(controles_.CartePropose->CmdUtiliseEntete, &QPushButton::clicked, this,
+            [this] { settings::UtiliseEntete(contexte_); });
+    connect(controles_.CartePropose->CmdLaisseEntete, &QPushButton::clicked, this,
+            [this] { settings::LaisseEntete(contexte_); });
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { OuvreAide(contexte_); });
     BrancheMenus();
     BranchePlateau();

@@ -2,6 +2,7 @@
 
 #include "application/windows/Style.h"
 #include "startup/Demarrage.h"
+#include "startup/windows/CarteEntete.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -29,13 +30,14 @@ QLayout* Bandeau(QWidget* fenetre)
     return bandeau;
 }
 
-QLayout* Face(QWidget* fenetre, QLabel* conseil)
+QLayout* Face(QWidget* fenetre, QLabel* conseil, QWidget* proposition)
 {
     auto* face = new QVBoxLayout;
     face->addLayout(Bandeau(fenetre));
     face->addStretch();
     face->addWidget(conseil, 0, Qt::AlignCenter);
     face->addStretch();
+    face->addWidget(proposition, 0, Qt::AlignLeft);
     face->addStrut(kLargeurFace);
     return face;
 }
@@ -43,7 +45,8 @@ QLayout* Face(QWidget* fenetre, QLabel* conseil)
 } // namespace
 
 ControlesDepart::ControlesDepart(QWidget* fenetre)
-    : Conseil(style::Legende({}, QStringLiteral("L'en-tête de vos ordonnances s'affiche ici."), fenetre))
+    : Conseil(style::Legende({}, QStringLiteral("L'en-tête de vos ordonnances s'affiche ici."), fenetre)),
+      CartePropose(new CarteEntete(fenetre))
 {
     auto* colonne = new QVBoxLayout;
     colonne->setSpacing(style::kEntreGroupes);
@@ -58,9 +61,10 @@ ControlesDepart::ControlesDepart(QWidget* fenetre)
     auto* disposition = new QHBoxLayout(fenetre);
     disposition->setContentsMargins(style::kMarge, style::kMarge, style::kMarge, style::kMarge);
     disposition->setSpacing(style::kEntreGroupes);
-    disposition->addLayout(Face(fenetre, Conseil), 1);
+    disposition->addLayout(Face(fenetre, Conseil, CartePropose), 1);
     disposition->addLayout(colonne);
-    style::OrdreTab({CboListeMed, CmdMedecins, CmdNO, CmdOptions, CmdOutils, CmdAide, CmdAP, CmdQuitter});
+    style::OrdreTab({CboListeMed, CmdMedecins, CmdNO, CmdOptions, CmdOutils, CmdAide, CmdAP, CmdQuitter,
+                     CartePropose->CmdUtiliseEntete, CartePropose->CmdLaisseEntete});
 }
 
 QWidget* ControlesDepart::CarteDuMedecin(QWidget* fenetre)

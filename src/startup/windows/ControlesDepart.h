@@ -7,6 +7,8 @@ class QWidget;
 
 namespace startup {
 
+class CarteEntete;
+
 /// The controls of `FrmDepart`, laid out beside its painted face.
 struct ControlesDepart
 {
@@ -14,7 +16,8 @@ struct ControlesDepart
 
     QComboBox* CboListeMed;
     QLabel* PctLogo;
-    QLabel* Conseil; ///< stands on a face without letterhead
+    QLabel* Conseil;           ///< stands on a face without letterhead
+    CarteEntete* CartePropose; ///< the offer of a first letterhead; hidden
     QPushButton* CmdNO;
     QPushButton* CmdMedecins;
     QPushButton* CmdOptions;

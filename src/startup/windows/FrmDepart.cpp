@@ -6,9 +6,12 @@
 #include "page/Rejeu.h"
 #include "prescription/Editeur.h"
 #include "prescription/windows/FrmOrdo.h"
+#include "settings/ApercuEntete.h"
+#include "settings/EntetePropose.h"
 #include "settings/Reglages.h"
 #include "startup/GestionMedecins.h"
 #include "startup/Medecins.h"
+#include "startup/windows/CarteEntete.h"
 #include "startup/windows/FondPeint.h"
 
 #include <QCloseEvent>
@@ -169,7 +172,18 @@ void FrmDepart::PeintFace()
     page::PeintEntete(surface, modele, logo_);
     face_ = surface.Resultat();
     controles_.Conseil->setVisible(!AvecTexte(face_));
+    ProposeEntete(entete);
     update();
+}
+
+void FrmDepart::ProposeEntete(const QList<page::LigneEntete>& stockee)
+{
+    const bool propose = settings::EnteteAProposer(contexte_, stockee);
+    if (propose) {
+        const QString medecin = settings::NomDuMedecinCourant(contexte_);
+        controles_.CartePropose->Montre(settings::HautDeFeuille(contexte_, settings::RangsProposes(medecin)));
+    }
+    controles_.CartePropose->setVisible(propose);
 }
 
 void FrmDepart::RecoitClic(outside::Plateau::Clic clic)

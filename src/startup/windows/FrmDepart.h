@@ -2,6 +2,7 @@
 
 #include "application/windows/Fenetres.h"
 #include "outside/Plateau.h"
+#include "page/LignesEntete.h"
 #include "page/windows/PorteDessin.h"
 #include "startup/windows/ControlesDepart.h"
 #include "startup/windows/MenusDepart.h"
@@ -45,6 +46,7 @@ private:
     void SuitReglages();
     void RelitLogo();
     void PeintFace();
+    void ProposeEntete(const QList<page::LigneEntete>& stockee);
     void EditeOrdonnances();
     void Accueille();
     void OuvreOptions(int onglet);

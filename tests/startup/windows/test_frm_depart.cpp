@@ -78,9 +78,9 @@ private Q_SLOTS:
         QCOMPARE(SansLettre(Bouton(depart, "CmdQuitter")->text()), QStringLiteral("Quitter Scriptelle"));
         QCOMPARE(Bouton(depart, "CmdNO")->palette().color(QPalette::Button), QColor(237, 244, 252));
         depart.findChild<QComboBox*>(QStringLiteral("CboListeMed"))->setFocus();
-        QCOMPARE(
-            support::OrdreTab(depart).join(QLatin1Char(' ')),
-            QStringLiteral("CboListeMed CmdMedecins CmdNO CmdOptions CmdOutils CmdAide CmdAP CmdQuitter"));
+        QCOMPARE(support::OrdreTab(depart).join(QLatin1Char(' ')),
+                 QStringLiteral("CboListeMed CmdMedecins CmdNO CmdOptions CmdOutils CmdAide CmdAP CmdQuitter "
+                                "CmdUtiliseEntete CmdLaisseEntete"));
     }
 
     void TheMenus()
