@@ -31,6 +31,8 @@ Q_SIGNALS:
     void MemoireChange();
     /// The table of patients changed from outside its window.
     void PatientsChanges();
+    /// The personal pharmacy, or the local one, changed from outside the picker.
+    void PharmacieChange();
     /// A window asks for the end of the program: session closed, tray icon removed, windows unloaded.
     void FinDemandee();
 };

@@ -235,7 +235,6 @@ void AjouteChoix(Registre& registre)
     VARIABLE(Choix, IndexEdition2);
     VARIABLE(Choix, IdentifiantRepris);
     VARIABLE(Choix, InfoPack);
-    VARIABLE(Choix, EtiquetteLue);
     VARIABLE(Choix, BaseChangee);
     VARIABLE(Choix, DernierCboP);
     VARIABLE(Choix, TexteQuantite);

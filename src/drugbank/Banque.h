@@ -1,7 +1,10 @@
 #pragma once
 
+#include "drugbank/AccesBanque.h"
+
 #include <QString>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace drugbank {
@@ -18,8 +21,15 @@ struct Banque
     qint32 FiltreBanque = 64;                 ///< 64, 128 or 255
     qint32 SessionBanque = 0;
     QString DateExpirationBase;
-    ResolutionCip ProduitDuCip; ///< of the session in use, empty without one
-    bool ModuleAide = false;    ///< the helper library could be loaded
+    ResolutionCip ProduitDuCip;         ///< of the session in use, empty without one
+    bool ModuleAide = false;            ///< the helper library could be loaded
+    std::shared_ptr<AccesBanque> Acces; ///< null while no bank is open: a search finds nothing
 };
+
+/// True when the medications come from a bank, false in the local mode.
+inline bool EnModeBanque(const Banque& banque)
+{
+    return banque.TypeBase != QLatin1String("BIP");
+}
 
 } // namespace drugbank

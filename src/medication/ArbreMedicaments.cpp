@@ -70,6 +70,14 @@ void ArbreMedicaments::Retire(int rang)
     }
 }
 
+void ArbreMedicaments::Change(int rang, const Noeud& noeud)
+{
+    if (Lis(rang)) {
+        noeuds_[rang] = noeud;
+        Q_EMIT dataChanged(index(rang, 0), index(rang, 0));
+    }
+}
+
 int ArbreMedicaments::Cherche(const QString& recherche) const
 {
     // The texts that begin so lie between both keys; the accents decide among them.

@@ -25,6 +25,8 @@ public:
     /// Replaces all nodes. They are in the order of `Trie` where a search is to find them.
     void Remplit(QList<Noeud> noeuds);
     void Retire(int rang);
+    /// Replaces one node; a row outside the tree changes nothing.
+    void Change(int rang, const Noeud& noeud);
 
     /// The first row whose text begins with the trimmed search text, capitals and small letters being the
     /// same; -1 for none. An empty search finds the first row.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "medication/Noeud.h"
+
 #include <QStringList>
 
 namespace medication {
@@ -18,7 +20,9 @@ struct Choix
     int IndexEdition2 = 0;
     QString IdentifiantRepris; ///< identifier of the line taken back
     QStringList InfoPack;      ///< CIP, pack id, product id, price of the pack last clicked
-    QString EtiquetteLue;      ///< tag of the stored medication that the last click read; empty for none
+    Noeud NoeudLu;             ///< what the last click read; an empty tag for none
+    quint8 ChkDCI = 0;         ///< 1: a pack is prescribed by its common name
+    QString TypeBaseArbre;     ///< `TypeBase` when the tree was last filled
     quint8 BaseChangee = 0;    ///< 0 or 1: the tree is to be filled again; 2: it is filled
     qint16 DernierCboP = 0;    ///< the box of `FrmPoso` that last changed
     QString TexteQuantite;     ///< the quantity last typed for a moment without a time of day

@@ -1,10 +1,14 @@
 #include "medication/Commandes.h"
 
+#include "common/Dates.h"
 #include "common/Tolere.h"
+#include "drugbank/Banque.h"
+#include "medication/MedicamentsUtilises.h"
 #include "medication/messages.h"
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "prescription/Apercu.h"
 #include "prescription/Editeur.h"
+#include "settings/FichiersReglages.h"
 #include "startup/Chemins.h"
 #include "storage/Bases.h"
 
@@ -43,12 +47,12 @@ QString PackEnMain(const Choix& choix, const Noeud* noeud)
 void ChargeMedicaments(Choix& choix, Pharmacie& pharmacie, ArbreMedicaments& arbre, const QString& recherche)
 {
     choix.NoeudChoisi = kAucunNoeud;
-    choix.EtiquetteLue.clear();
+    choix.NoeudLu = {};
     arbre.Remplit({});
     arbre.Remplit(pharmacie.Charge(recherche.trimmed()));
 }
 
-Suite Ajoute(application::Contexte& contexte, const Pharmacie& pharmacie, Zone zone, const Saisie& saisie,
+Suite Ajoute(application::Contexte& contexte, Pharmacie& pharmacie, Zone zone, const Saisie& saisie,
              const Noeud* noeud)
 {
     Choix& choix = contexte.Choix;
@@ -64,6 +68,7 @@ Suite Ajoute(application::Contexte& contexte, const Pharmacie& pharmacie, Zone z
             return Suite::SansNoeud;
         }
         AjouteLigne(contexte.Ordonnance, zone, saisie, pharmacie.Identifiant(noeud));
+        outside::Tente(contexte.Dehors.Boites, [&] { pharmacie.Prescrit(noeud); });
     }
     choix.NoeudChoisi = kAucunNoeud;
     return Suite::Termine;
@@ -119,8 +124,11 @@ std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noe
     choix.OrigineEdition = 0;
     choix.ArbreChoisi = 1;
     choix.NoeudChoisi = rang + 1;
+    if (const QStringList pack = pharmacie.InfoPack(*noeud); !pack.isEmpty()) {
+        choix.InfoPack = pack;
+    }
     const std::optional<Saisie> lue = pharmacie.Lit(*noeud);
-    choix.EtiquetteLue = noeud->Etiquette;
+    choix.NoeudLu = *noeud;
     return lue.value_or(Saisie{noeud->Texte, QString()});
 }
 
@@ -136,6 +144,45 @@ void RemplitOffres(application::Contexte& contexte, OffresPosologie& offres, con
         });
     }
     offres.Remplit(std::move(lues));
+}
+
+void EnregistreSaisie(application::Contexte& contexte, Pharmacie& pharmacie, ArbreMedicaments& arbre,
+                      const Saisie& saisie)
+{
+    Choix& choix = contexte.Choix;
+    const Noeud avant = choix.NoeudLu;
+    pharmacie.Enregistre(choix.NoeudLu, saisie, contexte.Dehors.Boites);
+    const auto rang = static_cast<int>(arbre.Noeuds().indexOf(avant));
+    if (choix.NoeudLu != avant) {
+        arbre.Change(rang, choix.NoeudLu);
+    }
+}
+
+void Demarque(application::Contexte& contexte, ArbreMedicaments& arbre, int rang)
+{
+    MedicamentsUtilises(contexte.Bases.Medoc(contexte.Chemins.CheminTravail))
+        .Retire(contexte.Choix.InfoPack.value(0));
+    if (const Noeud* noeud = arbre.Lis(rang)) {
+        arbre.Change(rang, {noeud->Texte, noeud->Etiquette, false});
+    }
+}
+
+void CocheMono(application::Contexte& contexte, quint8 etat)
+{
+    contexte.Reglages.Options.EtatChkMono = etat;
+    if (!contexte.Chemins.CheminMedecin.isEmpty()) {
+        settings::EcritOptions(contexte.Reglages.Options, contexte.Chemins.CheminMedecin);
+    }
+}
+
+QString Validite(const drugbank::Banque& banque, const QDate& aujourdhui)
+{
+    if (!drugbank::EnModeBanque(banque)) {
+        return {};
+    }
+    const auto expiration = common::DateSaisie(banque.DateExpirationBase);
+    return expiration && aujourdhui < *expiration ? messages::BaseExpire(banque.DateExpirationBase)
+                                                  : messages::FinExploitation();
 }
 
 bool PresseRecherche(Choix& choix)

@@ -6,6 +6,12 @@
 #include "medication/OffresPosologie.h"
 #include "medication/Pharmacie.h"
 
+class QDate;
+
+namespace drugbank {
+struct Banque;
+}
+
 namespace medication {
 
 /// Empties the tree and fills it again for a search text. No node is selected then.
@@ -19,7 +25,7 @@ enum class Suite {
 };
 
 /// `CmdAjouter1` and `CmdAjouter2`. `noeud`: the selected node, null for none.
-Suite Ajoute(application::Contexte& contexte, const Pharmacie& pharmacie, Zone zone, const Saisie& saisie,
+Suite Ajoute(application::Contexte& contexte, Pharmacie& pharmacie, Zone zone, const Saisie& saisie,
              const Noeud* noeud);
 
 /// `CmdSaut`: asks for the zone when there are two. False when nothing was added.
@@ -44,6 +50,16 @@ std::optional<Saisie> ChoisitNoeud(Choix& choix, Pharmacie& pharmacie, const Noe
 /// be read leaves none.
 void RemplitOffres(application::Contexte& contexte, OffresPosologie& offres, const QString& nom,
                    const Noeud* noeud);
+/// `CmdModifier`: stores both boxes for the medication last clicked, whose node follows.
+void EnregistreSaisie(application::Contexte& contexte, Pharmacie& pharmacie, ArbreMedicaments& arbre,
+                      const Saisie& saisie);
+/// `mnuDemark`: the pack last clicked is no longer one prescribed before; the node of the row goes back
+/// to normal.
+void Demarque(application::Contexte& contexte, ArbreMedicaments& arbre, int rang);
+/// `ChkMono`: the state is kept in the doctor's "Options.cfg".
+void CocheMono(application::Contexte& contexte, quint8 etat);
+/// `LblDatExp`: how long the bank may be used; empty in the local mode.
+QString Validite(const drugbank::Banque& banque, const QDate& aujourdhui);
 
 /// A press in the search box. True when its whole text is to be selected.
 bool PresseRecherche(Choix& choix);

@@ -8,7 +8,7 @@ namespace medication {
 struct Noeud
 {
     QString Texte;
-    QString Etiquette;  ///< the tag: `num` of `BddMed` in the local mode
+    QString Etiquette;  ///< the tag: `num` of `BddMed`, "1" of a personal entry, or the `InfoPack` of a pack
     bool Utile = false; ///< prescribed before: bold, in blue on yellow
     bool operator==(const Noeud&) const = default;
 };

@@ -15,6 +15,7 @@ namespace {
 const QLatin1String kTable("BddMed");
 
 // Its columns.
+constexpr int kNum = 0;
 constexpr int kNotes = 3;
 constexpr int kPosologie = 4;
 constexpr int kNom = 5;
@@ -26,10 +27,17 @@ storage::Jeu LigneDe(storage::Base& base, const QString& etiquette)
 
 void EcritLigne(storage::Jeu& ligne, const Saisie& saisie)
 {
-    ligne.Edit();
     ligne.Ecris(kPosologie, saisie.TxtPoso);
     ligne.Ecris(kNom, saisie.TxtMedoc);
     ligne.Update();
+}
+
+qint64 NumeroLibre(storage::Base& base)
+{
+    qint64 plusGrand = 0;
+    base.Parcourt(QStringLiteral("select max(num) from BddMed"), {},
+                  [&](const storage::Rangee& rangee) { plusGrand = std::max(plusGrand, rangee.Entier(0)); });
+    return plusGrand + 1;
 }
 
 } // namespace
@@ -75,26 +83,27 @@ std::optional<QString> PharmacieLocale::Notes(const QString& etiquette)
     return ligne.Texte(kNotes);
 }
 
-void PharmacieLocale::Enregistre(const QString& etiquette, const Saisie& saisie, outside::Boites& boites)
+void PharmacieLocale::Enregistre(Noeud& noeud, const Saisie& saisie, outside::Boites& boites)
 {
     if (saisie.TxtMedoc.trimmed().isEmpty()) {
         boites.Stop(messages::SansNom());
         return;
     }
-    storage::Jeu ligne = LigneDe(base_(), etiquette);
+    storage::Jeu ligne = LigneDe(base_(), noeud.Etiquette);
     if (ligne.Fin()) {
         boites.Exclamation(messages::Disparu());
         return;
     }
     if (Saisie{ligne.Texte(kNom), ligne.Texte(kPosologie)} != saisie) {
+        ligne.Edit();
         EcritLigne(ligne, saisie);
         boites.Information(messages::Modifie());
     }
 }
 
-bool PharmacieLocale::Retire(const QString& etiquette, outside::Boites& boites)
+bool PharmacieLocale::Retire(const Noeud& noeud, const QString&, outside::Boites& boites)
 {
-    storage::Jeu ligne = LigneDe(base_(), etiquette);
+    storage::Jeu ligne = LigneDe(base_(), noeud.Etiquette);
     if (ligne.Fin()) {
         return true;
     }
@@ -108,6 +117,18 @@ bool PharmacieLocale::Retire(const QString& etiquette, outside::Boites& boites)
 QString PharmacieLocale::Identifiant(const Noeud*) const
 {
     return QStringLiteral("1");
+}
+
+void PharmacieLocale::Ajoute(const Saisie& saisie)
+{
+    storage::Base& base = base_();
+    storage::Transaction transaction(base);
+    storage::Jeu ligne = base.Selection(kTable, QStringLiteral("1 = 0"), {});
+    const qint64 numero = NumeroLibre(base);
+    ligne.AddNew();
+    ligne.Ecris(kNum, numero);
+    EcritLigne(ligne, {saisie.TxtMedoc.toUpper(), saisie.TxtPoso});
+    transaction.Valide();
 }
 
 } // namespace medication

@@ -23,9 +23,12 @@ public:
     QList<Noeud> Charge(const QString& recherche) override;
     std::optional<Saisie> Lit(const Noeud& noeud) override;
     std::optional<QString> Notes(const QString& etiquette) override;
-    void Enregistre(const QString& etiquette, const Saisie& saisie, outside::Boites& boites) override;
-    bool Retire(const QString& etiquette, outside::Boites& boites) override;
+    void Enregistre(Noeud& noeud, const Saisie& saisie, outside::Boites& boites) override;
+    bool Retire(const Noeud& noeud, const QString& nom, outside::Boites& boites) override;
     QString Identifiant(const Noeud* noeud) const override;
+
+    /// A new medication with a number of its own, its name in capitals.
+    void Ajoute(const Saisie& saisie);
 
 private:
     Ouverture base_;

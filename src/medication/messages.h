@@ -24,6 +24,65 @@ inline QString Retire(const QString& nom)
     return QStringLiteral("Supprimer ") + nom + QStringLiteral(" de la base de données ?");
 }
 
+inline QString ModifieBanque()
+{
+    return QStringLiteral("Modifications enregistrées !");
+}
+
+inline QString SansPosologie()
+{
+    return QStringLiteral("La posologie n'est pas renseignée.\n\nVoulez-vous continuer ?");
+}
+
+inline QString SupprimePersonnel(QString nom)
+{
+    return QStringLiteral("Supprimer \"") + nom.remove(u'#') + QStringLiteral("\" ?");
+}
+
+inline QString PersonnelDisparu()
+{
+    return QStringLiteral("Cette entrée n'est plus dans la pharmacie personnelle : rien n'a été changé.");
+}
+
+inline QString EnMajuscules()
+{
+    return QStringLiteral("Enregistrer le texte en majuscules ?");
+}
+
+inline QString CommentSupprimer()
+{
+    return QStringLiteral("Pour supprimer une entrée de la Pharmacie Personnelle,\n"
+                          "il faut la sélectionner, et appuyer sur F5.");
+}
+
+inline QString RechercheVide()
+{
+    return QStringLiteral(
+        "En mode \"Base Vidal\", il faut que la zone de texte \"Reherche rapide\" soit vide "
+        "pour faire apparaitre les enregistrements de la pharmacie personnelle.");
+}
+
+inline QString MemesAstuces()
+{
+    return QStringLiteral(
+        "Les astuces de formatage de textes sont les mêmes que pour les médicaments chosis.");
+}
+
+inline QString Demarque(const QString& texte)
+{
+    return QStringLiteral("Marquer ") + texte + QStringLiteral(" comme utilisation non fréquente ?");
+}
+
+inline QString BaseExpire(const QString& date)
+{
+    return QStringLiteral("La base expire le ") + date;
+}
+
+inline QString FinExploitation()
+{
+    return QStringLiteral("Fin d'exploitation de la base.");
+}
+
 inline QString ZoneVoulue()
 {
     return QStringLiteral("Zone ALD, tapez oui.\n\nZone non ALD, tapez non.");

@@ -21,8 +21,8 @@ struct PharmacieFeinte : Pharmacie
                         : std::optional(Saisie{QStringLiteral("AMLOR"), QStringLiteral("1 cp")});
     }
     std::optional<QString> Notes(const QString&) override { return {}; }
-    void Enregistre(const QString&, const Saisie&, outside::Boites&) override {}
-    bool Retire(const QString&, outside::Boites&) override { return false; }
+    void Enregistre(Noeud&, const Saisie&, outside::Boites&) override {}
+    bool Retire(const Noeud&, const QString&, outside::Boites&) override { return false; }
     QString Identifiant(const Noeud* noeud) const override
     {
         return noeud ? noeud->Etiquette : QStringLiteral("1");
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(ChoixEnMain().NoeudChoisi, 4);
         QCOMPARE(ChoixEnMain().OrigineEdition, quint8(0));
         QCOMPARE(ChoixEnMain().ArbreChoisi, quint8(1));
-        QCOMPARE(ChoixEnMain().EtiquetteLue, QStringLiteral("5"));
+        QCOMPARE(ChoixEnMain().NoeudLu, kNoeud);
         QVERIFY(!ChoisitNoeud(ChoixEnMain(), pharmacie_, nullptr, -1));
         QCOMPARE(ChoixEnMain().NoeudChoisi, 4);
     }
@@ -94,10 +94,10 @@ private Q_SLOTS:
     {
         ArbreMedicaments arbre;
         ChoixEnMain().NoeudChoisi = 4;
-        ChoixEnMain().EtiquetteLue = QStringLiteral("5");
+        ChoixEnMain().NoeudLu = kNoeud;
         ChargeMedicaments(ChoixEnMain(), pharmacie_, arbre, QStringLiteral("  DOLI "));
         QCOMPARE(ChoixEnMain().NoeudChoisi, kAucunNoeud);
-        QVERIFY(ChoixEnMain().EtiquetteLue.isEmpty());
+        QCOMPARE(ChoixEnMain().NoeudLu, Noeud());
         QCOMPARE(arbre.Lis(0)->Texte, QStringLiteral("DOLI"));
     }
 

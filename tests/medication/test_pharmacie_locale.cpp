@@ -21,6 +21,13 @@ private:
     {
         support::AjouteLigne(base_.Medoc(), QStringLiteral("BddMed"), {num, {}, {}, notes, poso, nom});
     }
+    void Change(const char* num, const Saisie& saisie)
+    {
+        Noeud noeud{QStringLiteral("vieux"), QLatin1String(num)};
+        pharmacie_.Enregistre(noeud, saisie, boites_);
+        QCOMPARE(noeud.Texte, QStringLiteral("vieux"));
+    }
+    bool Retire(const char* num) { return pharmacie_.Retire({{}, QLatin1String(num)}, {}, boites_); }
     QStringList Stockees() { return support::Lignes(base_.Medoc(), QStringLiteral("BddMed")); }
 
 private Q_SLOTS:
@@ -86,15 +93,14 @@ private Q_SLOTS:
     {
         Pose(1, QStringLiteral("A"), {}, QStringLiteral("note"));
         boites_.AttendInformation(QStringLiteral("Modifications enregistrées."));
-        pharmacie_.Enregistre(QStringLiteral("1"), {QStringLiteral("A'B"), QStringLiteral("le \"soir\"")},
-                              boites_);
+        Change("1", {QStringLiteral("A'B"), QStringLiteral("le \"soir\"")});
         QCOMPARE(Stockees(), QStringList({QStringLiteral("1|<null>|<null>|note|le \"soir\"|A'B")}));
     }
 
     void NoChangeIsNotTold()
     {
         Pose(1, QStringLiteral("A"));
-        pharmacie_.Enregistre(QStringLiteral("1"), {QStringLiteral("A"), QString()}, boites_);
+        Change("1", {QStringLiteral("A"), QString()});
         QCOMPARE(Stockees(), QStringList({QStringLiteral("1|<null>|<null>|<null>|<null>|A")}));
     }
 
@@ -102,14 +108,14 @@ private Q_SLOTS:
     {
         Pose(1, QStringLiteral("A"), QStringLiteral("p"));
         boites_.AttendStop(QStringLiteral("Aucune indication de nom de médicament !"));
-        pharmacie_.Enregistre(QStringLiteral("1"), {QStringLiteral("  "), QStringLiteral("q")}, boites_);
+        Change("1", {QStringLiteral("  "), QStringLiteral("q")});
         QVERIFY(Stockees()[0].endsWith(QLatin1String("|p|A")));
     }
 
     void AMedicationThatIsGoneIsTold()
     {
         boites_.AttendContenant(outside::Genre::Exclamation, messages::Disparu());
-        pharmacie_.Enregistre(QStringLiteral("5"), {QStringLiteral("A"), {}}, boites_);
+        Change("5", {QStringLiteral("A"), {}});
         QVERIFY(Stockees().isEmpty());
     }
 
@@ -118,12 +124,32 @@ private Q_SLOTS:
         Pose(1, QStringLiteral("AMLOR"));
         const QString question = QStringLiteral("Supprimer AMLOR de la base de données ?");
         boites_.AttendQuestion(question, outside::Bouton::Non, outside::Bouton::Non);
-        QVERIFY(!pharmacie_.Retire(QStringLiteral("1"), boites_));
+        QVERIFY(!Retire("1"));
         QCOMPARE(Stockees().size(), 1);
         boites_.AttendQuestion(question, outside::Bouton::Oui, outside::Bouton::Non);
-        QVERIFY(pharmacie_.Retire(QStringLiteral("1"), boites_));
+        QVERIFY(Retire("1"));
         QVERIFY(Stockees().isEmpty());
-        QVERIFY(pharmacie_.Retire(QStringLiteral("1"), boites_));
+        QVERIFY(Retire("1"));
+    }
+
+    void ANewMedicationHasANumberOfItsOwn()
+    {
+        pharmacie_.Ajoute({QStringLiteral("l'été \"5\" %_;"), QStringLiteral("1 cp d'emblée")});
+        Pose(40, QStringLiteral("AMLOR"));
+        Pose(7, QStringLiteral("ZYLORIC"));
+        pharmacie_.Ajoute({QStringLiteral("doli"), QString()});
+        const QStringList lignes = Stockees();
+        QCOMPARE(lignes[0], QStringLiteral("1|<null>|<null>|<null>|1 cp d'emblée|L'ÉTÉ \"5\" %_;"));
+        QVERIFY(lignes[3].startsWith(QLatin1String("41|")) && lignes[3].endsWith(QLatin1String("|DOLI")));
+        QCOMPARE(pharmacie_.Lit({{}, QStringLiteral("41")})->TxtMedoc, QStringLiteral("DOLI"));
+    }
+
+    void ANewMedicationThatIsRefusedLeavesNothing()
+    {
+        base_.Medoc().PoseCrochet([](const QString& instruction) { return instruction == u"commit"; });
+        QVERIFY(!support::PhraseDEchec([&] { pharmacie_.Ajoute({QStringLiteral("DOLI"), {}}); }).isEmpty());
+        base_.Medoc().PoseCrochet({});
+        QVERIFY(Stockees().isEmpty());
     }
 
     void ALineHasNoProduct() { QCOMPARE(pharmacie_.Identifiant(nullptr), QStringLiteral("1")); }

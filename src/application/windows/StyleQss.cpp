@@ -49,10 +49,10 @@ QPushButton[alignement="serre"]:focus { padding: 5px 7px; }
 QPushButton[alignement="serre"][genre="principal"]:focus { padding: 4px 6px; }
 QPushButton::menu-indicator { image: url(:/indicateurs/chevron-down-034ba2.png); subcontrol-position: right center;
     subcontrol-origin: padding; right: 8px; width: 12px; height: 12px; }
-QToolButton { background: @blanc@; border: 1px solid @filet@; border-radius: 6px; padding: 6px; }
+QToolButton { background: @blanc@; border: 1px solid @filet@; border-radius: 6px; padding: 5px; }
 QToolButton:hover { background: @page@; border-color: @encre@; }
 QToolButton:pressed, QToolButton:checked { background: @filet@; }
-QToolButton:focus { border: 2px solid @encre@; padding: 5px; }
+QToolButton:focus { border: 2px solid @encre@; padding: 4px; }
 QToolButton:disabled { background: @fond@; }
 )");
 

@@ -1,22 +1,10 @@
 #include "medication/windows/CaseEtiquetee.h"
 
-#include <QLabel>
+#include "medication/windows/EtiquetteMuette.h"
+
 #include <QStyleOptionButton>
 
 namespace medication {
-
-namespace {
-
-class EtiquetteMuette : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-protected:
-    void paintEvent(QPaintEvent*) override {}
-};
-
-} // namespace
 
 CaseEtiquetee::CaseEtiquetee(const QString& nom, const QString& nomEtiquette, const QString& texte,
                              QWidget* parent)

@@ -5,14 +5,17 @@
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/ChampMedicament.h"
 #include "medication/windows/ChampPosologie.h"
+#include "medication/windows/EtiquetteMuette.h"
 #include "medication/windows/ListeLignes.h"
 #include "medication/windows/ListeOffres.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
+#include <QMenu>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -62,6 +65,92 @@ void ConstruitArbre(ControlesMedoc& c, QWidget* parent)
     c.TV->setTextElideMode(Qt::ElideRight);
 }
 
+/// A letter of its own for what shows no word to underline; the tip names it.
+template <typename Controle> void Lettre(Controle* bouton, const QString& nom, const QString& touche)
+{
+    bouton->setShortcut(QKeySequence(touche));
+    style::Nomme(bouton, nom, touche);
+}
+
+template <typename Controle> Controle* DeBanque(ControlesMedoc& c, Controle* controle)
+{
+    controle->hide();
+    c.DeBanque.append(controle);
+    return controle;
+}
+
+void BoutonsRecherche(ControlesMedoc& c, QWidget* parent)
+{
+    c.PctCherch = style::BoutonIcone(QStringLiteral("PctCherch"), QStringLiteral("Chercher dans la banque"),
+                                     QStringLiteral("arrow-right"), parent);
+    Lettre(c.PctCherch, QStringLiteral("Chercher dans la banque"), QStringLiteral("Alt+B"));
+    c.PctCherch->hide();
+    c.CmdVD = DeBanque(c, style::BoutonIcone(QStringLiteral("CmdVD"), QStringLiteral("Pages du Vidal"),
+                                             QStringLiteral("sliders"), parent));
+    Lettre(c.CmdVD, QStringLiteral("Pages du Vidal"), QStringLiteral("Alt+Z"));
+}
+
+void Menus(ControlesMedoc& c, QWidget* parent)
+{
+    c.mnuVidal = new QMenu(QStringLiteral("Vidal"), parent);
+    c.mnuVidal->setObjectName(QStringLiteral("mnuVidal"));
+    auto* filtres = new QActionGroup(c.mnuVidal);
+    for (const auto& [filtre, texte] :
+         {std::pair(64, QStringLiteral("Pages &Vidal")), std::pair(128, QStringLiteral("Pages &Saumon")),
+          std::pair(255, QStringLiteral("&Toutes"))}) {
+        QAction* entree = c.mnuVidal->addAction(texte);
+        entree->setObjectName(QStringLiteral("mnu%1").arg(filtre));
+        entree->setData(filtre);
+        entree->setCheckable(true);
+        filtres->addAction(entree);
+    }
+    c.mnuDemarquer = new QMenu(QStringLiteral("Demarquer"), parent);
+    c.mnuDemarquer->setObjectName(QStringLiteral("mnuDemarquer"));
+    c.mnuDemark = c.mnuDemarquer->addAction(QStringLiteral("Marquer comme utilisation non fréquente"));
+    c.mnuDemark->setObjectName(QStringLiteral("mnuDemark"));
+}
+
+QPushButton* BoutonPerso(QWidget* parent)
+{
+    const QString texte = QStringLiteral("Pharmacie personnelle");
+    auto* bouton = style::Bouton(QStringLiteral("CmdPerso"), texte, QStringLiteral("bookmark-plus"), parent);
+    Lettre(bouton, texte, QStringLiteral("Alt+K"));
+    auto* legende = new EtiquetteMuette(texte, bouton);
+    legende->setObjectName(QStringLiteral("Lbl2"));
+    auto* disposition = new QHBoxLayout(bouton);
+    disposition->setContentsMargins({});
+    disposition->addWidget(legende);
+    return bouton;
+}
+
+CaseEtiquetee* Case(const char* nom, const char* nomEtiquette, const QString& texte, const QString& touche,
+                    QWidget* parent)
+{
+    auto* boite = new CaseEtiquetee(QLatin1String(nom), QLatin1String(nomEtiquette), texte, parent);
+    Lettre(boite, texte, touche);
+    return boite;
+}
+
+// Below the tree, what a drug bank brings. The local mode keeps it out of sight.
+void PiedBanque(ControlesMedoc& c, QWidget* parent, QVBoxLayout* colonne)
+{
+    c.CmdPerso = DeBanque(c, BoutonPerso(parent));
+    c.ChkDCI = DeBanque(
+        c, Case("ChkDCI", "lblDCI", QStringLiteral("Prescrire en DCI"), QStringLiteral("Alt+Q"), parent));
+    c.ChkMono = DeBanque(c, Case("ChkMono", "Lblmono", QStringLiteral("Afficher monographies"),
+                                 QStringLiteral("Alt+Y"), parent));
+    c.LblDatExp = DeBanque(c, style::Legende(QStringLiteral("LblDatExp"), {}, parent));
+    c.CmdCopyright = DeBanque(
+        c, PlusTard(style::Bouton(QStringLiteral("CmdCopyright"), QStringLiteral("Copyright"), {}, parent)));
+    c.CmdCopyright->setShortcut(QKeySequence(QStringLiteral("Alt+X")));
+    style::Serre(c.CmdCopyright);
+    auto* Lbl1 = DeBanque(c, style::Legende(QStringLiteral("Lbl1"), {}, parent));
+    auto* Lbl5 = DeBanque(c, style::Legende(QStringLiteral("Lbl5"), {}, parent));
+    colonne->addWidget(c.CmdPerso);
+    colonne->addLayout(Rang({c.ChkDCI}, {c.ChkMono}));
+    colonne->addLayout(Rang({c.LblDatExp, Lbl1}, {Lbl5, c.CmdCopyright}));
+}
+
 QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
 {
     c.TxtCherche = new ChampCherche(f);
@@ -74,8 +163,14 @@ QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
                                            QStringLiteral("trash3"), f);
     auto* colonne = new QVBoxLayout;
     colonne->setSpacing(style::kDansGroupe);
-    colonne->addWidget(style::Titre({}, QStringLiteral("Recherche ra&pide"), f, c.TxtCherche));
-    colonne->addWidget(c.TxtCherche);
+    BoutonsRecherche(c, f);
+    colonne->addLayout(
+        Rang({style::Titre({}, QStringLiteral("Recherche ra&pide"), f, c.TxtCherche)}, {c.CmdVD}));
+    auto* recherche = new QHBoxLayout;
+    recherche->setSpacing(style::kDansGroupe);
+    recherche->addWidget(c.TxtCherche, 1);
+    recherche->addWidget(c.PctCherch);
+    colonne->addLayout(recherche);
     colonne->addSpacing(style::kDansGroupe);
     colonne->addWidget(style::Titre({}, QStringLiteral("P&harmacie"), f, c.TV));
     colonne->addWidget(c.TV, 1);
@@ -83,6 +178,7 @@ QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
     boutons->addWidget(c.CmdNouveau, 1);
     boutons->addWidget(c.CmdRetire, 1);
     colonne->addLayout(boutons);
+    PiedBanque(c, f, colonne);
     return colonne;
 }
 
@@ -91,7 +187,7 @@ void BoutonsMedicament(ControlesMedoc& c, QWidget* parent)
     c.LblPoso = style::Bouton(QStringLiteral("LblPoso"), QStringLiteral("A&jouter une Posologie"),
                               QStringLiteral("pencil"), parent);
     style::SouligneSousLaSouris(c.LblPoso);
-    c.CmdModifier = style::Bouton(QStringLiteral("CmdModifier"), QStringLiteral("Modi&fier données Med"),
+    c.CmdModifier = style::Bouton(QStringLiteral("CmdModifier"), QStringLiteral("Modifier données Med"),
                                   QStringLiteral("save"), parent);
     c.CmdModifier->setEnabled(false);
     c.CmdAjouter1 = style::BoutonPrincipal(QStringLiteral("CmdAjouter1"), QStringLiteral("&Ajouter"),
@@ -121,7 +217,8 @@ QWidget* CarteMedicament(ControlesMedoc& c, QDialog* f)
     BoutonsMedicament(c, carte);
     QVBoxLayout* disposition = DansCarte(carte);
     QLabel* titre = style::Titre({}, QStringLiteral("Mé&dicament choisi"), carte, c.TxtMedoc);
-    disposition->addLayout(Rang({titre}, {c.CmdAide}));
+    c.HlbG = DeBanque(c, style::Legende(QStringLiteral("HlbG"), QStringLiteral(" Génériques"), carte));
+    disposition->addLayout(Rang({titre}, {c.HlbG, c.CmdAide}));
     disposition->addWidget(c.TxtMedoc);
     disposition->addWidget(c.TxtPoso, 1);
     disposition->addWidget(c.LstOffres);
@@ -194,7 +291,8 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
                                  QStringLiteral("I&mprimer triplicata"), carte);
     QVBoxLayout* disposition = DansCarte(carte);
     QLayout* zones = Zones(c, carte);
-    QHBoxLayout* cases = Rang({titre, c.ImgUp, c.ImgDown}, {c.ChkALD, c.ChkDup, c.ChkTri});
+    c.HlbI = DeBanque(c, style::Legende(QStringLiteral("HlbI"), QStringLiteral(" Interactions"), carte));
+    QHBoxLayout* cases = Rang({titre, c.HlbI, c.ImgUp, c.ImgDown}, {c.ChkALD, c.ChkDup, c.ChkTri});
     cases->setSpacing(style::kEntreGroupes);
     disposition->addLayout(cases);
     disposition->addLayout(zones);
@@ -203,46 +301,14 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
     return carte;
 }
 
-template <typename Controle>
-Controle* DeBanque(ControlesMedoc& c, QWidget* parent, const QString& nom, const QString& texte)
-{
-    auto* controle = new Controle(texte, parent);
-    controle->setObjectName(nom);
-    controle->hide();
-    c.DeBanque.append(controle);
-    return controle;
-}
-
-// What a drug bank brings. The local mode keeps it out of sight.
-void ConstruitBanque(ControlesMedoc& c, QDialog* f)
-{
-    for (const auto& [nom, texte] : {
-             std::pair(QStringLiteral("Lbl1"), QString()),
-             std::pair(QStringLiteral("Lbl2"), QStringLiteral("Pharmacie personnelle")),
-             std::pair(QStringLiteral("Lbl5"), QString()),
-             std::pair(QStringLiteral("LblDatExp"), QString()),
-             std::pair(QStringLiteral("HlbG"), QStringLiteral(" Génériques")),
-             std::pair(QStringLiteral("HlbI"), QStringLiteral(" Interactions")),
-             std::pair(QStringLiteral("Lblmono"), QStringLiteral("Afficher monographies")),
-             std::pair(QStringLiteral("lblDCI"), QStringLiteral("Prescrire en DCI")),
-             std::pair(QStringLiteral("PctCherch"), QString()),
-         }) {
-        DeBanque<QLabel>(c, f, nom, texte);
-    }
-    for (const auto* nom : {"CmdCopyright", "CmdPerso", "CmdVD"}) {
-        DeBanque<QPushButton>(c, f, QLatin1String(nom), {});
-    }
-    c.ChkMono = DeBanque<QCheckBox>(c, f, QStringLiteral("ChkMono"), {});
-    DeBanque<QCheckBox>(c, f, QStringLiteral("ChkDCI"), {});
-}
-
 void OrdonneTabulation(const ControlesMedoc& c)
 {
-    const QList<QWidget*> ordre = {c.TxtCherche,  c.TV,          c.TxtMedoc,    c.TxtPoso,   c.LblPoso,
-                                   c.CmdModifier, c.CmdAjouter1, c.CmdAjouter2, c.ChkALD,    c.ChkDup,
-                                   c.ChkTri,      c.LstChoix1,   c.LstChoix2,   c.ImgUp,     c.ImgDown,
-                                   c.CmdSaut,     c.CmdClear,    c.LblOrdoMem,  c.CmdAnnule, c.CmdOrdo,
-                                   c.CmdAide,     c.CmdNouveau,  c.CmdRetire};
+    const QList<QWidget*> ordre = {c.TxtCherche, c.PctCherch,   c.TV,           c.TxtMedoc,    c.TxtPoso,
+                                   c.LblPoso,    c.CmdModifier, c.CmdAjouter1,  c.CmdAjouter2, c.ChkALD,
+                                   c.ChkDup,     c.ChkTri,      c.LstChoix1,    c.LstChoix2,   c.ImgUp,
+                                   c.ImgDown,    c.CmdSaut,     c.CmdClear,     c.LblOrdoMem,  c.CmdAnnule,
+                                   c.CmdOrdo,    c.CmdAide,     c.CmdNouveau,   c.CmdRetire,   c.CmdPerso,
+                                   c.ChkDCI,     c.ChkMono,     c.CmdCopyright, c.CmdVD};
     style::OrdreTab(ordre);
 }
 
@@ -266,7 +332,7 @@ ControlesMedoc ConstruitMedoc(QDialog* fenetre)
     c.Txt->setAutoFillBackground(true);
     c.Txt->setAttribute(Qt::WA_TransparentForMouseEvents);
     c.Txt->hide();
-    ConstruitBanque(c, fenetre);
+    Menus(c, fenetre);
     OrdonneTabulation(c);
     return c;
 }

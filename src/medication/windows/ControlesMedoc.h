@@ -2,9 +2,11 @@
 
 #include <QList>
 
+class QAction;
 class QCheckBox;
 class QDialog;
 class QLabel;
+class QMenu;
 class QPushButton;
 class QToolButton;
 class QTreeView;
@@ -51,8 +53,19 @@ struct ControlesMedoc
     QPushButton* CmdAnnule = nullptr;
     QPushButton* CmdOrdo = nullptr;
 
+    QToolButton* PctCherch = nullptr;
+    QToolButton* CmdVD = nullptr;
+    QMenu* mnuVidal = nullptr;     ///< its entries bear their filter as data
+    QMenu* mnuDemarquer = nullptr; ///< of a pack prescribed before
+    QAction* mnuDemark = nullptr;
+    QPushButton* CmdPerso = nullptr;
+    QCheckBox* ChkDCI = nullptr;
     QCheckBox* ChkMono = nullptr;
-    QList<QWidget*> DeBanque; ///< what the local mode hides
+    QLabel* LblDatExp = nullptr;
+    QPushButton* CmdCopyright = nullptr;
+    QLabel* HlbG = nullptr;
+    QLabel* HlbI = nullptr;
+    QList<QWidget*> DeBanque; ///< what the bank mode shows and the local mode hides
 };
 
 ControlesMedoc ConstruitMedoc(QDialog* fenetre);

@@ -1,10 +1,10 @@
 #include "medication/windows/FrmMedoc.h"
 
 #include "application/Signaux.h"
-#include "application/messages.h"
 #include "application/windows/Style.h"
 #include "common/Erreur.h"
 #include "common/Tolere.h"
+#include "drugbank/Banque.h"
 #include "drugbank/windows/FrmIAM.h"
 #include "medication/messages.h"
 #include "medication/windows/ChampCherche.h"
@@ -31,7 +31,7 @@ constexpr int kHauteur = 720;
 } // namespace
 
 FrmMedoc::FrmMedoc(application::Contexte& contexte, application::Fenetres& fenetres)
-    : contexte_(contexte), fenetres_(fenetres), pharmacie_(PharmacieEnService(contexte))
+    : contexte_(contexte), fenetres_(fenetres), pharmacies_(contexte)
 {
     setObjectName(QStringLiteral("FrmMedoc"));
     setWindowTitle(QStringLiteral("   Médicaments de la pharmacie"));
@@ -47,6 +47,7 @@ FrmMedoc::FrmMedoc(application::Contexte& contexte, application::Fenetres& fenet
     RelieLignes();
     RelieOffres();
     RelieSignaux();
+    ReliePerso();
     SuitOrdonnance();
 }
 
@@ -62,7 +63,7 @@ void FrmMedoc::RelieRecherche()
         }
     });
     connect(c_.TxtCherche, &QLineEdit::textChanged, this, &FrmMedoc::RechercheChange);
-    connect(c_.TxtCherche, &ChampCherche::Entree, this, &FrmMedoc::ChargeMedicaments);
+    connect(c_.TxtCherche, &ChampCherche::Entree, this, &FrmMedoc::EntreeRecherche);
     connect(c_.TxtCherche, &ChampCherche::Bas, c_.TV, qOverload<>(&QWidget::setFocus));
     connect(c_.TxtCherche, &ChampCherche::Presse, this, [this] {
         if (PresseRecherche(contexte_.Choix)) {
@@ -72,8 +73,6 @@ void FrmMedoc::RelieRecherche()
     connect(c_.LblPoso, &QPushButton::clicked, this, &FrmMedoc::ComposePosologie);
     connect(c_.CmdModifier, &QPushButton::clicked, this, &FrmMedoc::ModifieMedicament);
     connect(c_.CmdRetire, &QPushButton::clicked, this, &FrmMedoc::RetireMedicament);
-    connect(c_.CmdNouveau, &QPushButton::clicked, this,
-            [this] { contexte_.Dehors.Boites.Information(application::messages::PasEncoreDisponible()); });
     connect(c_.CmdAide, &QPushButton::clicked, this,
             [this] { contexte_.Dehors.Boites.Information(messages::Aide()); });
 }
@@ -153,7 +152,7 @@ void FrmMedoc::Active()
     Choix& choix = contexte_.Choix;
     c_.ChkMono->setChecked(contexte_.Reglages.Options.EtatChkMono == 1);
     ConfigureModeBase();
-    if (choix.BaseChangee != 2) {
+    if (choix.BaseChangee != 2 || choix.TypeBaseArbre != contexte_.Banque.TypeBase) {
         ChargeMedicaments();
     }
     if (choix.NoeudChoisi != kAucunNoeud) {
@@ -163,18 +162,14 @@ void FrmMedoc::Active()
     }
 }
 
-void FrmMedoc::ConfigureModeBase()
-{
-    for (QWidget* controle : c_.DeBanque) {
-        controle->hide();
-    }
-}
-
 void FrmMedoc::ChargeMedicaments()
 {
+    c_.CmdModifier->setEnabled(false);
     Tente([this] {
-        medication::ChargeMedicaments(contexte_.Choix, *pharmacie_, arbre_, c_.TxtCherche->text());
+        medication::ChargeMedicaments(contexte_.Choix, pharmacies_.EnService(), arbre_,
+                                      c_.TxtCherche->text());
         contexte_.Choix.BaseChangee = 2;
+        contexte_.Choix.TypeBaseArbre = contexte_.Banque.TypeBase;
     });
 }
 
@@ -216,7 +211,11 @@ void FrmMedoc::RechercheChange()
     RemplitBoites({});
     // The boxes no longer hold the medication last read.
     c_.CmdModifier->setEnabled(false);
-    SelectionneNoeud(arbre_.Cherche(c_.TxtCherche->text()));
+    if (ModeBanque()) {
+        CherchePlusTard();
+    } else {
+        SelectionneNoeud(arbre_.Cherche(c_.TxtCherche->text()));
+    }
 }
 
 void FrmMedoc::PresseArbre()
@@ -230,7 +229,7 @@ void FrmMedoc::PresseArbre()
 void FrmMedoc::ClicNoeud(int rang)
 {
     Tente([&] {
-        const auto lue = ChoisitNoeud(contexte_.Choix, *pharmacie_, arbre_.Lis(rang), rang);
+        const auto lue = ChoisitNoeud(contexte_.Choix, pharmacies_.EnService(), arbre_.Lis(rang), rang);
         if (lue) {
             RemplitBoites(*lue);
             c_.CmdModifier->setEnabled(true);
@@ -243,9 +242,7 @@ void FrmMedoc::ClicNoeud(int rang)
 void FrmMedoc::ModifieMedicament()
 {
     if (NoeudSelectionne() >= 0) {
-        Tente([this] {
-            pharmacie_->Enregistre(contexte_.Choix.EtiquetteLue, Boites(), contexte_.Dehors.Boites);
-        });
+        Tente([this] { EnregistreSaisie(contexte_, pharmacies_.EnService(), arbre_, Boites()); });
     }
 }
 
@@ -253,9 +250,9 @@ void FrmMedoc::RetireMedicament()
 {
     const int rang = NoeudSelectionne();
     if (const Noeud* noeud = arbre_.Lis(rang)) {
-        const QString etiquette = noeud->Etiquette;
+        const Noeud choisi = *noeud;
         Tente([&] {
-            if (pharmacie_->Retire(etiquette, contexte_.Dehors.Boites)) {
+            if (pharmacies_.EnService().Retire(choisi, choisi.Texte, contexte_.Dehors.Boites)) {
                 arbre_.Retire(rang);
                 c_.TV->clearSelection();
                 contexte_.Choix.NoeudChoisi = kAucunNoeud;
@@ -270,7 +267,7 @@ void FrmMedoc::MontreNotes()
 {
     std::optional<QString> notes;
     // A hint that cannot be read is as good as none.
-    common::Tolere([&] { notes = pharmacie_->Notes(contexte_.Choix.EtiquetteLue); });
+    common::Tolere([&] { notes = pharmacies_.EnService().Notes(contexte_.Choix.NoeudLu.Etiquette); });
     if (notes) {
         fenetres_.Donne<drugbank::FrmIAM>().Montre(*notes);
     }
@@ -296,6 +293,10 @@ void FrmMedoc::keyPressEvent(QKeyEvent* event)
         MontreNotes();
         return;
     }
+    if (event->key() == Qt::Key_F5) {
+        SupprimePersonnelle();
+        return;
+    }
     QDialog::keyPressEvent(event);
 }
 
@@ -303,6 +304,10 @@ bool FrmMedoc::eventFilter(QObject* objet, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress && objet == c_.TV->viewport()) {
         PresseArbre();
+        const auto* souris = static_cast<QMouseEvent*>(event);
+        if (souris->button() == Qt::RightButton) {
+            ProposeDemarque(souris->position().toPoint());
+        }
     }
     if (event->type() == QEvent::KeyPress && objet == c_.TV) {
         const int touche = static_cast<QKeyEvent*>(event)->key();

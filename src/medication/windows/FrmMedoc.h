@@ -3,6 +3,7 @@
 #include "application/windows/Fenetres.h"
 #include "medication/ArbreMedicaments.h"
 #include "medication/Commandes.h"
+#include "medication/Pharmacies.h"
 #include "medication/windows/ControlesMedoc.h"
 
 #include <QDialog>
@@ -32,6 +33,7 @@ private:
     void RelieLignes();
     void RelieListe(Zone zone);
     void RelieSignaux();
+    void ReliePerso();
 
     /// Runs what touches the stored data; a failure is told and the window goes on.
     template <typename Action> bool Tente(Action&& action);
@@ -49,6 +51,17 @@ private:
     void MontreNotes();
     void RelieOffres();
     void ComposePosologie();
+
+    bool ModeBanque() const;
+    /// Enter in the search box. The bank is asked from three characters on.
+    void EntreeRecherche();
+    /// A change of the search text in the bank mode: only a blank one shows something at once.
+    void CherchePlusTard();
+    void ChoisitFiltre(int filtre);
+    /// The menu of a pack prescribed before; `point` in the tree.
+    void ProposeDemarque(const QPoint& point);
+    void DemarqueNoeud();
+    void SupprimePersonnelle();
 
     void Ajoute(Zone zone);
     void TermineAjout();
@@ -81,7 +94,7 @@ private:
 
     application::Contexte& contexte_;
     application::Fenetres& fenetres_;
-    std::unique_ptr<Pharmacie> pharmacie_;
+    Pharmacies pharmacies_;
     ArbreMedicaments arbre_;
     OffresPosologie offres_;
     ControlesMedoc c_;

@@ -22,7 +22,7 @@ constexpr int kSeuilGlisser = 20; // pixels right of or below the press
 void FrmMedoc::Ajoute(Zone zone)
 {
     const Noeud* noeud = arbre_.Lis(NoeudSelectionne());
-    switch (medication::Ajoute(contexte_, *pharmacie_, zone, Boites(), noeud)) {
+    switch (medication::Ajoute(contexte_, pharmacies_.EnService(), zone, Boites(), noeud)) {
     case Suite::Recherche:
         c_.TxtCherche->setFocus();
         break;

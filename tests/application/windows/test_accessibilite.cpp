@@ -1,6 +1,8 @@
 #include "certificates/windows/FrmCertif.h"
+#include "drugbank/Banque.h"
 #include "drugbank/windows/FrmIAM.h"
 #include "medication/windows/FrmMedoc.h"
+#include "medication/windows/FrmNouveauM.h"
 #include "medication/windows/FrmPoso.h"
 #include "patients/windows/FrmNouveauP.h"
 #include "patients/windows/FrmPatient.h"
@@ -172,6 +174,29 @@ QWidget& MontreMedoc(support::ProgrammeDeTest& programme, int ald)
     return fenetre;
 }
 
+QWidget& MontreMedocBanque(support::ProgrammeDeTest& programme)
+{
+    programme.Installe();
+    programme.Contexte().Banque.TypeBase = QStringLiteral("TVS");
+    programme.Contexte().Banque.DateExpirationBase = QStringLiteral("31/03/2027");
+    auto& fenetre = programme.Fenetres().Donne<medication::FrmMedoc>();
+    fenetre.show();
+    fenetre.findChild<QLineEdit*>(QStringLiteral("TxtCherche"))->setText(QStringLiteral("DOLI"));
+    return fenetre;
+}
+
+QWidget& MontreNouveauM(support::ProgrammeDeTest& programme, const char* typeBase)
+{
+    programme.Installe();
+    programme.Contexte().Banque.TypeBase = QLatin1String(typeBase);
+    auto& fenetre = programme.Fenetres().Donne<medication::FrmNouveauM>();
+    if (programme.Contexte().Banque.TypeBase != QLatin1String("BIP")) {
+        fenetre.NommeBibliotheque();
+    }
+    fenetre.show();
+    return fenetre;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Ouverture)
@@ -232,6 +257,9 @@ void TestAccessibilite::Fenetres()
     rang("FrmOrdo, bar above", [](P& p) -> QWidget& { return MontreOrdo(p, 1); });
     rang("FrmMedoc", [](P& p) -> QWidget& { return MontreMedoc(p, 0); });
     rang("FrmMedoc, two zones", [](P& p) -> QWidget& { return MontreMedoc(p, 1); });
+    rang("FrmMedoc, drug bank", &MontreMedocBanque);
+    rang("FrmNouveauM", [](P& p) -> QWidget& { return MontreNouveauM(p, "BIP"); });
+    rang("FrmNouveauM, drug bank", [](P& p) -> QWidget& { return MontreNouveauM(p, "TVS"); });
     rang("FrmPoso", &Montre<medication::FrmPoso>);
     rang("FrmMemo", &Montre<prescription::FrmMemo>);
     rang("FrmOptions", &Montre<settings::FrmOptions>);

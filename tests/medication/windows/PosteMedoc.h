@@ -87,9 +87,11 @@ protected:
         return fenetre_->focusWidget() ? fenetre_->focusWidget()->objectName() : QString();
     }
 
-    void Prepare()
+    /// `typeBase` other than "BIP" is the bank mode.
+    void Prepare(const QString& typeBase = QStringLiteral("BIP"))
     {
         monde_ = std::make_unique<Monde>();
+        monde_->Etat.Banque.TypeBase = typeBase;
         const QString travail = monde_->Etat.Chemins.CheminTravail;
         common::CreeDossier(travail);
         storage::CreeBase(common::Joint(travail, QStringLiteral("Medoc.mdb")), storage::GenreBase::Medoc);

@@ -36,8 +36,14 @@ private Q_SLOTS:
     void TheLocalModeOffersNewMedications()
     {
         QVERIFY(Trouve<QPushButton>("CmdNouveau")->isEnabled());
-        monde_->Boites.AttendContenant(outside::Genre::Information, QStringLiteral("pas encore disponible"));
+        QString titre;
+        QTimer::singleShot(0, this, [&] {
+            QWidget* nouveau = QApplication::activeModalWidget();
+            titre = nouveau->findChild<QLabel*>(QStringLiteral("LblTitre"))->text();
+            QTest::keyClick(nouveau, Qt::Key_Escape);
+        });
         Clic("CmdNouveau");
+        QCOMPARE(titre, QStringLiteral("&Nom du médicament    "));
     }
 
     void WithoutMemorisedPrescriptionsOneMessageSaysSo()

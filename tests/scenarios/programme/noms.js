@@ -17,7 +17,8 @@ const noms = {
     FrmMedoc: "TxtCherche PctCherch TV TxtMedoc TxtPoso CmdVD ChkDCI lblDCI ChkMono Lblmono ChkALD Label7 ChkDup " +
         "Label6 ChkTri Label9 CmdModifier CmdNouveau CmdRetire CmdPerso Lbl1 Lbl2 Lbl5 LblPoso LblOrdoMem HlbG HlbI " +
         "CmdAide CmdCopyright LblDatExp LstChoix1 LstChoix2 CmdAjouter1 CmdAjouter2 ImgUp ImgDown Txt CmdSaut CmdClear " +
-        "CmdAnnule CmdOrdo",
+        "CmdAnnule CmdOrdo mnuVidal mnu64 mnu128 mnu255 mnuDemarquer mnuDemark",
+    FrmNouveauM: "LblPharma LblTitre LblPoso lblAS TxtNom TxtPoso LstP CmdOK CmdAnnuler CmdSupp",
     FrmPoso: "CboP(0) CboP(1) CboP(2) CboP(3) CboP(4) CboP(5) CboP(6) CboP(7) TxtPoso LblNomMed CmdAjouter " +
         "CmdEnregistrer CmdQuitter CmdAnnule CmdAide",
     FrmOptions: "TS CboPrint Chkimp CmdOK CmdOK(2) CmdAnnule(2)",
@@ -52,6 +53,9 @@ clic("FrmNouveauP.CmdAnnuler");
 clic("FrmPatient.CmdAnnule");
 clic("FrmOrdo.CmdPharma");
 passe("FrmMedoc");
+clic("FrmMedoc.CmdNouveau");
+passe("FrmNouveauM");
+clic("FrmNouveauM.CmdAnnuler");
 passe("FrmPoso");
 clic("FrmMedoc.CmdAnnule");
 clic("FrmOrdo.CmdImprime");

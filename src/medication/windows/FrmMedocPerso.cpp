@@ -1,0 +1,137 @@
+#include "application/Signaux.h"
+#include "drugbank/Banque.h"
+#include "medication/messages.h"
+#include "medication/windows/ChampCherche.h"
+#include "medication/windows/ChampMedicament.h"
+#include "medication/windows/FrmMedoc.h"
+#include "medication/windows/FrmNouveauM.h"
+#include "outside/Horloge.h"
+#include "outside/Tente.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QToolButton>
+#include <QTreeView>
+
+// The picker in its two modes: the local pharmacy, or a drug bank with the doctor's own beside it.
+namespace medication {
+
+namespace {
+
+constexpr int kLettresDeBanque = 3; // the shortest text that the bank is asked for
+
+} // namespace
+
+void FrmMedoc::ReliePerso()
+{
+    connect(c_.CmdNouveau, &QPushButton::clicked, this, [this] { fenetres_.OuvreModale<FrmNouveauM>(); });
+    connect(c_.CmdPerso, &QPushButton::clicked, this, [this] {
+        fenetres_.Donne<FrmNouveauM>().NommeBibliotheque();
+        fenetres_.OuvreModale<FrmNouveauM>();
+    });
+    connect(c_.PctCherch, &QToolButton::clicked, this, &FrmMedoc::ChargeMedicaments);
+    connect(c_.mnuDemark, &QAction::triggered, this, &FrmMedoc::DemarqueNoeud);
+    connect(c_.ChkDCI, &QCheckBox::clicked, this, [this](bool cochee) {
+        contexte_.Choix.ChkDCI = cochee;
+        ClicNoeud(NoeudSelectionne());
+    });
+    connect(c_.ChkMono, &QCheckBox::clicked, this, [this](bool cochee) {
+        outside::Tente(contexte_.Dehors.Boites, [&] { CocheMono(contexte_, cochee); });
+    });
+    connect(c_.CmdVD, &QToolButton::clicked, this,
+            [this] { c_.mnuVidal->popup(c_.CmdVD->mapToGlobal(QPoint(0, c_.CmdVD->height()))); });
+    for (QAction* entree : c_.mnuVidal->actions()) {
+        connect(entree, &QAction::triggered, this, [this, entree] { ChoisitFiltre(entree->data().toInt()); });
+    }
+    connect(&contexte_.Signaux, &application::Signaux::PharmacieChange, this, &FrmMedoc::ChargeMedicaments);
+}
+
+bool FrmMedoc::ModeBanque() const
+{
+    return drugbank::EnModeBanque(contexte_.Banque);
+}
+
+void FrmMedoc::ConfigureModeBase()
+{
+    const bool banque = ModeBanque();
+    c_.LblDatExp->setText(Validite(contexte_.Banque, contexte_.Dehors.Horloge.Aujourdhui()));
+    for (QWidget* controle : c_.DeBanque) {
+        controle->setVisible(banque);
+    }
+    if (!banque) {
+        c_.PctCherch->hide();
+    }
+    c_.CmdModifier->setText(banque ? QStringLiteral("Enregistrer posologie")
+                                   : QStringLiteral("Modifier données Med"));
+    c_.CmdModifier->setShortcut(QKeySequence(QStringLiteral("Alt+F")));
+    c_.CmdModifier->setAccessibleName(c_.CmdModifier->text());
+    c_.CmdNouveau->setEnabled(!banque);
+    c_.CmdRetire->setEnabled(!banque);
+    for (QAction* entree : c_.mnuVidal->actions()) {
+        entree->setChecked(entree->data().toInt() == contexte_.Banque.FiltreBanque);
+    }
+}
+
+void FrmMedoc::EntreeRecherche()
+{
+    if (!ModeBanque() || c_.TxtCherche->text().size() >= kLettresDeBanque) {
+        ChargeMedicaments();
+    }
+}
+
+void FrmMedoc::CherchePlusTard()
+{
+    const QString recherche = c_.TxtCherche->text();
+    c_.PctCherch->setVisible(recherche.size() >= kLettresDeBanque);
+    if (recherche.trimmed().isEmpty()) {
+        ChargeMedicaments();
+    }
+}
+
+void FrmMedoc::ChoisitFiltre(int filtre)
+{
+    contexte_.Banque.FiltreBanque = filtre;
+    ConfigureModeBase();
+    ChargeMedicaments();
+    c_.TxtCherche->clear();
+    c_.TxtCherche->setFocus();
+}
+
+void FrmMedoc::ProposeDemarque(const QPoint& point)
+{
+    const QModelIndex index = c_.TV->indexAt(point);
+    const Noeud* noeud = index.isValid() ? arbre_.Lis(index.row()) : nullptr;
+    if (noeud && noeud->Utile) {
+        // The menu names this pack: it becomes the one in hand, as by a click.
+        SelectionneNoeud(index.row());
+        ClicNoeud(index.row());
+        c_.mnuDemark->setText(messages::Demarque(noeud->Texte).replace(u'&', QStringLiteral("&&")));
+        c_.mnuDemarquer->popup(c_.TV->viewport()->mapToGlobal(point));
+    }
+}
+
+void FrmMedoc::DemarqueNoeud()
+{
+    outside::Tente(contexte_.Dehors.Boites,
+                   [this] { medication::Demarque(contexte_, arbre_, NoeudSelectionne()); });
+}
+
+void FrmMedoc::SupprimePersonnelle()
+{
+    const Noeud* noeud = arbre_.Lis(NoeudSelectionne());
+    if (!ModeBanque() || !noeud) {
+        return;
+    }
+    outside::Tente(contexte_.Dehors.Boites, [&] {
+        if (pharmacies_.EnService().Retire(*noeud, c_.TxtMedoc->text(), contexte_.Dehors.Boites)) {
+            ChargeMedicaments();
+            RemplitBoites({});
+        }
+    });
+}
+
+} // namespace medication

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "drugbank/AccesBanque.h"
+
+namespace support {
+
+/// A drug bank of the packs given to it, that keeps what it was asked.
+class BanqueFeinte : public drugbank::AccesBanque
+{
+public:
+    QList<drugbank::Pack> Contenu;
+    QStringList Demandes; ///< text and filter of each search
+
+    QList<drugbank::Pack> RecherchePacks(const QString& texte, qint32 filtre) override
+    {
+        Demandes.append(texte + QLatin1Char('/') + QString::number(filtre));
+        QList<drugbank::Pack> trouves;
+        for (const drugbank::Pack& pack : Contenu) {
+            if (pack.Nom.startsWith(texte, Qt::CaseInsensitive)) {
+                trouves.append(pack);
+            }
+        }
+        return trouves;
+    }
+    QString NomDCI(qint32 produit) override
+    {
+        return produit == 101 ? QStringLiteral("PARACETAMOL") : QString();
+    }
+};
+
+} // namespace support
