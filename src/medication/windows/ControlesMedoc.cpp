@@ -1,5 +1,6 @@
 #include "medication/windows/ControlesMedoc.h"
 
+#include "application/messages.h"
 #include "application/windows/Style.h"
 #include "medication/windows/CaseEtiquetee.h"
 #include "medication/windows/ChampCherche.h"
@@ -140,9 +141,11 @@ void PiedBanque(ControlesMedoc& c, QWidget* parent, QVBoxLayout* colonne)
     c.ChkMono = DeBanque(c, Case("ChkMono", "Lblmono", QStringLiteral("Afficher monographies"),
                                  QStringLiteral("Alt+Y"), parent));
     c.LblDatExp = DeBanque(c, style::Legende(QStringLiteral("LblDatExp"), {}, parent));
-    c.CmdCopyright = DeBanque(
-        c, PlusTard(style::Bouton(QStringLiteral("CmdCopyright"), QStringLiteral("Copyright"), {}, parent)));
+    c.CmdCopyright =
+        DeBanque(c, style::Bouton(QStringLiteral("CmdCopyright"), QStringLiteral("Copyright"), {}, parent));
     c.CmdCopyright->setShortcut(QKeySequence(QStringLiteral("Alt+X")));
+    c.CmdCopyright->setEnabled(false);
+    c.CmdCopyright->setToolTip(application::messages::PasEncoreDisponible());
     style::Serre(c.CmdCopyright);
     auto* Lbl1 = DeBanque(c, style::Legende(QStringLiteral("Lbl1"), {}, parent));
     auto* Lbl5 = DeBanque(c, style::Legende(QStringLiteral("Lbl5"), {}, parent));

@@ -118,6 +118,12 @@ void FrmNouveauM::ConfigureModeBase()
     }
     lblPharma_->setText(QStringLiteral("P&HARMACIE  SCRIPTELLE"));
     lstP_->setAccessibleName(QStringLiteral("PHARMACIE  SCRIPTELLE"));
+    QLabel* renvoi = style::Legende(
+        {}, QStringLiteral("Les médicaments enregistrés se trouvent dans la liste de la pharmacie."),
+        lstP_->viewport());
+    renvoi->setWordWrap(true);
+    renvoi->setAlignment(Qt::AlignCenter);
+    (new QVBoxLayout(lstP_->viewport()))->addWidget(renvoi);
     lblAS_->hide();
     cmdSupp_->hide();
 }
