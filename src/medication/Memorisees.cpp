@@ -19,7 +19,7 @@ storage::Base& Medoc(application::Contexte& contexte)
 bool DAncienFormat(const application::Contexte& contexte)
 {
     const prescription::Ordonnance& ordonnance = contexte.Ordonnance;
-    return contexte.Banque.TypeBase != QLatin1String("BIP") && ordonnance.CleMemo &&
+    return drugbank::EnModeBanque(contexte.Banque) && ordonnance.CleMemo &&
            ordonnance.CodesMemo.contains(u'0');
 }
 
