@@ -81,7 +81,7 @@ QStringList ListeModeles(const QString& cheminTravail)
     QStringList noms;
     for (const QString& fichier : Fichiers(cheminTravail)) {
         const QString nom = fichier.chopped(std::min<qsizetype>(fichier.size(), kTxt.size()));
-        if (FinitPar(fichier, kTxt) && !EstTmp(nom)) {
+        if (FinitPar(fichier, kTxt) && !nom.isEmpty() && !EstTmp(nom)) {
             noms.append(nom);
         }
     }

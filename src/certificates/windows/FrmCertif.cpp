@@ -94,8 +94,7 @@ void FrmCertif::Charge()
     }
     MontreListe(ListeModeles(contexte_.Chemins.CheminTravail));
     Selectionne(-1);
-    Actualise();
-    suivi_->Note();
+    MontreReglages();
 }
 
 /// What another window or another station may have changed meanwhile.
@@ -107,8 +106,7 @@ void FrmCertif::Actualise()
         MontreListe(noms);
         Selectionne(static_cast<int>(noms.indexOf(choisi)));
     }
-    ChkP_->setChecked(contexte_.Certificat.IdentiteCertif == 1);
-    MontrePolice();
+    MontreReglages();
 }
 
 void FrmCertif::MontreListe(const QStringList& noms)
@@ -118,8 +116,9 @@ void FrmCertif::MontreListe(const QStringList& noms)
     modeles_.setStringList(noms);
 }
 
-void FrmCertif::MontrePolice()
+void FrmCertif::MontreReglages()
 {
+    ChkP_->setChecked(contexte_.Certificat.IdentiteCertif == 1);
     TxtCert_->setFont(page::PoliceQt(contexte_.Certificat.TxtCert));
     LblF_->setText(LibellePolice(contexte_.Reglages.Look.Certif));
 }
@@ -167,6 +166,7 @@ void FrmCertif::Selectionne(int rang)
         LstCertif_->scrollTo(modeles_.index(rang));
     }
     LstCertif_->viewport()->update();
+    suivi_->Note();
 }
 
 bool FrmCertif::eventFilter(QObject* objet, QEvent* evenement)

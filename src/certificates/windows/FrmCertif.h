@@ -68,7 +68,7 @@ private:
     void Charge();
     void Actualise();
     void MontreListe(const QStringList& noms);
-    void MontrePolice();
+    void MontreReglages();
     void MontreMiseEnPage();
     void RemetMiseEnPage(const MiseEnPage& miseEnPage);
     void RemetTexte(const QString& texte);

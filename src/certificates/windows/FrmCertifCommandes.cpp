@@ -216,7 +216,7 @@ void FrmCertif::ChoisitPolice()
 {
     Tente([&] {
         if (certificates::ChoisitPolice(contexte_)) {
-            MontrePolice();
+            MontreReglages();
         }
     });
 }

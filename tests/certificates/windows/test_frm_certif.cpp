@@ -105,6 +105,8 @@ void TestFrmCertif::ATemplateThatIsGone()
     QCOMPARE(poste.Rang(), -1);
     QCOMPARE(poste.Texte(), QStringLiteral("Je soussigné\r\n\r\n<DR>"));
     QCOMPARE(poste.Certif().DecalageCertif, 0.0);
+    poste.Tape(QStringLiteral("tapé"));
+    QCOMPARE(poste.Rang(), -1);
 }
 
 void TestFrmCertif::AnAldTemplateIsNotWiped()
