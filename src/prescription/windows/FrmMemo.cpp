@@ -95,6 +95,7 @@ void FrmMemo::Recherche(const QString& texte)
 {
     for (size_t place : {size_t(0), size_t(1)}) {
         const int numero = memos_[place].Numero(LstMemo_[place]->Selection());
+        LstMemo_[place]->SuitRecherche(!texte.trimmed().isEmpty() && !memos_[place].Vide());
         memos_[place].Filtre(texte);
         LstMemo_[place]->Selectionne(memos_[place].RangDe(numero));
     }

@@ -89,7 +89,8 @@ void ListeTitres::paintEvent(QPaintEvent* event)
         peintre.setPen(application::style::Teinte(application::style::Ton::Discret));
         const int retrait = application::style::kEntreGroupes;
         peintre.drawText(viewport()->rect().adjusted(retrait, retrait, -retrait, -retrait),
-                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, vide_);
+                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
+                         cherchee_ ? QStringLiteral("Aucun titre ne correspond") : vide_);
     }
 }
 

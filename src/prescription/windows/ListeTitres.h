@@ -17,6 +17,8 @@ public:
     int Selection() const;
     /// Selects a row; -1 clears the selection.
     void Selectionne(int rang);
+    /// Whether a search narrows the list, which says so when nothing is left.
+    void SuitRecherche(bool active) { cherchee_ = active; }
 
 Q_SIGNALS:
     /// The left button on a row.
@@ -37,6 +39,7 @@ protected:
 
 private:
     QString vide_;
+    bool cherchee_ = false;
 };
 
 } // namespace prescription
