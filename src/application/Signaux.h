@@ -23,6 +23,8 @@ Q_SIGNALS:
     void ApercuChange();
     /// The face of the main window has to be painted again.
     void FaceChange();
+    /// The settings were kept without a doctor: the main window takes its colours for that.
+    void FaceSansMedecin();
     /// A new document begins: patient and prescription are empty.
     void DocumentVide();
     /// The prescription in hand was reset or given other check boxes.

@@ -136,6 +136,9 @@ void AjouteOptions(Registre& registre)
     VARIABLE(Reglages.Options, ImprimeDate);
     VARIABLE(Reglages.Options, EtatChkMono);
     VARIABLE(Reglages.Options, FormatA4);
+    VARIABLE(Reglages.EnCours, BaseInitiale);
+    VARIABLE(Reglages.EnCours, RatioLogo);
+    VARIABLE(Reglages.EnCours, SaisieLogo);
 }
 
 void AjouteMarges(Registre& registre)

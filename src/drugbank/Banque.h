@@ -24,6 +24,8 @@ struct Banque
     ResolutionCip ProduitDuCip;         ///< of the session in use, empty without one
     bool ModuleAide = false;            ///< the helper library could be loaded
     std::shared_ptr<AccesBanque> Acces; ///< null while no bank is open: a search finds nothing
+    /// Asks the helper library for a product: 0 when it is installed. Empty while no library is bound.
+    std::function<qint32(qint32 produit)> VidalHelper_getVidalAPIPath;
 };
 
 /// True when the medications come from a bank, false in the local mode.

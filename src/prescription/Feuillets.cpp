@@ -23,9 +23,11 @@ void MarqueCopie(page::Surface& cible, const settings::Dupli& dupli)
     cible.ScaleMode(page::Echelle::Millimetres);
     cible.ForeColor(static_cast<page::Couleur>(dupli.DupliCouleur) & kToutesCouleurs);
     cible.Font(PoliceDeLaMarque(dupli));
-    cible.CurrentX(dupli.DupliX);
     cible.CurrentY(dupli.DupliY);
-    cible.Print(dupli.DupliTexte);
+    for (const QString& ligne : settings::LignesDupli(dupli.DupliTexte)) {
+        cible.CurrentX(dupli.DupliX);
+        cible.Print(ligne);
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "page/Police.h"
 
 #include <QString>
+#include <QStringList>
 #include <array>
 
 namespace settings {
@@ -76,6 +77,12 @@ struct Dupli
     bool operator==(const Dupli&) const = default;
 };
 
+/// The lines that the word of the copies stands for: a star parts them.
+inline QStringList LignesDupli(const QString& dupliTexte)
+{
+    return dupliTexte.split(QLatin1Char('*'));
+}
+
 /// The look kept in the doctor's database.
 struct Look
 {
@@ -95,6 +102,14 @@ struct SaisieEntete
     QString TexteAvantCurseur;                ///< of that row, left of the caret, trimmed
 };
 
+/// What the options dialogue has in hand while it is open.
+struct OptionsEnCours
+{
+    QString BaseInitiale;  ///< `TypeBase` at its loading
+    double RatioLogo = 0;  ///< width of the logo's picture by its height; 0 without a picture
+    quint8 SaisieLogo = 0; ///< 1 while the doctor is in `TxtL`, 0 while in `TxtH`
+};
+
 /// One variable per settings field. Whatever prints or draws reads these, never the files.
 struct Reglages
 {
@@ -103,6 +118,7 @@ struct Reglages
     settings::Dupli Dupli;
     settings::Look Look;
     settings::SaisieEntete SaisieEntete;
+    OptionsEnCours EnCours;
     QString TxtSLP; ///< the personal height as `FrmConfOrdo` shows it; empty without one
 };
 

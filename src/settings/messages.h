@@ -5,6 +5,11 @@
 /// What the settings' procedures say to the doctor.
 namespace settings::messages {
 
+inline QString PasDeBase()
+{
+    return QStringLiteral("Choisissez votre base de données de pharmacie !");
+}
+
 inline QString PasDImprimante()
 {
     return QStringLiteral("Vous n'avez pas sélectionné l'imprimamte !");
@@ -45,6 +50,88 @@ inline QString AideEntete()
         "Retour arrière la ramène d'un millimètre.\n\n"
         "La feuille montre vos modifications telles qu'elles s'imprimeront. Rien n'est gardé avant "
         "« Enregistrer ».");
+}
+
+inline QString PasDeFichierLogo()
+{
+    return QStringLiteral("Vous n'avez pas renseigné le fichier du logo !");
+}
+
+inline QString PasDeTailleLogo()
+{
+    return QStringLiteral("Vous n'avez pas renseigné la taille du logo sur l'ordonnance !");
+}
+
+inline QString MesureRefusee(const QString& texte)
+{
+    return QStringLiteral("« %1 » n'est pas un nombre de millimètres (de -32768 à 32767).").arg(texte);
+}
+
+inline QString RechercheBase()
+{
+    return QStringLiteral("Recherche de la base de données ...");
+}
+
+inline QString BaseScriptelle()
+{
+    return QStringLiteral("La base Scriptelle sera utilisée.");
+}
+
+inline QString SansModuleAide()
+{
+    return QStringLiteral(
+        "Le VIDAL Expert n'est pas correctement installé. La base Scriptelle sera utilisée. !");
+}
+
+inline QString BaseInstallee(const QString& nom)
+{
+    return QStringLiteral("La base %1 est correctement installée !").arg(nom);
+}
+
+inline QString BaseNonInstallee(const QString& nom)
+{
+    return QStringLiteral("La base %1 n'est pas correctement installée !").arg(nom);
+}
+
+inline QString TitreFichierLogo()
+{
+    return QStringLiteral("Chemin du Fichier Logo");
+}
+
+inline QString ImageRefusee(const QString& chemin)
+{
+    return QStringLiteral("« %1 » n'est pas une image lisible ou est trop grand.\nLe logo n'a pas changé.")
+        .arg(chemin);
+}
+
+inline QString NomDImageRefuse(const QString& nom)
+{
+    return QStringLiteral("« %1 » ne peut pas servir de nom de fichier pour le logo. Renommez l'image.\n"
+                          "Le logo n'a pas changé.")
+        .arg(nom);
+}
+
+inline QString LogoNonCopie(const QString& cause)
+{
+    return QStringLiteral("L'image n'a pas pu être copiée dans le dossier du médecin.\n"
+                          "Le logo n'a pas changé.\n%1")
+        .arg(cause);
+}
+
+inline QString InviteDupli()
+{
+    return QStringLiteral("Pour inscrire 2 lignes, écrivez les texte de chaque ligne, séparés par une étoile "
+                          "(*), sans espace.");
+}
+
+inline QString TitreDupli()
+{
+    return QStringLiteral("Texte pour les copies");
+}
+
+inline QString LblPolice(const QString& police, const QString& taille)
+{
+    return QStringLiteral("Police %1 ; Taille %2").arg(police, taille);
 }
 
 } // namespace settings::messages

@@ -149,14 +149,19 @@ void TestImpression::TheMarkTakesItsLook()
                                    .DupliActif = 1,
                                    .DupliTexte = QStringLiteral("COPIE*PATIENT")};
     QVERIFY(ImprimeDocument(cabinet.Contexte));
-    const page::ItemTexte& marque =
-        PremierTexte(cabinet.Imprimantes.Travaux.constFirst().Travail.Pages.at(1));
-    QCOMPARE(marque.Texte, QStringLiteral("COPIE*PATIENT"));
+    const page::Dessin& copie = cabinet.Imprimantes.Travaux.constFirst().Travail.Pages.at(1);
+    const page::ItemTexte& marque = PremierTexte(copie);
+    QCOMPARE(marque.Texte, QStringLiteral("COPIE"));
     QCOMPARE(marque.X, 12.0);
     QCOMPARE(marque.Y, 200.0);
     QCOMPARE(marque.Police.Taille, 24.0F);
     QVERIFY(marque.Police.Gras && marque.Police.Italique && !marque.Police.Souligne);
     QCOMPARE(marque.Encre, page::Rvb(200, 0, 0));
+    const auto& seconde = std::get<page::ItemTexte>(copie.Items.at(1));
+    QCOMPARE(seconde.Texte, QStringLiteral("PATIENT"));
+    QCOMPARE(seconde.X, marque.X);
+    QCOMPARE(seconde.Y, marque.Y + marque.Hauteur);
+    QVERIFY(seconde.Police == marque.Police && seconde.Encre == marque.Encre);
 }
 
 void TestImpression::AnInactiveMarkLeavesEqualCopies()

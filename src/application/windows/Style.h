@@ -10,6 +10,7 @@ class QAction;
 class QApplication;
 class QLabel;
 class QMenu;
+class QTabBar;
 class QToolButton;
 class QVBoxLayout;
 class QWidget;
@@ -93,6 +94,19 @@ QLabel* Avertissement(const QString& nomObjet, const QString& texte, QWidget* pa
 
 /// A white card with rounded corners; lay the group out in it (margins `kMargeCarte`).
 QWidget* Carte(QWidget* parent);
+
+/// Gives a card the colours of the main window without a doctor, or its own back. `rang` counts the cards of
+/// the window, from 0.
+void TeinteSansMedecin(QWidget* carte, int rang, bool sansMedecin);
+
+/// Frames a label that shows a sample: a picture, a word in its font.
+void Encadre(QLabel* echantillon);
+
+/// What scrolls when the screen is too small for it; no frame of its own.
+QWidget* Defilement(QWidget* contenu, QWidget* parent);
+
+/// Less room around the words of a tab strip, for a window that is narrow.
+void SerreOnglets(QTabBar* onglets, bool oui);
 
 /// Makes an entry the menu's default one, in bold.
 void EntreeParDefaut(QMenu* menu, QAction* entree);

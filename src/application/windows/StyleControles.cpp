@@ -6,7 +6,10 @@
 #include <QLabel>
 #include <QMenu>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
+#include <QTabBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -158,6 +161,43 @@ QWidget* Carte(QWidget* parent)
     auto* carte = new QFrame(parent);
     carte->setProperty("genre", QStringLiteral("carte"));
     return carte;
+}
+
+void TeinteSansMedecin(QWidget* carte, int rang, bool sansMedecin)
+{
+    const QString teinte = rang == 0 ? QStringLiteral("aucun") : QStringLiteral("aucunAutre");
+    carte->setProperty("medecin", sansMedecin ? teinte : QString());
+    carte->style()->unpolish(carte);
+    carte->style()->polish(carte);
+}
+
+void Encadre(QLabel* echantillon)
+{
+    echantillon->setProperty("genre", QStringLiteral("echantillon"));
+    echantillon->setTextFormat(Qt::PlainText);
+    echantillon->setAlignment(Qt::AlignCenter);
+}
+
+QWidget* Defilement(QWidget* contenu, QWidget* parent)
+{
+    auto* defilement = new QScrollArea(parent);
+    defilement->setWidgetResizable(true);
+    defilement->setFrameShape(QFrame::NoFrame);
+    defilement->setFocusPolicy(Qt::NoFocus);
+    defilement->setWidget(contenu);
+    contenu->setAutoFillBackground(false);
+    defilement->viewport()->setAutoFillBackground(false);
+    return defilement;
+}
+
+void SerreOnglets(QTabBar* onglets, bool oui)
+{
+    const QVariant serre(oui ? QStringLiteral("oui") : QString());
+    if (onglets->property("serre") != serre) {
+        onglets->setProperty("serre", serre);
+        onglets->style()->unpolish(onglets);
+        onglets->style()->polish(onglets);
+    }
 }
 
 void EntreeParDefaut(QMenu* menu, QAction* entree)

@@ -114,11 +114,16 @@ QLabel[genre="titre"] { color: @encre@; font-size: 12pt; font-weight: bold; }
 QLabel[genre="enseigne"] { color: @encre@; font-size: 20pt; font-weight: bold; }
 QLabel[genre="avertissement"] { color: @rouge@; font-weight: bold; }
 QLabel[genre="legende"] { color: @discret@; }
+QLabel[genre="echantillon"] { background: @blanc@; border: 1px solid @filet@; border-radius: 6px; }
+QLabel[genre="echantillon"]:disabled { background: @fond@; }
 QFrame[genre="carte"] { background: @blanc@; border: 1px solid @page@; border-radius: 10px; }
+QFrame[genre="carte"][medecin="aucun"] { background: rgb(235, 205, 175); border-color: rgb(220, 190, 160); }
+QFrame[genre="carte"][medecin="aucunAutre"] { background: rgb(228, 198, 168); border-color: rgb(220, 190, 160); }
 QTabWidget::pane { background: @blanc@; border: 1px solid @filet@; border-radius: 10px; top: -1px; }
 QTabBar, QCheckBox, QRadioButton { outline: none; }
 QTabBar::tab { background: transparent; color: @discret@; padding: 8px 14px; border: none;
     border-bottom: 3px solid transparent; margin-bottom: 2px; }
+QTabBar[serre="oui"]::tab { padding: 8px 6px; }
 QTabBar::tab:hover { color: @encre@; border-bottom-color: @filet@; }
 QTabBar::tab:selected { color: @encre@; border-bottom-color: @encre@; font-weight: bold; }
 QTabBar QToolButton { padding: 0; border-radius: 4px; }

@@ -3,28 +3,54 @@
 #include "application/windows/Style.h"
 #include "common/Erreur.h"
 #include "outside/Boites.h"
+#include "settings/windows/FrmConfOrdo.h"
+#include "settings/windows/FrmEntete.h"
+#include "settings/windows/OngletConfiguration.h"
+#include "settings/windows/OngletDuplicata.h"
+#include "settings/windows/OngletGeneral.h"
 #include "settings/windows/OngletImprimantes.h"
+#include "settings/windows/OngletInteractions.h"
+#include "settings/windows/OngletLogo.h"
+#include "settings/windows/OngletPharmacies.h"
+#include "startup/GestionMedecins.h"
 
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace settings {
 
 namespace style = application::style;
 
+namespace {
+
+constexpr int kLargeur = 820;           ///< first size, in pixels at 100 %
+constexpr int kLargeurDesOnglets = 770; ///< with their full room
+constexpr int kHauteur = 560;
+
+} // namespace
+
 FrmOptions::FrmOptions(application::Contexte& contexte, application::Fenetres& fenetres)
-    : contexte_(contexte), fenetres_(fenetres), TS_(new QTabBar(this)), cadres_(new QStackedWidget(this)),
-      CmdFoc_(new QPushButton(this)), imprimantes_(new OngletImprimantes(contexte, this)),
-      instantane_(PrendInstantane(contexte))
+    : contexte_(contexte), fenetres_(fenetres), instantane_(PrendInstantane(contexte)),
+      TS_(new QTabBar(this)), cadres_(new QStackedWidget(this)), CmdFoc_(new QPushButton(this))
 {
     setObjectName(QStringLiteral("FrmOptions"));
     setWindowTitle(QStringLiteral("        Options de Scriptelle"));
+    setModal(true);
+    Dispose();
+    AjouteOnglets();
+    style::Dimensionne(this, kLargeur, kHauteur);
+    connect(TS_, &QTabBar::currentChanged, this, &FrmOptions::MontreCadre);
+    connect(TS_, &QTabBar::tabBarClicked, this, [this] { CmdFoc_->setFocus(); });
+    MontreCadre(0);
+}
+
+void FrmOptions::Dispose()
+{
     TS_->setObjectName(QStringLiteral("TS"));
     TS_->setExpanding(false);
     TS_->setDrawBase(false);
@@ -33,69 +59,122 @@ FrmOptions::FrmOptions(application::Contexte& contexte, application::Fenetres& f
     CmdFoc_->setFixedSize(0, 0);
     CmdFoc_->setAutoDefault(false);
     CmdFoc_->setFocusPolicy(Qt::ClickFocus);
-
     QVBoxLayout* page = style::Fenetre(this);
     page->addWidget(TS_);
     page->addWidget(cadres_, 1);
+}
+
+void FrmOptions::AjouteOnglets()
+{
+    auto* configuration = new OngletConfiguration(contexte_, this);
+    imprimantes_ = new OngletImprimantes(contexte_, this);
+    AjouteOnglet(configuration);
+    AjouteOnglet(new OngletGeneral(contexte_, this));
     AjouteOnglet(imprimantes_);
-    style::Dimensionne(this, 620, 340);
-    connect(TS_, &QTabBar::currentChanged, this, &FrmOptions::MontreCadre);
-    connect(TS_, &QTabBar::tabBarClicked, this, [this] { CmdFoc_->setFocus(); });
-    MontreCadre(0);
+    AjouteOnglet(new OngletPharmacies(contexte_, this));
+    AjouteOnglet(new OngletInteractions(contexte_, this));
+    AjouteOnglet(new OngletLogo(contexte_, this));
+    AjouteOnglet(new OngletDuplicata(contexte_, this));
+    connect(configuration, &OngletConfiguration::EnteteDemandee, this,
+            &FrmOptions::OuvreConcepteur<FrmEntete>);
+    connect(configuration, &OngletConfiguration::MiseEnPageDemandee, this,
+            &FrmOptions::OuvreConcepteur<FrmConfOrdo>);
 }
 
 void FrmOptions::AjouteOnglet(Onglet* onglet)
 {
     auto* cadre = new QWidget(cadres_);
     cadre->setObjectName(QStringLiteral("Frame(%1)").arg(onglet->Numero() - 1));
-    const QString membre = QStringLiteral("(%1)").arg(onglet->Numero() - 1);
-    const Boutons boutons{style::BoutonPrincipal(QStringLiteral("CmdOK") + membre, QStringLiteral("&OK"),
-                                                 QStringLiteral("check-lg"), cadre),
-                          style::Bouton(QStringLiteral("CmdAnnule") + membre, QStringLiteral("&Annuler"),
-                                        QStringLiteral("x-lg"), cadre)};
     auto* colonne = new QVBoxLayout(cadre);
     colonne->setContentsMargins({});
     colonne->setSpacing(style::kEntreGroupes);
-    colonne->addWidget(onglet, 1);
-    auto* rangee = new QHBoxLayout;
-    rangee->addStretch();
-    rangee->addWidget(boutons.Annule);
-    rangee->addWidget(boutons.OK);
-    colonne->addLayout(rangee);
+    colonne->addWidget(style::Defilement(onglet, cadre), 1);
+    const Boutons boutons = AjouteBoutons(cadre, onglet->Numero() - 1);
     TS_->addTab(onglet->Titre());
     cadres_->addWidget(cadre);
     onglets_.append(onglet);
     boutons_.append(boutons);
     connect(boutons.OK, &QPushButton::clicked, this, &FrmOptions::Enregistre);
     connect(boutons.Annule, &QPushButton::clicked, this, &FrmOptions::Annule);
+    connect(onglet, &Onglet::FocusVersFoc, this, &FrmOptions::PrendFocus);
     connect(onglet, &Onglet::FocusVersOK, boutons.OK, qOverload<>(&QWidget::setFocus));
     connect(onglet, &Onglet::PresseOK, this, &FrmOptions::Enregistre);
+}
+
+FrmOptions::Boutons FrmOptions::AjouteBoutons(QWidget* cadre, int membre)
+{
+    const QString indice = QStringLiteral("(%1)").arg(membre);
+    const Boutons boutons{style::BoutonPrincipal(QStringLiteral("CmdOK") + indice, QStringLiteral("&OK"),
+                                                 QStringLiteral("check-lg"), cadre),
+                          style::Bouton(QStringLiteral("CmdAnnule") + indice, QStringLiteral("&Annuler"),
+                                        QStringLiteral("x-lg"), cadre)};
+    auto* rangee = new QHBoxLayout;
+    rangee->addStretch();
+    rangee->addWidget(boutons.Annule);
+    rangee->addWidget(boutons.OK);
+    static_cast<QVBoxLayout*>(cadre->layout())->addLayout(rangee);
+    return boutons;
 }
 
 void FrmOptions::Ouvre(int onglet)
 {
     Selectionne(onglet);
-    if (!isVisible()) {
-        exec();
+    if (boucle_) {
+        ailleurs_ = false;
+        show();
+    } else if (!isVisible()) {
+        Execute();
     }
 }
 
 bool FrmOptions::OuvrePourPremiereImpression()
 {
     Selectionne(imprimantes_->Numero());
-    boutons_.at(TS_->currentIndex()).Annule->hide();
+    for (const Boutons& boutons : std::as_const(boutons_)) {
+        boutons.Annule->hide();
+    }
     imprimantes_->MontreConfirmation();
     bool acceptee = false; // the window is unloaded by then
     const auto suite = connect(this, &QDialog::accepted, this, [&acceptee] { acceptee = true; });
-    exec();
+    Execute();
     disconnect(suite);
     return acceptee;
 }
 
+void FrmOptions::Execute()
+{
+    QEventLoop boucle;
+    boucle_ = &boucle;
+    show();
+    boucle.exec(QEventLoop::DialogExec);
+    boucle_ = nullptr;
+}
+
+void FrmOptions::setVisible(bool visible)
+{
+    QDialog::setVisible(visible);
+    if (!visible && boucle_ && !ailleurs_) {
+        boucle_->quit();
+    }
+}
+
+template <typename Concepteur> void FrmOptions::OuvreConcepteur()
+{
+    if (!startup::ExigeMedecin(contexte_)) {
+        return;
+    }
+    ailleurs_ = true;
+    hide();
+    fenetres_.Donne<Concepteur>().exec();
+    ailleurs_ = false;
+    if (!isVisible() && boucle_) {
+        boucle_->quit(); // the program ends
+    }
+}
+
 void FrmOptions::Selectionne(int onglet)
 {
-    const auto place = std::ranges::find(onglets_, onglet, &Onglet::Numero);
-    TS_->setCurrentIndex(place == onglets_.end() ? 0 : static_cast<int>(place - onglets_.begin()));
+    TS_->setCurrentIndex(onglet - 1);
 }
 
 void FrmOptions::MontreCadre(int rang)
@@ -104,29 +183,43 @@ void FrmOptions::MontreCadre(int rang)
     boutons_.at(rang).OK->setDefault(true);
 }
 
+void FrmOptions::PrendFocus(QWidget* controle)
+{
+    setTabOrder(controle, CmdFoc_); // Tab goes on behind the control
+    CmdFoc_->setFocus();
+}
+
 void FrmOptions::Enregistre()
 {
-    for (Onglet* onglet : std::as_const(onglets_)) {
-        if (!onglet->Accepte()) {
-            Selectionne(onglet->Numero());
-            return;
-        }
+    SaisieOptions saisie;
+    for (const Onglet* onglet : std::as_const(onglets_)) {
+        onglet->Lit(saisie);
     }
-    for (Onglet* onglet : std::as_const(onglets_)) {
-        onglet->Copie();
+    if (const auto refus = RefusDeLaSaisie(saisie)) {
+        Refuse(*refus);
+        return;
     }
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    QString refus;
+    QString panne;
     try {
-        EnregistreOptions(contexte_);
+        EnregistreOptions(contexte_, saisie);
     } catch (const common::Erreur& erreur) {
-        refus = erreur.Phrase();
+        panne = erreur.Phrase();
     }
     QGuiApplication::restoreOverrideCursor();
-    if (refus.isEmpty()) {
+    if (panne.isEmpty()) {
         Termine();
     } else {
-        contexte_.Dehors.Boites.Stop(refus);
+        contexte_.Dehors.Boites.Stop(panne);
+    }
+}
+
+void FrmOptions::Refuse(const RefusOptions& refus)
+{
+    contexte_.Dehors.Boites.Montre({.Genre = refus.Genre, .Texte = refus.Texte});
+    Selectionne(refus.Onglet);
+    if (auto* controle = findChild<QWidget*>(refus.Controle)) {
+        controle->setFocus();
     }
 }
 
@@ -140,6 +233,15 @@ void FrmOptions::Termine()
 {
     done(QDialog::Accepted);
     fenetres_.Decharge<FrmOptions>();
+}
+
+void FrmOptions::resizeEvent(QResizeEvent* evenement)
+{
+    QDialog::resizeEvent(evenement);
+    style::SerreOnglets(TS_, width() < kLargeurDesOnglets);
+    for (Onglet* onglet : std::as_const(onglets_)) {
+        onglet->Adapte(width() - 2 * style::kMarge);
+    }
 }
 
 void FrmOptions::closeEvent(QCloseEvent* evenement)

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "settings/SaisieOptions.h"
+
 #include <QWidget>
 
 namespace settings {
 
-/// One tab of `FrmOptions`: its controls, and what they mean at `CmdOK`.
+/// One tab of `FrmOptions`: its controls, and what they hold at `CmdOK`.
 class Onglet : public QWidget
 {
     Q_OBJECT
@@ -15,12 +17,14 @@ public:
     /// Its place in the strip, from 1; the members of the buttons' arrays count from 0.
     virtual int Numero() const = 0;
     virtual QString Titre() const = 0;
-    /// False, after its message, when a value of the tab stops the saving.
-    virtual bool Accepte() = 0;
-    /// Copies the controls to the settings variables.
-    virtual void Copie() = 0;
+    /// Puts in what the controls hold; those that act at once have nothing to say.
+    virtual void Lit(SaisieOptions& saisie) const = 0;
+    /// Lays the tab out for a width in pixels.
+    virtual void Adapte(int /*largeur*/) {}
 
 Q_SIGNALS:
+    /// A control acted on the page and gives the focus away.
+    void FocusVersFoc(QWidget* controle);
     /// A control of the tab gives the focus to `CmdOK`.
     void FocusVersOK();
     /// A control of the tab presses `CmdOK`.

@@ -1,11 +1,9 @@
 #include "settings/windows/OngletImprimantes.h"
 
 #include "application/windows/Style.h"
-#include "outside/Boites.h"
 #include "outside/Imprimantes.h"
 #include "prescription/Apercu.h"
 #include "settings/Reglages.h"
-#include "settings/messages.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -46,6 +44,7 @@ OngletImprimantes::OngletImprimantes(application::Contexte& contexte, QWidget* p
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins({});
     page->addWidget(carte);
+    page->addStretch();
     Charge();
     connect(Chkimp_, &QCheckBox::toggled, this, &OngletImprimantes::Confirme);
 }
@@ -60,19 +59,9 @@ void OngletImprimantes::Charge()
     Chkimp_->setChecked(contexte_.Impression.EtatImprimante != 0);
 }
 
-bool OngletImprimantes::Accepte()
+void OngletImprimantes::Lit(SaisieOptions& saisie) const
 {
-    if (!CboPrint_->currentText().isEmpty()) {
-        return true;
-    }
-    contexte_.Dehors.Boites.Stop(messages::PasDImprimante());
-    CboPrint_->setFocus();
-    return false;
-}
-
-void OngletImprimantes::Copie()
-{
-    contexte_.Reglages.Options.Imprimante = CboPrint_->currentText();
+    saisie.Imprimante = CboPrint_->currentText();
 }
 
 void OngletImprimantes::MontreConfirmation()

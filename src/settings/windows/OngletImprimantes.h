@@ -18,8 +18,7 @@ public:
 
     int Numero() const override { return 3; }
     QString Titre() const override { return QStringLiteral("Imprimantes"); }
-    bool Accepte() override;
-    void Copie() override;
+    void Lit(SaisieOptions& saisie) const override;
 
     void MontreConfirmation();
 

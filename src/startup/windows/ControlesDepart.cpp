@@ -45,12 +45,13 @@ QLayout* Face(QWidget* fenetre, QLabel* conseil, QWidget* proposition)
 } // namespace
 
 ControlesDepart::ControlesDepart(QWidget* fenetre)
-    : Conseil(style::Legende({}, QStringLiteral("L'en-tête de vos ordonnances s'affiche ici."), fenetre)),
+    : Cartes{CarteDuMedecin(fenetre), CarteDesActions(fenetre)},
+      Conseil(style::Legende({}, QStringLiteral("L'en-tête de vos ordonnances s'affiche ici."), fenetre)),
       CartePropose(new CarteEntete(fenetre))
 {
     auto* colonne = new QVBoxLayout;
     colonne->setSpacing(style::kEntreGroupes);
-    for (QWidget* carte : {CarteDuMedecin(fenetre), CarteDesActions(fenetre)}) {
+    for (QWidget* carte : std::as_const(Cartes)) {
         carte->setFixedWidth(kLargeurColonne);
         colonne->addWidget(carte);
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -16,6 +18,7 @@ struct ControlesDepart
 
     QComboBox* CboListeMed;
     QLabel* PctLogo;
+    QList<QWidget*> Cartes;    ///< the panels beside the face
     QLabel* Conseil;           ///< stands on a face without letterhead
     CarteEntete* CartePropose; ///< the offer of a first letterhead; hidden
     QPushButton* CmdNO;

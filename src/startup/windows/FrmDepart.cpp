@@ -85,7 +85,11 @@ void FrmDepart::Restaure()
 void FrmDepart::paintEvent(QPaintEvent*)
 {
     QPainter peintre(this);
-    PeintBouts(peintre, page::Rvb(255, 255, 255), page::Rvb(222, 235, 250));
+    if (sansMedecin_) {
+        PeintBouts(peintre, page::Rvb(190, 220, 250), page::Rvb(90, 120, 150));
+    } else {
+        PeintBouts(peintre, page::Rvb(255, 255, 255), page::Rvb(222, 235, 250));
+    }
     page::Rejoue(face_, peintre, page::kPixelsParMillimetre);
 }
 
@@ -126,9 +130,15 @@ void FrmDepart::BrancheSignaux()
 {
     using application::Signaux;
     connect(&contexte_.Signaux, &Signaux::MedecinsChanges, this, &FrmDepart::MontreMedecins);
-    connect(&contexte_.Signaux, &Signaux::MedecinChange, this, &FrmDepart::RelitLogo);
     connect(&contexte_.Signaux, &Signaux::ReglagesChanges, this, &FrmDepart::SuitReglages);
-    connect(&contexte_.Signaux, &Signaux::FaceChange, this, &FrmDepart::PeintFace);
+    connect(&contexte_.Signaux, &Signaux::FaceChange, this, [this] {
+        RevetSansMedecin(false);
+        RelitLogo();
+    });
+    connect(&contexte_.Signaux, &Signaux::FaceSansMedecin, this, [this] {
+        RevetSansMedecin(true);
+        PeintFace();
+    });
     contexte_.Dehors.Plateau.Ecoute([this](outside::Plateau::Clic clic) { RecoitClic(clic); });
 }
 
@@ -163,8 +173,31 @@ void FrmDepart::RelitLogo()
     PeintFace();
 }
 
+void FrmDepart::RevetSansMedecin(bool oui)
+{
+    sansMedecin_ = oui;
+    for (qsizetype rang = 0; rang < controles_.Cartes.size(); ++rang) {
+        style::TeinteSansMedecin(controles_.Cartes.at(rang), static_cast<int>(rang), oui);
+    }
+}
+
+void FrmDepart::PeintSansMedecin()
+{
+    page::Surface surface(page::Cible::Depart, width() / page::kPixelsParMillimetre,
+                          height() / page::kPixelsParMillimetre);
+    page::PeintFond(surface, 190, 220, 250, 90, 120, 150, 15, 18, true);
+    face_ = surface.Resultat();
+    controles_.Conseil->hide();
+    controles_.CartePropose->hide();
+    update();
+}
+
 void FrmDepart::PeintFace()
 {
+    if (sansMedecin_) {
+        PeintSansMedecin();
+        return;
+    }
     page::Surface surface(page::Cible::Depart, width() / page::kPixelsParMillimetre,
                           height() / page::kPixelsParMillimetre);
     QList<page::LigneEntete> entete;

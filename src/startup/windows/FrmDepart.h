@@ -47,6 +47,8 @@ private:
     void RelitLogo();
     void PeintFace();
     void ProposeEntete(const QList<page::LigneEntete>& stockee);
+    void PeintSansMedecin();
+    void RevetSansMedecin(bool oui);
     void EditeOrdonnances();
     void Accueille();
     void OuvreOptions(int onglet);
@@ -61,6 +63,7 @@ private:
     page::Dessin face_;
     QImage logo_;
     bool reduite_ = false;
+    bool sansMedecin_ = false; ///< the settings were kept without a doctor
 };
 
 } // namespace startup

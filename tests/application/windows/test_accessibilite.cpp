@@ -164,6 +164,13 @@ QWidget& MontreOrdo(support::ProgrammeDeTest& programme, int barre)
     return fenetre;
 }
 
+QWidget& MontreOptions(support::ProgrammeDeTest& programme, int onglet)
+{
+    QWidget& fenetre = Montre<settings::FrmOptions>(programme);
+    fenetre.findChild<QTabBar*>(QStringLiteral("TS"))->setCurrentIndex(onglet);
+    return fenetre;
+}
+
 QWidget& MontreMedoc(support::ProgrammeDeTest& programme, int ald)
 {
     QWidget& fenetre = Montre<medication::FrmMedoc>(programme);
@@ -262,8 +269,14 @@ void TestAccessibilite::Fenetres()
     rang("FrmNouveauM, drug bank", [](P& p) -> QWidget& { return MontreNouveauM(p, "TVS"); });
     rang("FrmPoso", &Montre<medication::FrmPoso>);
     rang("FrmMemo", &Montre<prescription::FrmMemo>);
-    rang("FrmOptions", &Montre<settings::FrmOptions>);
     rang("FrmCertif", &Montre<certificates::FrmCertif>);
+    rang("FrmOptions, Configuration", [](P& p) -> QWidget& { return MontreOptions(p, 0); });
+    rang("FrmOptions, Options", [](P& p) -> QWidget& { return MontreOptions(p, 1); });
+    rang("FrmOptions, Imprimantes", [](P& p) -> QWidget& { return MontreOptions(p, 2); });
+    rang("FrmOptions, Pharmacies", [](P& p) -> QWidget& { return MontreOptions(p, 3); });
+    rang("FrmOptions, Interactions", [](P& p) -> QWidget& { return MontreOptions(p, 4); });
+    rang("FrmOptions, Logo", [](P& p) -> QWidget& { return MontreOptions(p, 5); });
+    rang("FrmOptions, Duplicata", [](P& p) -> QWidget& { return MontreOptions(p, 6); });
     rang("FrmIAM", &Montre<drugbank::FrmIAM>);
 }
 

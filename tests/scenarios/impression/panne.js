@@ -10,6 +10,7 @@ repondre("Dr durand");
 choisir("FrmMedecins.LstMed", 0);
 clic("FrmMedecins.CmdQuitter");
 clic("FrmDepart.CmdOptions");
+choisir("FrmOptions.TS", "Imprimantes");
 choisir("FrmOptions.CboPrint", "Fichier PDF");
 clic("FrmOptions.CmdOK(2)");
 clic("FrmDepart.CmdNO");

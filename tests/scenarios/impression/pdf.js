@@ -3,6 +3,7 @@ horloge("20/11/2026 14:05");
 installer();
 ajouter("Medoc", "Patients", [1, "Monsieur", "MARTIN  Paul", "20/03/1953", "0", "", "", "", "", "", ""]);
 clic("FrmDepart.CmdOptions");
+choisir("FrmOptions.TS", "Imprimantes");
 egal(lignes("FrmOptions.CboPrint"), ["Bureau", "Fichier PDF"], "toujours parmi les imprimantes");
 choisir("FrmOptions.CboPrint", "Fichier PDF");
 clic("FrmOptions.CmdOK(2)");

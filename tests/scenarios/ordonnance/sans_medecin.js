@@ -35,6 +35,7 @@ egal(travaux(), [], "rien n'est imprimé");
 clic("FrmOrdo.mnuOptions");
 vrai(ouverte("FrmOptions"), "les options s'ouvrent");
 const avant = [lister(valeur("CheminTravail")), lire(valeur("CheminTravail") + "/Options.cfg")];
+choisir("FrmOptions.TS", "Imprimantes");
 choisir("FrmOptions.CboPrint", "Bureau");
 clic("FrmOptions.CmdOK(2)");
 faux(ouverte("FrmOptions"), "et se ferment");

@@ -1,213 +1,254 @@
-#include "settings/windows/FrmOptions.h"
-
-#include "application/windows/Fenetres.h"
 #include "application/windows/Style.h"
-#include "support/Cabinet.h"
+#include "medication/Choix.h"
+#include "settings/windows/FrmConfOrdo.h"
+#include "settings/windows/FrmEntete.h"
+#include "settings/windows/PosteOptions.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QPushButton>
+#include <QLineEdit>
+#include <QRadioButton>
 #include <QTabBar>
-#include <QTest>
-#include <QTimer>
 
 using namespace settings;
-
-namespace {
-
-struct Reglage : Cabinet
-{
-    application::Fenetres Fenetres{Contexte};
-
-    template <typename Controle> static Controle& Un(FrmOptions& fenetre, const char* nom)
-    {
-        return *fenetre.findChild<Controle*>(QLatin1String(nom));
-    }
-
-    /// Opens the dialogue and acts in it; a dialogue left open is a failure.
-    void Pendant(const std::function<void(FrmOptions&)>& action, bool premiere = false)
-    {
-        auto& fenetre = Fenetres.Donne<FrmOptions>();
-        bool restee = false;
-        QTimer::singleShot(0, &fenetre, [&] { action(fenetre); });
-        QTimer::singleShot(50, &fenetre, [&] {
-            restee = true;
-            fenetre.done(0);
-        });
-        if (premiere) {
-            fenetre.OuvrePourPremiereImpression();
-        } else {
-            fenetre.Ouvre(3);
-        }
-        QVERIFY(!restee);
-        QVERIFY(Fenetres.Presente<FrmOptions>() == nullptr);
-    }
-
-    QByteArray Fichier(const char* nom) const
-    {
-        return common::LitFichier(common::Joint(Etat.Chemins.CheminMedecin, QLatin1String(nom)));
-    }
-};
-
-} // namespace
+using outside::Genre;
 
 class TestFrmOptions : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void TheStateAtOpening();
-    void AMissingPrinterLeavesNoSelection();
+    void TheSevenTabsInOrder();
+    void OpensOnItsTab_data();
+    void OpensOnItsTab();
+    void ATabGivesTheFocusAway();
     void OkWritesTheThreeFiles();
-    void WithoutPrinterOkIsRefused();
+    void ARefusalShowsItsTabAndWritesNothing();
+    void AFailedWriteLeavesTheWindowOpen();
     void CancelRestoresTheSnapshot();
     void CancelRestoresTheStartWithTheSystem();
     void EscapeCancels();
     void TheCloseBoxIsRefused();
     void TheFirstPrintHasNoWayBack();
     void ConfirmingThePrinterClosesTheWindow();
-    void AMissingTabOpensThePrinters();
+    void TheEndOfTheProgramLeavesTheFirstPrint();
+    void TheDesignersComeBackToIt();
+    void WithoutDoctorTheDesignersStayShut();
     void WithoutDoctorNothingIsWritten();
 };
 
-void TestFrmOptions::TheStateAtOpening()
+void TestFrmOptions::TheSevenTabsInOrder()
 {
-    Reglage reglage;
-    reglage.Imprimantes.Presentes = {QStringLiteral("Accueil"), QStringLiteral("Bureau")};
-    reglage.Pendant([](FrmOptions& fenetre) {
+    PosteOptions poste;
+    poste.Pendant(1, [](FrmOptions& fenetre) {
         QCOMPARE(fenetre.windowTitle(), QStringLiteral("        Options de Scriptelle"));
-        auto& liste = Reglage::Un<QComboBox>(fenetre, "CboPrint");
-        QCOMPARE(liste.count(), 3);
-        QCOMPARE(liste.itemText(2), QStringLiteral("Fichier PDF"));
-        QCOMPARE(liste.currentText(), QStringLiteral("Bureau"));
-        QVERIFY(!Reglage::Un<QCheckBox>(fenetre, "Chkimp").isVisible());
-        QVERIFY(Reglage::Un<QPushButton>(fenetre, "CmdOK(2)").isDefault());
-        Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").click();
+        const auto& TS = PosteOptions::Un<QTabBar>(fenetre, "TS");
+        QStringList titres;
+        for (int rang = 0; rang < TS.count(); ++rang) {
+            titres.append(TS.tabText(rang));
+        }
+        QCOMPARE(titres.join(QLatin1Char('|')),
+                 QStringLiteral("Configuration|Options générales|Imprimantes|Pharmacies|Interactions|Logo|"
+                                "Duplicata"));
+        PosteOptions::Presse(fenetre, "CmdAnnule(0)");
     });
 }
 
-void TestFrmOptions::AMissingPrinterLeavesNoSelection()
+void TestFrmOptions::OpensOnItsTab_data()
 {
-    Reglage reglage;
-    reglage.Etat.Reglages.Options.Imprimante = QStringLiteral("Partie");
-    reglage.Pendant([](FrmOptions& fenetre) {
-        QCOMPARE(Reglage::Un<QComboBox>(fenetre, "CboPrint").currentIndex(), -1);
-        Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").click();
+    QTest::addColumn<int>("onglet");
+    for (int onglet = 1; onglet <= 7; ++onglet) {
+        QTest::addRow("%d", onglet) << onglet;
+    }
+}
+
+void TestFrmOptions::OpensOnItsTab()
+{
+    QFETCH(int, onglet);
+    PosteOptions poste;
+    poste.Pendant(onglet, [onglet](FrmOptions& fenetre) {
+        const QByteArray annule = QByteArray("CmdAnnule(") + QByteArray::number(onglet - 1) + ')';
+        const QByteArray accepte = QByteArray("CmdOK(") + QByteArray::number(onglet - 1) + ')';
+        QVERIFY(PosteOptions::Un<QPushButton>(fenetre, annule).isVisible());
+        QVERIFY(PosteOptions::Un<QPushButton>(fenetre, accepte).isDefault());
+        PosteOptions::Presse(fenetre, annule);
     });
-    QCOMPARE(reglage.Etat.Reglages.Options.Imprimante, QStringLiteral("Partie"));
+}
+
+void TestFrmOptions::ATabGivesTheFocusAway()
+{
+    PosteOptions poste;
+    poste.Pendant(1, [](FrmOptions& fenetre) {
+        auto& TS = PosteOptions::Un<QTabBar>(fenetre, "TS");
+        fenetre.activateWindow();
+        QTest::mouseClick(&TS, Qt::LeftButton, {}, TS.tabRect(4).center());
+        QCOMPARE(TS.currentIndex(), 4);
+        QCOMPARE(fenetre.focusWidget()->objectName(), QStringLiteral("CmdFoc"));
+        PosteOptions::Presse(fenetre, "CmdAnnule(4)");
+    });
 }
 
 void TestFrmOptions::OkWritesTheThreeFiles()
 {
-    Reglage reglage;
-    reglage.Pendant([](FrmOptions& fenetre) {
-        Reglage::Un<QComboBox>(fenetre, "CboPrint").setCurrentText(QStringLiteral("Fichier PDF"));
-        Reglage::Un<QPushButton>(fenetre, "CmdOK(2)").click();
+    PosteOptions poste;
+    poste.Pendant(3, [](FrmOptions& fenetre) {
+        PosteOptions::Un<QComboBox>(fenetre, "CboPrint").setCurrentText(QStringLiteral("Fichier PDF"));
+        PosteOptions::Presse(fenetre, "CmdOK(2)");
     });
-    QCOMPARE(reglage.Etat.Reglages.Options.Imprimante, QStringLiteral("Fichier PDF"));
-    QVERIFY(reglage.Fichier("Options.cfg").contains("\"Fichier PDF\""));
-    QVERIFY(reglage.Fichier("Base.cfg").startsWith("\"BIP\""));
-    QVERIFY(reglage.Fichier("Dupli.cfg").contains("\"DUPLICATA\""));
+    QCOMPARE(poste.Etat.Reglages.Options.Imprimante, QStringLiteral("Fichier PDF"));
+    QVERIFY(poste.Fichier("Options.cfg").contains("\"Fichier PDF\""));
+    QVERIFY(poste.Fichier("Base.cfg").startsWith("\"BIP\""));
+    QVERIFY(poste.Fichier("Dupli.cfg").contains("\"DUPLICATA\""));
 }
 
-void TestFrmOptions::WithoutPrinterOkIsRefused()
+void TestFrmOptions::ARefusalShowsItsTabAndWritesNothing()
 {
-    Reglage reglage;
-    reglage.Etat.Reglages.Options.Imprimante.clear();
-    reglage.Boites.AttendStop(QStringLiteral("Vous n'avez pas sélectionné l'imprimamte !"));
-    reglage.Pendant([](FrmOptions& fenetre) {
-        Reglage::Un<QPushButton>(fenetre, "CmdOK(2)").click();
+    PosteOptions poste;
+    poste.Etat.Reglages.Options.Imprimante.clear();
+    poste.Boites.AttendStop(QStringLiteral("Vous n'avez pas sélectionné l'imprimamte !"));
+    poste.Pendant(1, [](FrmOptions& fenetre) {
+        PosteOptions::Presse(fenetre, "CmdOK(0)");
         QVERIFY(fenetre.isVisible());
-        Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").click();
+        QCOMPARE(PosteOptions::Un<QTabBar>(fenetre, "TS").currentIndex(), 2);
+        QCOMPARE(fenetre.focusWidget()->objectName(), QStringLiteral("CboPrint"));
+        PosteOptions::Presse(fenetre, "CmdAnnule(2)");
     });
     QVERIFY(!common::FichierExiste(
-        common::Joint(reglage.Etat.Chemins.CheminMedecin, QStringLiteral("Options.cfg"))));
+        common::Joint(poste.Etat.Chemins.CheminMedecin, QStringLiteral("Options.cfg"))));
+}
+
+void TestFrmOptions::AFailedWriteLeavesTheWindowOpen()
+{
+    PosteOptions poste;
+    common::CreeDossier(common::Joint(poste.Etat.Chemins.CheminMedecin, QStringLiteral("Dupli.cfg/plein")));
+    poste.Boites.AttendContenant(Genre::Stop, QStringLiteral("Dupli.cfg"));
+    poste.Pendant(1, [](FrmOptions& fenetre) {
+        PosteOptions::Presse(fenetre, "CmdOK(0)");
+        QVERIFY(fenetre.isVisible());
+        PosteOptions::Presse(fenetre, "CmdAnnule(0)");
+    });
 }
 
 void TestFrmOptions::CancelRestoresTheSnapshot()
 {
-    Reglage reglage;
-    reglage.Pendant([&](FrmOptions& fenetre) {
-        settings::Options& options = reglage.Etat.Reglages.Options;
+    PosteOptions poste;
+    poste.Pendant(3, [&](FrmOptions& fenetre) {
+        settings::Options& options = poste.Etat.Reglages.Options;
         options.AffichePoids = 0;
         options.LogoHauteur = 12;
         options.MinimiseImpression = 1;
-        Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").click();
+        PosteOptions::Presse(fenetre, "CmdAnnule(2)");
     });
-    QCOMPARE(int(reglage.Etat.Reglages.Options.AffichePoids), 1);
-    QCOMPARE(int(reglage.Etat.Reglages.Options.LogoHauteur), 0);
-    QCOMPARE(int(reglage.Etat.Reglages.Options.MinimiseImpression), 1);
+    QCOMPARE(int(poste.Etat.Reglages.Options.AffichePoids), 1);
+    QCOMPARE(int(poste.Etat.Reglages.Options.LogoHauteur), 0);
+    QCOMPARE(int(poste.Etat.Reglages.Options.MinimiseImpression), 1);
 }
 
 void TestFrmOptions::CancelRestoresTheStartWithTheSystem()
 {
-    Reglage reglage;
-    reglage.Etat.Reglages.Options.LanceDemarrage = 1;
-    reglage.Pendant([&](FrmOptions& fenetre) {
-        reglage.Etat.Reglages.Options.LanceDemarrage = 0;
-        reglage.DemarrageSysteme.Desactive();
-        Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").click();
+    PosteOptions poste;
+    poste.Etat.Reglages.Options.LanceDemarrage = 1;
+    poste.Pendant(2, [&](FrmOptions& fenetre) {
+        PosteOptions::Presse(fenetre, "ChkL");
+        QCOMPARE(poste.DemarrageSysteme.Programme, QString());
+        PosteOptions::Presse(fenetre, "CmdAnnule(1)");
     });
-    QVERIFY(reglage.DemarrageSysteme.Programme.endsWith(QStringLiteral("Scriptelle.exe")));
+    QVERIFY(poste.DemarrageSysteme.Programme.endsWith(QStringLiteral("Scriptelle.exe")));
 }
 
 void TestFrmOptions::EscapeCancels()
 {
-    Reglage reglage;
-    reglage.Pendant([](FrmOptions& fenetre) { QTest::keyClick(&fenetre, Qt::Key_Escape); });
+    PosteOptions poste;
+    poste.Pendant(5, [](FrmOptions& fenetre) { QTest::keyClick(&fenetre, Qt::Key_Escape); });
 }
 
 void TestFrmOptions::TheCloseBoxIsRefused()
 {
-    Reglage reglage;
-    reglage.Pendant([](FrmOptions& fenetre) {
+    PosteOptions poste;
+    poste.Pendant(2, [](FrmOptions& fenetre) {
         QVERIFY(!fenetre.close());
         QVERIFY(fenetre.isVisible());
-        Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").click();
+        PosteOptions::Presse(fenetre, "CmdAnnule(1)");
     });
 }
 
 void TestFrmOptions::TheFirstPrintHasNoWayBack()
 {
-    Reglage reglage;
-    reglage.Pendant(
-        [](FrmOptions& fenetre) {
-            QVERIFY(!Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").isVisible());
-            QVERIFY(Reglage::Un<QCheckBox>(fenetre, "Chkimp").isVisible());
-            QTest::keyClick(&fenetre, Qt::Key_Escape);
-            QVERIFY(fenetre.isVisible());
-            Reglage::Un<QPushButton>(fenetre, "CmdOK(2)").click();
-        },
-        true);
+    PosteOptions poste;
+    QVERIFY(poste.PendantPremiereImpression([](FrmOptions& fenetre) {
+        QVERIFY(!PosteOptions::Un<QPushButton>(fenetre, "CmdAnnule(2)").isVisible());
+        QVERIFY(PosteOptions::Un<QCheckBox>(fenetre, "Chkimp").isVisible());
+        QTest::keyClick(&fenetre, Qt::Key_Escape);
+        QVERIFY(fenetre.isVisible());
+        PosteOptions::Un<QTabBar>(fenetre, "TS").setCurrentIndex(0);
+        QTest::keyClick(&fenetre, Qt::Key_Escape);
+        QVERIFY(fenetre.isVisible());
+        PosteOptions::Presse(fenetre, "CmdOK(0)");
+    }));
 }
 
 void TestFrmOptions::ConfirmingThePrinterClosesTheWindow()
 {
-    Reglage reglage;
-    reglage.Etat.Impression.EtatImprimante = 0;
-    reglage.Pendant([](FrmOptions& fenetre) { Reglage::Un<QCheckBox>(fenetre, "Chkimp").click(); }, true);
-    QCOMPARE(int(reglage.Etat.Impression.EtatImprimante), 1);
-    QVERIFY(reglage.Fichier("Options.cfg").contains("\"Bureau\""));
+    PosteOptions poste;
+    poste.Etat.Impression.EtatImprimante = 0;
+    QVERIFY(poste.PendantPremiereImpression(
+        [](FrmOptions& fenetre) { PosteOptions::Presse(fenetre, "Chkimp"); }));
+    QCOMPARE(int(poste.Etat.Impression.EtatImprimante), 1);
+    QVERIFY(poste.Fichier("Options.cfg").contains("\"Bureau\""));
 }
 
-void TestFrmOptions::AMissingTabOpensThePrinters()
+void TestFrmOptions::TheEndOfTheProgramLeavesTheFirstPrint()
 {
-    Reglage reglage;
-    auto& fenetre = reglage.Fenetres.Donne<FrmOptions>();
-    QTimer::singleShot(0, &fenetre, [&] {
-        QCOMPARE(Reglage::Un<QTabBar>(fenetre, "TS").tabText(0), QStringLiteral("Imprimantes"));
-        Reglage::Un<QPushButton>(fenetre, "CmdAnnule(2)").click();
+    PosteOptions poste;
+    auto& fenetre = poste.Fenetres.Donne<FrmOptions>();
+    QTimer::singleShot(0, &fenetre, [&] { poste.Fenetres.CacheTout(); });
+    QVERIFY(!fenetre.OuvrePourPremiereImpression());
+}
+
+void TestFrmOptions::TheDesignersComeBackToIt()
+{
+    PosteOptions poste;
+    poste.Pendant(1, [&](FrmOptions& fenetre) {
+        for (const char* bouton : {"CmdET", "CmdMEP"}) {
+            QWidget* concepteur = nullptr;
+            QTimer::singleShot(20, &fenetre, [&] {
+                concepteur = QApplication::activeModalWidget();
+                QVERIFY(!fenetre.isVisible());
+                concepteur->hide();
+                fenetre.Ouvre(1); // as they do at their end
+            });
+            PosteOptions::Un<QTabBar>(fenetre, "TS").setCurrentIndex(0);
+            PosteOptions::Presse(fenetre, bouton);
+            QVERIFY(concepteur != nullptr);
+            QVERIFY(fenetre.isVisible());
+        }
+        QVERIFY(poste.Fenetres.Presente<FrmEntete>());
+        QVERIFY(poste.Fenetres.Presente<FrmConfOrdo>());
+        PosteOptions::Presse(fenetre, "CmdAnnule(0)");
     });
-    fenetre.Ouvre(7);
+}
+
+void TestFrmOptions::WithoutDoctorTheDesignersStayShut()
+{
+    PosteOptions poste;
+    poste.Etat.Chemins.CheminMedecin.clear();
+    poste.Boites.AttendInformation(QStringLiteral("Choisissez d'abord un médecin utilisateur."))
+        .AttendInformation(QStringLiteral("Choisissez d'abord un médecin utilisateur."));
+    poste.Pendant(1, [&](FrmOptions& fenetre) {
+        PosteOptions::Presse(fenetre, "CmdET");
+        PosteOptions::Presse(fenetre, "CmdMEP");
+        QVERIFY(fenetre.isVisible());
+        PosteOptions::Presse(fenetre, "CmdOK(0)");
+    });
 }
 
 void TestFrmOptions::WithoutDoctorNothingIsWritten()
 {
-    Reglage reglage;
-    const QString chemin = reglage.Etat.Chemins.CheminMedecin;
-    reglage.Etat.Chemins.CheminMedecin.clear();
-    reglage.Pendant([](FrmOptions& fenetre) { Reglage::Un<QPushButton>(fenetre, "CmdOK(2)").click(); });
+    PosteOptions poste;
+    const QString chemin = poste.Etat.Chemins.CheminMedecin;
+    poste.Etat.Chemins.CheminMedecin.clear();
+    poste.Pendant(3, [](FrmOptions& fenetre) { PosteOptions::Presse(fenetre, "CmdOK(2)"); });
     QVERIFY(!common::FichierExiste(common::Joint(chemin, QStringLiteral("Options.cfg"))));
     QVERIFY(!common::FichierExiste(QStringLiteral("Options.cfg")));
     QVERIFY(!common::FichierExiste(QStringLiteral("/Options.cfg")));

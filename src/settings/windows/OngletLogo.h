@@ -1,0 +1,57 @@
+#pragma once
+
+#include "application/Contexte.h"
+#include "settings/windows/Onglet.h"
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace settings {
+
+/// Tab 6: the picture of the letterhead, its place and size.
+class OngletLogo : public Onglet
+{
+    Q_OBJECT
+
+public:
+    OngletLogo(application::Contexte& contexte, QWidget* parent);
+
+    int Numero() const override { return 6; }
+    QString Titre() const override { return QStringLiteral("Logo"); }
+    void Lit(SaisieOptions& saisie) const override;
+
+    /// A box that gets the focus tells which way the proportion runs.
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+private:
+    QWidget* CarteDeLImage();
+    QWidget* CarteDesMesures();
+    QLayout* RangeeDePosition(QWidget* carte);
+    QLineEdit* Boite(const char* nom, const QString& nomAccessible, QWidget* carte);
+    void Branche();
+    void Charge();
+    void Insere(bool oui);
+    void ChoisitFichier();
+    void MontreImage();
+    void MontreMesures(const QStringList& textes);
+    void PermetMesures(bool oui);
+    void SuitHauteur(const QString& texte);
+    void SuitLargeur(const QString& texte);
+
+    application::Contexte& contexte_;
+    QCheckBox* ChkLog_ = nullptr;
+    QRadioButton* OptG_ = nullptr;
+    QRadioButton* OptD_ = nullptr;
+    QPushButton* CmdChemin_ = nullptr;
+    QLabel* Img_ = nullptr;
+    QLineEdit* TxtH_ = nullptr;
+    QLineEdit* TxtL_ = nullptr;
+    QLineEdit* TxtX_ = nullptr;
+    QLineEdit* TxtY_ = nullptr;
+    bool avecImage_ = false;
+};
+
+} // namespace settings
