@@ -1,0 +1,31 @@
+// Tab 1: the menu bar follows at once, cancel brings it back, the designers hide the window.
+installer();
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.mnuOptions");
+choisir("FrmOptions.TS", "Configuration");
+egal(lignes("FrmOptions.TS"), ["Configuration", "Options générales", "Imprimantes", "Pharmacies", "Interactions",
+     "Logo", "Duplicata"], "les onglets dans l'ordre");
+egal([texte("FrmOptions.Opt(0)"), texte("FrmOptions.Opt(1)")], ["Menu 1 ", "Menu 2 "], "les deux barres");
+clic("FrmOptions.Opt(1)");
+egal(valeur("BarreMenu"), 1, "aussitôt");
+vrai(visible("FrmOrdo.PctMenu2"), "la barre du haut se montre");
+faux(visible("FrmOrdo.PctMenu1"), "celle de gauche se cache");
+clic("FrmOptions.CmdAnnule(0)");
+egal(valeur("BarreMenu"), 0, "annulé");
+vrai(visible("FrmOrdo.PctMenu1"), "la barre de gauche revient");
+clic("FrmOrdo.mnuOptions");
+choisir("FrmOptions.TS", "Configuration");
+clic("FrmOptions.CmdET");
+vrai(ouverte("FrmEntete"), "l'en-tête");
+faux(ouverte("FrmOptions"), "à la place des options");
+clic("FrmEntete.CmdQuitter");
+vrai(ouverte("FrmOptions"), "qui reviennent");
+egal(selection("FrmOptions.TS"), 0, "sur le premier onglet");
+clic("FrmOptions.CmdMEP");
+vrai(ouverte("FrmConfOrdo"), "la mise en page");
+faux(ouverte("FrmOptions"), "à la place des options");
+clic("FrmConfOrdo.CmdRetour");
+vrai(ouverte("FrmOptions"), "qui reviennent");
+clic("FrmOptions.Opt(1)");
+clic("FrmOptions.CmdOK(0)");
+egal(lire(valeur("CheminMedecin") + "/Options.cfg").split(",")[10], "1", "la barre est enregistrée");

@@ -1,0 +1,35 @@
+// Tab 7: the word in two lines, its look and place; what an empty box and a cleared mark keep.
+installer();
+const fichier = valeur("CheminMedecin") + "/Dupli.cfg";
+clic("FrmDepart.CmdOptions");
+choisir("FrmOptions.TS", "Duplicata");
+egal(texte("FrmOptions.LblDup"), "DUPLICATA", "le mot");
+clic("FrmOptions.CmdTexte");
+egal([boite().titre, boite().valeur], ["Texte pour les copies", "DUPLICATA"], "la question");
+boites([["Pour inscrire 2 lignes, écrivez les texte de chaque ligne, séparés par une étoile (*), sans espace.",
+         "COPIE*PATIENT"]]);
+egal(texte("FrmOptions.LblDup"), "COPIE*PATIENT", "gardé avec l'étoile");
+clic("FrmOptions.CmdTexte");
+repondre(null);
+egal(texte("FrmOptions.LblDup"), "COPIE*PATIENT", "annuler ne change rien");
+clic("FrmOptions.CmdPolice");
+repondre({nom: "Arial", taille: 24, gras: true, italique: false, souligne: false});
+egal(texte("FrmOptions.LblPolice"), "Police Arial ; Taille 24", "la police");
+clic("FrmOptions.CmdColPol");
+repondre(200);
+egal(aspect("FrmOptions.LblDup").couleur, 200, "la couleur");
+capture("Duplicata");
+saisir("FrmOptions.TxtDupX", "");
+saisir("FrmOptions.TxtDupY", "99999");
+clic("FrmOptions.CmdOK(6)");
+boites([["« 99999 » n'est pas un nombre de millimètres (de -32768 à 32767).", "OK"]]);
+egal(selection("FrmOptions.TS"), 6, "sur son onglet");
+saisir("FrmOptions.TxtDupY", "12");
+clic("FrmOptions.CmdOK(6)");
+egal(lire(fichier), "\"Arial\",24,0,1,200,35,12,1,\"COPIE*PATIENT\"\r\n", "enregistré, X comme avant");
+clic("FrmDepart.CmdOptions");
+choisir("FrmOptions.TS", "Duplicata");
+cocher("FrmOptions.ChkDup", false);
+egal([texte("FrmOptions.LblDup"), texte("FrmOptions.TxtDupX"), visible("FrmOptions.CmdTexte")], ["", "", false], "vidé");
+clic("FrmOptions.CmdOK(6)");
+egal(lire(fichier), "\"Arial\",24,0,1,200,35,12,0,\"COPIE*PATIENT\"\r\n", "le mot attend");
