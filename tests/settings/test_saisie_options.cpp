@@ -1,0 +1,101 @@
+#include "medication/Choix.h"
+#include "settings/ChoixPharmacie.h"
+#include "settings/LogoOptions.h"
+#include "settings/SaisieOptions.h"
+#include "settings/messages.h"
+#include "support/Cabinet.h"
+
+#include <QTest>
+
+using namespace settings;
+
+namespace {
+
+SaisieOptions Acceptable()
+{
+    SaisieOptions saisie;
+    saisie.Imprimante = QStringLiteral("Bureau");
+    saisie.BaseChoisie = true;
+    return saisie;
+}
+
+QString Refus(const SaisieOptions& saisie)
+{
+    const auto refus = RefusDeLaSaisie(saisie);
+    return refus ? refus->Texte : QString();
+}
+
+} // namespace
+
+class TestSaisieOptions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TheTestsStandInTheirOrder();
+    void AnotherBaseFillsTheTreeAgain();
+    void TheHelperLibraryDecides();
+    void TheProportionRunsInWholeMillimetres();
+};
+
+void TestSaisieOptions::TheTestsStandInTheirOrder()
+{
+    SaisieOptions saisie;
+    saisie.ChkLog = true;
+    saisie.TxtH = QStringLiteral("0");
+    saisie.TxtL = saisie.TxtX = QStringLiteral("40000");
+    QCOMPARE(Refus(saisie), messages::PasDeBase());
+    saisie.BaseChoisie = true;
+    QCOMPARE(Refus(saisie), messages::PasDImprimante());
+    saisie.Imprimante = QStringLiteral("Bureau");
+    QCOMPARE(Refus(saisie), messages::PasDeFichierLogo());
+    saisie.AvecImage = true;
+    QCOMPARE(Refus(saisie), messages::PasDeTailleLogo());
+    saisie.TxtH = QStringLiteral("20");
+    QCOMPARE(Refus(saisie), messages::MesureRefusee(QStringLiteral("40000")));
+    saisie.TxtL = saisie.TxtX = QStringLiteral("-32768");
+    QCOMPARE(Refus(saisie), messages::PasDeTailleLogo());
+    saisie.TxtL = QStringLiteral("32767");
+    QCOMPARE(Refus(saisie), QString());
+}
+
+void TestSaisieOptions::AnotherBaseFillsTheTreeAgain()
+{
+    Cabinet cabinet;
+    cabinet.Etat.Choix.BaseChangee = 2;
+    PrendInstantane(cabinet.Contexte);
+    EnregistreOptions(cabinet.Contexte, Acceptable());
+    QCOMPARE(int(cabinet.Etat.Choix.BaseChangee), 2);
+    cabinet.Etat.Banque.TypeBase = QStringLiteral("VDE");
+    EnregistreOptions(cabinet.Contexte, Acceptable());
+    QCOMPARE(int(cabinet.Etat.Choix.BaseChangee), 1);
+}
+
+void TestSaisieOptions::TheHelperLibraryDecides()
+{
+    drugbank::Banque banque;
+    QCOMPARE(ChoisitPharmacie(banque, 2).LblBase, messages::SansModuleAide());
+    QCOMPARE(banque.ProduitBanque, -1);
+    banque.ModuleAide = true;
+    banque.VidalHelper_getVidalAPIPath = [](qint32 produit) { return produit == 1 ? 0 : 21; };
+    QCOMPARE(ChoisitPharmacie(banque, 2).LblBase,
+             QStringLiteral("La base VIDAL Dentaire est correctement installée !"));
+    QCOMPARE(banque.TypeBase, QStringLiteral("VDE"));
+    QCOMPARE(ChoisitPharmacie(banque, 1).LblBase,
+             QStringLiteral("La base VIDAL Expert n'est pas correctement installée !"));
+    QCOMPARE(banque.ProduitBanque, 2);
+}
+
+void TestSaisieOptions::TheProportionRunsInWholeMillimetres()
+{
+    const QString autre = QStringLiteral("1");
+    QCOMPARE(LargeurPour(QStringLiteral("20"), 2, autre), QStringLiteral("40"));
+    QCOMPARE(HauteurPour(QStringLiteral("20"), 3, autre), QStringLiteral("7"));
+    QCOMPARE(LargeurPour(QString(), 2, autre), QString());
+    QCOMPARE(LargeurPour(QStringLiteral("20"), 0, autre), autre);
+    QCOMPARE(HauteurPour(QStringLiteral("20"), 0, autre), autre);
+}
+
+QTEST_MAIN(TestSaisieOptions)
+
+#include "test_saisie_options.moc"
