@@ -191,6 +191,8 @@ void AjouteLook(Registre& registre)
     AjoutePolice(registre, QStringLiteral("Titre"), &settings::Look::Titre);
     AjoutePolice(registre, QStringLiteral("Poso"), &settings::Look::Poso);
     AjoutePolice(registre, QStringLiteral("Certif"), &settings::Look::Certif);
+    VARIABLE(Reglages, ConfOrdoActive);
+    VARIABLE(Reglages, TxtCourant);
     VARIABLE(Reglages.Look, CouleurEntete);
     VARIABLE(Reglages.Look, NomSignature);
     registre.insert(QStringLiteral("EspacesLigne"), [](const Contexte& contexte) {

@@ -2,32 +2,16 @@
 
 #include "application/Signaux.h"
 #include "common/Erreur.h"
-#include "common/Nombres.h"
 #include "outside/Boites.h"
 #include "prescription/messages.h"
 #include "settings/FichiersReglages.h"
+#include "settings/HauteurSaut.h"
 #include "startup/Chemins.h"
 #include "startup/GestionMedecins.h"
 
 namespace prescription {
 
 namespace {
-
-constexpr double kHauteurMaximale = 297; // the sheet
-
-QString AVirgule(QString nombre)
-{
-    return nombre.replace(QLatin1Char('.'), QLatin1Char(','));
-}
-
-std::optional<float> LitHauteur(const QString& reponse)
-{
-    const auto hauteur = common::NombreAVirgule(AVirgule(reponse));
-    if (!hauteur || *hauteur < 0 || *hauteur > kHauteurMaximale) {
-        return std::nullopt;
-    }
-    return static_cast<float>(*hauteur);
-}
 
 void EcritReglages(application::Contexte& contexte)
 {
@@ -45,26 +29,10 @@ void EcritReglages(application::Contexte& contexte)
 
 void FixeHauteurPersonnelle(application::Contexte& contexte)
 {
-    if (!startup::ExigeMedecin(contexte)) {
-        return;
+    if (startup::ExigeMedecin(contexte) &&
+        settings::DemandeHauteurSaut(contexte.Reglages, contexte.Dehors.Boites)) {
+        EcritReglages(contexte);
     }
-    settings::Marges& marges = contexte.Reglages.Marges;
-    const QString reponse = contexte.Dehors.Boites
-                                .Demande({.Invite = messages::InviteHauteur(),
-                                          .Valeur = AVirgule(common::TexteSimple(marges.HauteurSaut)),
-                                          .Titre = messages::TitreHauteur()})
-                                .value_or(QString());
-    if (reponse.isEmpty()) {
-        return;
-    }
-    const auto hauteur = LitHauteur(reponse);
-    if (!hauteur) {
-        contexte.Dehors.Boites.Information(messages::HauteurRefusee(reponse));
-        return;
-    }
-    marges.HauteurSaut = *hauteur;
-    contexte.Reglages.Options.SautPersonnalise = 1;
-    EcritReglages(contexte);
 }
 
 void RetablitHauteurNormale(application::Contexte& contexte)
@@ -73,6 +41,7 @@ void RetablitHauteurNormale(application::Contexte& contexte)
         return;
     }
     contexte.Reglages.Options.SautPersonnalise = 0;
+    contexte.Reglages.TxtSLP.clear();
     EcritReglages(contexte);
 }
 

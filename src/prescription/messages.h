@@ -91,23 +91,6 @@ inline QString NomDeJournalRefuse(const QString& nom)
     return QStringLiteral("« %1 » ne peut pas servir de nom de fichier.").arg(nom);
 }
 
-inline QString TitreHauteur()
-{
-    return QStringLiteral("Hauteur des sauts de lignes");
-}
-
-inline QString InviteHauteur()
-{
-    return QStringLiteral("Pour personnaliser la hauteur du saut de ligne, déterminez sa\nHauteur en mm : ");
-}
-
-inline QString HauteurRefusee(const QString& reponse)
-{
-    return QStringLiteral("« %1 » n'est pas une hauteur en millimètres (de 0 à 297, ex. : 4,5).\n"
-                          "La hauteur des sauts de lignes n'a pas changé.")
-        .arg(reponse);
-}
-
 inline QString HauteurNonEcrite(const QString& cause)
 {
     return QStringLiteral(

@@ -3,6 +3,7 @@
 #include "common/Fichiers.h"
 #include "settings/ChampsReglages.h"
 #include "settings/Enregistrement.h"
+#include "settings/HauteurSaut.h"
 
 namespace settings {
 
@@ -37,6 +38,7 @@ void ChargeReglages(Reglages& reglages, const QString& chemin)
     LitOptions(reglages.Options, chemin);
     LitEnregistrement(CheminMarges(chemin), ChampsMarges(reglages.Marges));
     LitEnregistrement(CheminDupli(chemin), ChampsDupli(reglages.Dupli));
+    reglages.TxtSLP = TexteSautPersonnalise(reglages);
 }
 
 bool LitOptions(Options& options, const QString& chemin)

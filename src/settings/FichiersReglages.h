@@ -6,8 +6,9 @@
 
 namespace settings {
 
-/// Reads `Options.cfg`, `Marges.cfg` and `Dupli.cfg` of a directory over the variables. A file that is
-/// missing, short or damaged raises nothing: the fields not reached keep what they had.
+/// Reads `Options.cfg`, `Marges.cfg` and `Dupli.cfg` of a directory over the variables, and sets `TxtSLP`
+/// after them. A file that is missing, short or damaged raises nothing: the fields not reached keep what they
+/// had.
 void ChargeReglages(Reglages& reglages, const QString& chemin);
 
 /// `Options.cfg` of a directory over the variables, as above. False when there is no file.
@@ -24,9 +25,9 @@ bool LitBaseCfg(drugbank::Banque& banque, const QString& chemin);
 void EcritBaseCfg(const drugbank::Banque& banque, const QString& chemin);
 
 /// Reads the doctor's look (`Entete` row 23, `CouleurPET`, `Misenpage`, `Certificat`) into the variables.
-/// What a table without rows, or a null column, would give becomes the default: nothing of the doctor before
-/// stays. The variables are left as they are when it throws `Erreur`.
-void ChargeLook(Look& look, storage::Base& ordo);
+/// What a table without rows, or a null column, would give becomes the default, or for certificates the font
+/// `txtCert`: nothing of the doctor before stays. The variables are left as they are when it throws `Erreur`.
+void ChargeLook(Look& look, storage::Base& ordo, const page::Police& txtCert = {});
 
 /// Makes the font of certificates the one row of `Certificat`. Throws `Erreur`; the table is as before then.
 void EcritPoliceCertificat(const page::Police& police, storage::Base& ordo);

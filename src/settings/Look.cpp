@@ -44,9 +44,10 @@ void ChargeMisenpage(Look& look, storage::Base& ordo)
 
 } // namespace
 
-void ChargeLook(Look& look, storage::Base& ordo)
+void ChargeLook(Look& look, storage::Base& ordo, const page::Police& txtCert)
 {
     Look lu;
+    lu.Certif = txtCert;
     ChargeEntete(lu, ordo);
     ChargeMisenpage(lu, ordo);
     for (auto jeu = ordo.Table(QStringLiteral("Certificat")); !jeu.Fin(); jeu.MoveNext()) {

@@ -119,7 +119,9 @@ struct Reglages
     settings::Look Look;
     settings::SaisieEntete SaisieEntete;
     OptionsEnCours EnCours;
-    QString TxtSLP; ///< the personal height as `FrmConfOrdo` shows it; empty without one
+    QString TxtSLP;            ///< the personal height as `FrmConfOrdo` shows it; empty without one
+    quint8 ConfOrdoActive = 0; ///< 1 while `FrmConfOrdo` is shown
+    int TxtCourant = 0;        ///< the row, 0 or 1, whose font `FrmConfOrdo.CmdPolice` changes
 };
 
 } // namespace settings

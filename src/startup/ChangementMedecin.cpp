@@ -1,6 +1,7 @@
 #include "startup/GestionMedecins.h"
 
 #include "application/Signaux.h"
+#include "certificates/Certificat.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "drugbank/Banque.h"
@@ -11,6 +12,7 @@
 #include "startup/Chemins.h"
 #include "startup/MedecinIni.h"
 #include "startup/Medecins.h"
+#include "startup/PolicesAbsentes.h"
 #include "startup/messages.h"
 #include "storage/Bases.h"
 
@@ -43,12 +45,15 @@ void ChargeBanque(drugbank::Banque& banque, const QString& cheminMedecin)
 /// A look that cannot be read must not stay that of the doctor before.
 void ChargeLookOuDitPourquoi(Contexte& contexte)
 {
+    const page::Police& txtCert = contexte.Certificat.TxtCert;
     contexte.Reglages.Look = {};
+    contexte.Reglages.Look.Certif = txtCert;
     if (!storage::Bases::OrdoExiste(contexte.Chemins.CheminMedecin)) {
         return; // a tree in preparation: told of when he prescribes
     }
     outside::Tente(contexte.Dehors.Boites, [&] {
-        settings::ChargeLook(contexte.Reglages.Look, contexte.Bases.Ordo(contexte.Chemins.CheminMedecin));
+        settings::ChargeLook(contexte.Reglages.Look, contexte.Bases.Ordo(contexte.Chemins.CheminMedecin),
+                             txtCert);
     });
 }
 
@@ -113,6 +118,7 @@ void ChangeMedecin(Contexte& contexte, int rang)
     ChargeLookOuDitPourquoi(contexte);
     Annonce(contexte.Signaux);
     SignaleLogo(contexte);
+    SignalePolices(contexte);
 }
 
 void DitBaseDuMedecinAbsente(Contexte& contexte)

@@ -21,7 +21,8 @@ struct Medecins
     qint16 IndexMedecin = 0;
     QString NomMedecinSignature;
     QList<Medecin> Liste;
-    int Selection = -1; ///< selected row of the lists, -1 for none
+    int Selection = -1;           ///< selected row of the lists, -1 for none
+    QStringList PolicesSignalees; ///< the directories whose missing fonts this run has told of
 };
 
 } // namespace startup

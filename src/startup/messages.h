@@ -167,6 +167,20 @@ inline QString ChoisissezMedecin()
     return QStringLiteral("Choisissez d'abord un médecin utilisateur.");
 }
 
+// Fonts that this computer lacks.
+
+inline QString PolicesAbsentes(const QString& remplacements)
+{
+    return QStringLiteral("Des polices choisies pour vos documents ne sont pas installées sur cet "
+                          "ordinateur :\n\n%1\n\nLa feuille est imprimée avec les polices de remplacement.")
+        .arg(remplacements);
+}
+
+inline QString PoliceRemplacee(const QString& police, const QString& remplacante)
+{
+    return QStringLiteral("« %1 » est remplacée par « %2 ».").arg(police, remplacante);
+}
+
 // The daily choice.
 
 inline QString ChoixObligatoire()

@@ -1,6 +1,7 @@
 #include "prescription/Editeur.h"
 #include "prescription/messages.h"
 #include "settings/FichiersReglages.h"
+#include "settings/messagesMiseEnPage.h"
 #include "startup/GestionMedecins.h"
 #include "storage/Jeu.h"
 #include "support/Cabinet.h"
@@ -237,7 +238,7 @@ void TestEditeur::uneHauteurRefusee()
     QFETCH(QString, reponse);
     Cabinet cabinet;
     cabinet.Boites.AttendSaisie(InviteHauteur(), reponse, u"0"_s)
-        .AttendInformation(messages::HauteurRefusee(reponse));
+        .AttendInformation(settings::messages::HauteurRefusee(reponse));
     FixeHauteurPersonnelle(cabinet.Contexte);
     QCOMPARE(cabinet.Etat.Reglages.Marges.HauteurSaut, 0.0F);
     QCOMPARE(cabinet.Etat.Reglages.Options.SautPersonnalise, 0);

@@ -5,6 +5,7 @@
 #include "outside/Boites.h"
 #include "outside/Plateau.h"
 #include "patients/windows/FrmPatient.h"
+#include "settings/windows/FrmConfOrdo.h"
 #include "startup/windows/FrmChoixBase.h"
 #include "startup/windows/FrmDepart.h"
 
@@ -47,7 +48,7 @@ startup::Ecrans Application::Ecrans()
 {
     return {.PoliceFenetre = QApplication::font().family(),
             .MontreChoixBase = [this](int rang) { return MontreChoixBase(rang); },
-            .ChargeConfOrdo = {},
+            .ChargeConfOrdo = [this] { fenetres_.Donne<settings::FrmConfOrdo>(); },
             .Minimise = [this] { fenetres_.Donne<startup::FrmDepart>().Reduit(); },
             .ChargeFenetres = [this] { ChargeFenetres(); }};
 }

@@ -1,0 +1,45 @@
+#include "page/Mesure.h"
+#include "page/Remplacement.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TestRemplacement : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unePoliceServie_data();
+    void unePoliceServie();
+    void unePoliceInventee();
+};
+
+// The families that a fresh machine has, and those that others with the same widths stand for there.
+void TestRemplacement::unePoliceServie_data()
+{
+    QTest::addColumn<QString>("famille");
+    for (const char* famille : {"Arial", "arial", "Times New Roman", "Courier New", "Helvetica", "Courier",
+                                "Liberation Sans", "Verdana", "Arial Narrow"}) {
+        QTest::newRow(famille) << QString::fromLatin1(famille);
+    }
+}
+
+void TestRemplacement::unePoliceServie()
+{
+    QFETCH(QString, famille);
+    QCOMPARE(page::PoliceDeRemplacement(famille), QString());
+}
+
+void TestRemplacement::unePoliceInventee()
+{
+    const QString remplacante = page::PoliceDeRemplacement(u"Police Inventée 7"_s);
+    QVERIFY(!remplacante.isEmpty());
+    QCOMPARE(page::PoliceDeRemplacement(remplacante), QString());
+    // what is named is what prints
+    QCOMPARE(page::MesureLargeur(u"Ordonnance"_s, {.Nom = u"Police Inventée 7"_s}),
+             page::MesureLargeur(u"Ordonnance"_s, {.Nom = remplacante}));
+}
+
+QTEST_MAIN(TestRemplacement)
+#include "test_remplacement.moc"
