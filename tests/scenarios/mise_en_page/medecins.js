@@ -1,0 +1,25 @@
+// The designer shows the doctor's own layout, after each change of doctor.
+installer();
+clic("FrmDepart.CmdMedecins");
+clic("FrmMedecins.CmdNouveau");
+repondre("Dr durand");
+clic("FrmMedecins.CmdQuitter");
+const data = valeur("CheminTravail");
+ecrire(data + "/DR NEIBRE/Marges.cfg", "10,4,10,12.5,95,160,71,101,2.5,1,2,3,4\r\n");
+ecrire(data + "/DR NEIBRE/Options.cfg", lire(data + "/DR NEIBRE/Options.cfg").split(",").map((champ, rang) => rang === 22 ? "1" : champ).join(","));
+vider(data + "/DR DURAND/Ordo.mdb", "Misenpage");
+vider(data + "/DR DURAND/Ordo.mdb", "Certificat");
+choisir("FrmDepart.CboListeMed", 0);
+egal(texte("FrmConfOrdo.TxtM"), "12,5", "rechargée cachée");
+egal([coche("FrmConfOrdo.ChKSLP"), texte("FrmConfOrdo.TxtSLP")], [1, "2,5"], "sa hauteur");
+clic("FrmDepart.CmdOptions");
+clic("FrmOptions.CmdMEP");
+egal(texte("FrmConfOrdo.CboM"), "95", "une marge entre deux pas se montre");
+egal(["TxtL", "TxtE", "TxtG", "TxtHD", "TxtGD", "TxtHddn", "TxtGddn"].map(nom => texte("FrmConfOrdo." + nom)), ["160", "71", "101", "1", "2", "3", "4"], "ses marges");
+faux(visible("FrmConfOrdo.LblModifie"), "rien à enregistrer");
+clic("FrmConfOrdo.CmdRetour");
+clic("FrmOptions.CmdAnnule");
+choisir("FrmDepart.CboListeMed", 1);
+egal(texte("FrmConfOrdo.TxtM"), "20", "l'autre médecin a la sienne");
+egal([coche("FrmConfOrdo.ChKSLP"), texte("FrmConfOrdo.TxtSLP")], [0, ""], "et pas de hauteur");
+egal(valeur("PoliceCertif"), "Arial", "sans rangée, la police des certificats est celle de leur texte");

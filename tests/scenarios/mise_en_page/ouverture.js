@@ -1,0 +1,44 @@
+// The layout designer opens from the options, shows what is stored, and goes back to them.
+installer();
+clic("FrmDepart.CmdOptions");
+clic("FrmOptions.CmdMEP");
+egal(titre("FrmConfOrdo"), "   Mise enpage de l'ordonnance", "le titre");
+faux(ouverte("FrmOptions"), "les options attendent cachées");
+egal(lignes("FrmConfOrdo.CboInt"), ["1", "2", "3", "4"], "les sauts de lignes");
+egal(texte("FrmConfOrdo.CboInt"), "2", "celui des réglages");
+egal(lignes("FrmConfOrdo.CboM"), ["60", "70", "80", "90", "100", "110", "120", "130", "140", "150"], "les marges hautes");
+egal(texte("FrmConfOrdo.CboM"), "100", "celle des réglages");
+const champs = ["TxtM", "TxtL", "TxtE", "TxtG", "TxtHD", "TxtGD", "TxtHddn", "TxtGddn", "TxtLF", "TxtHF", "TxtSLP"];
+egal(champs.map(nom => texte("FrmConfOrdo." + nom)), ["20", "170", "70", "100", "0", "0", "0", "0", "210", "297", ""], "les textes");
+egal([coche("FrmConfOrdo.ChkS"), coche("FrmConfOrdo.ChKSLP")], [0, 0], "les cases");
+faux(actif("FrmConfOrdo.TxtSLP"), "pas de hauteur à soi");
+egal(texte("FrmConfOrdo.Txt(0)"), "    BIRODOGYL cp pelliculé : B/10", "l'exemple de médicament");
+egal(texte("FrmConfOrdo.Txt(1)"), "    1 comprimé matin , midi et soir", "l'exemple de posologie");
+egal([texte("FrmConfOrdo.LblMed(0)"), texte("FrmConfOrdo.LblMed(1)")], ["Arial(G)", "Arial()"], "les polices");
+egal(texte("FrmConfOrdo.LblDates"), "Lorsque les marges  d'impression de la date du jour ou de la date de naissance / Age sont fixées à 0, la date du jour ou la date de naissance s'impriment au dessous du nom.", "la règle des dates");
+egal(valeur("ConfOrdoActive"), 1, "la fenêtre est active");
+faux(visible("FrmConfOrdo.LblModifie"), "rien à enregistrer");
+egal(feuille("FrmConfOrdo.PctMeP").map(item => item.texte), ["BIRODOGYL cp pelliculé : B/10", "1 comprimé matin, midi et soir",
+  "EFFERALGAN CODEINE cp efferv séc : 2T/8", "2 comprimés matin, midi et soir"], "l'exemple");
+vrai(feuille("FrmConfOrdo.PctFeuille").length > 6, "toute la feuille");
+capture("FrmConfOrdo");
+
+fermer("FrmConfOrdo");
+touche("FrmConfOrdo", "Echap");
+vrai(ouverte("FrmConfOrdo"), "on ne sort que par Retour");
+saisir("FrmConfOrdo.TxtM", "33");
+const gauche = () => feuille("FrmConfOrdo.PctFeuille").filter(item => item.texte === "BIRODOGYL cp pelliculé : B/10")[0].x;
+proche(gauche(), 33, 0.01, "la feuille suit la frappe");
+vrai(visible("FrmConfOrdo.LblModifie"), "ce n'est pas enregistré");
+egal(valeur("MargeGaucheOrdo"), 20, "et rien n'a changé");
+clic("FrmConfOrdo.CmdRetour");
+faux(ouverte("FrmConfOrdo"), "refermée");
+vrai(ouverte("FrmOptions"), "de retour aux options");
+egal(valeur("ConfOrdoActive"), 0, "plus active");
+clic("FrmOptions.CmdMEP");
+egal(texte("FrmConfOrdo.TxtM"), "20", "ce qui n'est pas enregistré est oublié");
+faux(visible("FrmConfOrdo.LblModifie"), "rien à enregistrer");
+clic("FrmConfOrdo.CmdRetour");
+clic("FrmOptions.CmdAnnule");
+vrai(ouverte("FrmDepart"), "tout est refermé");
+faux(ouverte("FrmOptions"), "les options aussi");
