@@ -32,20 +32,23 @@ bool PrendQuantite(Composition& composition, Choix& choix, CasPosologie cas, con
     return true;
 }
 
-void EcritPoso(Composition& composition, Choix& choix, const DemandeDeQuantite& demande)
+/// The moments are worded while the quantities are emptied: without a quantity given the text stays that
+/// the doctor had.
+void Recompose(Composition& composition, Choix& choix, const DemandeDeQuantite& demande)
 {
-    const CasPosologie cas = CasDe(composition.CboP, choix.DernierCboP);
+    const int dernier = choix.DernierCboP;
+    const QString avant = composition.TxtPoso;
+    const CasPosologie cas = CasDe(composition.CboP, dernier);
     if (cas == CasPosologie::Moments) {
         composition.QuantitesActives = true;
     } else {
         RetireQuantites(composition, choix);
     }
     if (DemandeQuantite(cas) && !PrendQuantite(composition, choix, cas, demande)) {
+        composition.TxtPoso = avant;
         return;
     }
-    const QString phrase = PhrasePosologie(cas, composition.CboP, choix.TexteQuantite);
-    const bool entiere = cas == CasPosologie::Besoin || cas == CasPosologie::Libre;
-    composition.TxtPoso = entiere ? phrase : CoupeVirgule(phrase);
+    composition.TxtPoso = EcritPoso(composition.CboP, dernier, choix.TexteQuantite);
 }
 
 } // namespace
@@ -62,7 +65,7 @@ void ChangeCboP(Composition& composition, Choix& choix, int indice, const QStrin
 {
     composition.CboP[size_t(indice)] = texte;
     choix.DernierCboP = static_cast<qint16>(indice);
-    EcritPoso(composition, choix, demande);
+    Recompose(composition, choix, demande);
 }
 
 } // namespace medication

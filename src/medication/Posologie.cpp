@@ -164,19 +164,21 @@ bool DemandeQuantite(CasPosologie cas)
     return cas == CasPosologie::DemandeBesoin || cas == CasPosologie::DemandeLibre;
 }
 
-QString PhrasePosologie(CasPosologie cas, const ChoixPosologie& choix, const QString& quantite)
+QString EcritPoso(const ChoixPosologie& choix, int dernierCboP, const QString& texteQuantite)
 {
-    switch (cas) {
+    switch (CasDe(choix, dernierCboP)) {
     case CasPosologie::DemandeBesoin:
+        return CoupeVirgule(PhraseBesoin(choix, texteQuantite));
     case CasPosologie::Besoin:
-        return PhraseBesoin(choix, quantite);
+        return PhraseBesoin(choix, texteQuantite);
     case CasPosologie::DemandeLibre:
+        return CoupeVirgule(PhraseLibre(choix, texteQuantite));
     case CasPosologie::Libre:
-        return PhraseLibre(choix, quantite);
+        return PhraseLibre(choix, texteQuantite);
     case CasPosologie::Moments:
         break;
     }
-    return PhraseMoments(choix);
+    return CoupeVirgule(PhraseMoments(choix));
 }
 
 QString CoupeVirgule(const QString& texte)

@@ -36,8 +36,10 @@ CasPosologie CasDe(const ChoixPosologie& choix, int dernierCboP);
 /// True for the two kinds that ask for the quantity.
 bool DemandeQuantite(CasPosologie cas);
 
-/// The sentence of a kind, its blanks and its end comma as they come. `quantite` counts without moments only.
-QString PhrasePosologie(CasPosologie cas, const ChoixPosologie& choix, const QString& quantite);
+/// The sentence of the boxes when `dernierCboP`, 0 to 7, is the one that last changed. Its end comma is cut,
+/// but not where the sentence is recomposed with the quantity known. `texteQuantite` is the quantity given
+/// for "en cas de besoin," or "n'importe quand"; the other sentences do without.
+QString EcritPoso(const ChoixPosologie& choix, int dernierCboP, const QString& texteQuantite);
 
 /// A text that ends in a comma, blanks apart: trimmed and without it; any other text as it is.
 QString CoupeVirgule(const QString& texte);
