@@ -9,6 +9,9 @@ namespace medication {
 /// No tree node is selected. A selected node number 100 reads the same.
 constexpr int kAucunNoeud = 100;
 
+/// The blanks that F4 puts behind the name of a medication.
+constexpr int kBlancsF4 = 30;
+
 /// What the picker has in hand.
 struct Choix
 {

@@ -16,8 +16,6 @@ namespace medication {
 
 namespace {
 
-constexpr int kBlancsF4 = 30;
-
 std::optional<Zone> DemandeZone(application::Contexte& contexte, outside::Genre genre)
 {
     using outside::Bouton;

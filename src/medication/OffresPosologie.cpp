@@ -1,21 +1,62 @@
 #include "medication/OffresPosologie.h"
 
 #include "common/CleDeTri.h"
+#include "medication/Choix.h"
+#include "page/MarqueursTitre.h"
 #include "storage/Base.h"
 
 #include <QHash>
+#include <QTextDocument>
 #include <algorithm>
 
 namespace medication {
 
 namespace {
 
-const QLatin1String
-    kSelection("select Posologie, count(*) from OrdoEnr "
-               "where TitreLigne collate nocase in (?, ?) group by Posologie "
-               "union all select Posologie, 1 from BddMed where Nom collate nocase in (?, ?) "
-               "union all select Posologie, 1 from Biblio where Titre collate nocase in (?, ?) "
-               "union all select Posologie, 1 from Vidal where CIP = ?");
+constexpr qsizetype kLongueurMontree = 300; // wider than any list
+constexpr qsizetype kLongueurBulle = 1500;
+
+const QString& BlancsF4()
+{
+    static const QString blancs(kBlancsF4, u' ');
+    return blancs;
+}
+
+/// The titles of one medication: as it stands and by its name, each with or without the "#" of a title. SQL
+/// takes the case of plain letters only, so that a name with accents comes in both.
+QStringList TitresDe(const QString& titre, const QString& nom)
+{
+    QStringList titres = {titre};
+    for (const QString& texte : {nom, nom.toUpper(), nom.toLower(), common::Replie(nom)}) {
+        titres << texte << u'#' + texte << texte + u'#' << u'#' + texte + u'#';
+    }
+    titres.removeDuplicates();
+    return titres;
+}
+
+/// The statement that reads the posologies of so many titles.
+QString Selection(qsizetype titres)
+{
+    const QString parmi = QStringLiteral(" collate nocase in (%1)")
+                              .arg(QStringList(titres, QStringLiteral("?")).join(QLatin1String(", ")));
+    return QStringLiteral("select Posologie, count(*) from OrdoEnr where TitreLigne%1 group by Posologie "
+                          "union all select Posologie, 1 from BddMed where Nom%1 "
+                          "union all select Posologie, 1 from Biblio where Titre%1 "
+                          "union all select Posologie, count(*) from OrdoEnr where TitreLigne collate nocase "
+                          ">= ? and TitreLigne collate nocase < ? group by Posologie "
+                          "union all select Posologie, 1 from Vidal where CIP = ?")
+        .arg(parmi);
+}
+
+QVariantList Valeurs(const QStringList& titres, const QString& nom, const QString& cip)
+{
+    QVariantList valeurs;
+    for (int table = 0; table < 3; ++table) {
+        valeurs.append(QVariantList(titres.begin(), titres.end()));
+    }
+    valeurs << nom + BlancsF4() << nom + BlancsF4().chopped(1) + u'!'; // whatever follows the blanks
+    return valeurs << (cip.isEmpty() ? QVariant() : QVariant(cip));
+}
 
 QString Plie(const QString& texte)
 {
@@ -35,14 +76,14 @@ bool Precede(const Offre& a, const Offre& b)
 
 QList<Offre> LitOffres(storage::Base& base, const QString& titre, const QString& cip)
 {
-    const QString nom = titre.trimmed();
-    const QString sansAccents = common::Replie(nom);
-    const QVariant pack = cip.isEmpty() ? QVariant() : QVariant(cip);
+    const QString entier = titre.trimmed().section(BlancsF4(), 0, 0);
+    const QString nom = page::LitTitre(entier).Texte.trimmed();
+    const QStringList titres = nom.isEmpty() ? QStringList() : TitresDe(entier, nom);
     QHash<QString, int> fois;
-    base.Parcourt(kSelection, {nom, sansAccents, nom, sansAccents, nom, sansAccents, pack},
-                  [&](const storage::Rangee& rangee) {
-                      fois[rangee.Texte(0).trimmed()] += static_cast<int>(rangee.Entier(1));
-                  });
+    base.Parcourt(Selection(titres.size()), Valeurs(titres, nom, cip), [&](const storage::Rangee& rangee) {
+        const QString texte = rangee.Texte(0).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        fois[texte.trimmed()] += static_cast<int>(rangee.Entier(1));
+    });
     fois.remove(QString());
     QList<Offre> offres;
     offres.reserve(fois.size());
@@ -66,9 +107,9 @@ QVariant OffresPosologie::data(const QModelIndex& index, int role) const
     const Offre& offre = offres_[rangs_[index.row()]];
     switch (role) {
     case Qt::DisplayRole:
-        return QString(offre.Texte).replace(u'\n', u' ');
+        return offre.Texte.left(kLongueurMontree).replace(u'\n', u' ');
     case Qt::ToolTipRole:
-        return offre.Texte;
+        return Qt::convertFromPlainText(offre.Texte.left(kLongueurBulle), Qt::WhiteSpaceNormal);
     case Qt::UserRole:
         return offre.Fois;
     default:

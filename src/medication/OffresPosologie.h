@@ -18,12 +18,13 @@ struct Offre
 };
 
 /// The posologies stored for a medication, the most frequent first: in the memorised prescriptions and in
-/// the pharmacy by `titre`, blanks around it, case and accents apart, and for the pack `cip`, empty for none.
-/// Blank ones are left out. Throws `Erreur`.
+/// the pharmacy by `titre`, and for the pack `cip`, empty for none. Case, the "#" of a title and what follows
+/// the blanks of F4 count for nothing; a title with accents is found without them as well. Blank posologies
+/// are left out. Throws `Erreur`.
 QList<Offre> LitOffres(storage::Base& base, const QString& titre, const QString& cip);
 
-/// The posologies that match what is being typed. Qt::DisplayRole gives one on one line, Qt::UserRole how
-/// many times it was written, Qt::ToolTipRole the whole of it.
+/// The posologies that match what is being typed. Qt::DisplayRole gives one on one line, of a long
+/// one the beginning, Qt::UserRole how many times it was written, Qt::ToolTipRole more of it.
 class OffresPosologie : public QAbstractListModel
 {
     Q_OBJECT

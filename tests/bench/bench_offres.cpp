@@ -105,6 +105,24 @@ void PremiereTouche(benchmark::State& state)
     }
 }
 
+/// One keystroke when every line is of one medication, in 5 000 posologies.
+void ToucheUnSeulNom(benchmark::State& state)
+{
+    support::BaseDeTest cabinet;
+    cabinet.Medoc().Execute(
+        QStringLiteral("with recursive n(i) as (select 0 union all select i + 1 from n where i + 1 < ?) "
+                       "insert into OrdoEnr select 'Ordonnance ' || (i / 6), ?, "
+                       "(i % 5000) || ' comprimé(s) le matin, 1 le soir', 1, '*', '0', 1, 1 from n"),
+        {kLignes, Medicament()});
+    medication::OffresPosologie offres;
+    offres.Remplit(medication::LitOffres(cabinet.Medoc(), Medicament(), {}));
+    for ([[maybe_unused]] auto _ : state) {
+        offres.Restreint(QStringLiteral("1 comprime"));
+        benchmark::DoNotOptimize(offres.index(0, 0).data());
+    }
+}
+
+BENCHMARK(ToucheUnSeulNom)->Unit(benchmark::kMillisecond);
 BENCHMARK(Lecture)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(Touche)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(PremiereTouche)->Unit(benchmark::kMillisecond);

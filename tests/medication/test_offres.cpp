@@ -75,6 +75,69 @@ private Q_SLOTS:
         QCOMPARE(Lues(u"' or '1' = '1"), QStringList());
     }
 
+    void ATitleIsFoundByItsName_data()
+    {
+        QTest::addColumn<QString>("titre");
+        const QString f4(30, u' ');
+        for (const QString& titre :
+             {QStringLiteral("AMLOR"), QStringLiteral("#AMLOR"), QStringLiteral("AMLOR#"),
+              QStringLiteral(" #amlor# "), QStringLiteral("AMLOR%1").arg(f4),
+              QStringLiteral("AMLOR%1NSP").arg(f4), QStringLiteral("#AMLOR%1x#").arg(f4)}) {
+            QTest::newRow(qPrintable(titre.simplified())) << titre;
+        }
+    }
+
+    void ATitleIsFoundByItsName()
+    {
+        QFETCH(QString, titre);
+        Ecrit(u"AMLOR", u"a");
+        Ecrit(u"#Amlor", u"a");
+        Ecrit(u"AMLOR#", u"b");
+        Ecrit(u"#AMLOR#", u"c");
+        Ecrit(QStringLiteral("AMLOR%1NSP").arg(QString(30, u' ')), u"d");
+        Ecrit(u"AMLORIDINE", u"z");
+        Ecrit(u"AMLOR 5 MG", u"z");
+        Ecrit(u"##", u"z");
+        QCOMPARE(Textes(LitOffres(base_->Medoc(), titre, {})),
+                 QStringLiteral("a x2|b x1|c x1|d x1").split(u'|'));
+    }
+
+    void ALineJumpHasNoOffers()
+    {
+        Ecrit(u"#", u"a");
+        Ecrit(u"##", u"b");
+        QCOMPARE(Lues(u"#"), QStringList());
+        QCOMPARE(Lues(u" ## "), QStringList());
+        QCOMPARE(Lues(QString(40, u' ') + u'x'), QStringList());
+    }
+
+    void CapitalsWithAccentsCountForNothing()
+    {
+        Ecrit(u"PARACÉTAMOL", u"1");
+        Ecrit(u"Bétadine", u"2");
+        QCOMPARE(Lues(u"Paracétamol"), QStringList{QStringLiteral("1 x1")});
+        QCOMPARE(Lues(u"BÉTADINE"), QStringList{QStringLiteral("2 x1")});
+    }
+
+    void LineEndsAreOne()
+    {
+        Ecrit(u"AMLOR", u"1 matin\r\n1 soir\r\n");
+        Ecrit(u"AMLOR", u"1 matin\n1 soir");
+        QCOMPARE(Lues(u"AMLOR"), QStringList{QStringLiteral("1 matin\n1 soir x2")});
+    }
+
+    void ALongOneShowsItsBeginningAndComesWhole()
+    {
+        const QString longue = QStringLiteral("<b>1</b> ") + QString(10000, u'x');
+        OffresPosologie offres;
+        offres.Remplit({{longue, 1}});
+        offres.Restreint(QStringLiteral("1"));
+        QVERIFY(longue.startsWith(offres.index(0, 0).data().toString()));
+        QVERIFY(offres.index(0, 0).data().toString().size() < 1000);
+        QVERIFY(offres.index(0, 0).data(Qt::ToolTipRole).toString().contains(QLatin1String("&lt;b&gt;")));
+        QCOMPARE(offres.Texte(0), longue);
+    }
+
     void BlankPosologiesAreLeftOut()
     {
         Ecrit(u"DOLIPRANE", u"");
@@ -193,16 +256,15 @@ private Q_SLOTS:
     void cleanup() { base_.reset(); }
 
 private:
-    void Ecrit(const char16_t* titre, const char16_t* posologie)
+    void Ecrit(QStringView titre, const char16_t* posologie)
     {
         support::AjouteLigne(base_->Medoc(), QStringLiteral("OrdoEnr"),
-                             {QStringLiteral("modèle"), QString::fromUtf16(titre),
-                              QString::fromUtf16(posologie), 1, QStringLiteral("*"), QStringLiteral("0"), 1,
-                              1});
+                             {QStringLiteral("modèle"), titre.toString(), QString::fromUtf16(posologie), 1,
+                              QStringLiteral("*"), QStringLiteral("0"), 1, 1});
     }
-    QStringList Lues(const char16_t* titre, const char16_t* cip = u"")
+    QStringList Lues(QStringView titre, const char16_t* cip = u"")
     {
-        return Textes(LitOffres(base_->Medoc(), QString::fromUtf16(titre), QString::fromUtf16(cip)));
+        return Textes(LitOffres(base_->Medoc(), titre.toString(), QString::fromUtf16(cip)));
     }
 
     std::unique_ptr<support::BaseDeTest> base_;
@@ -219,7 +281,7 @@ void TestOffres::TheIndexesServeTheReading()
     base_->Medoc().PoseCrochet({});
     QStringList chemins;
     base_->Medoc().Parcourt(QStringLiteral("explain query plan ") + instruction,
-                            QVariantList(7, QStringLiteral("x")),
+                            QVariantList(instruction.count(u'?'), QStringLiteral("x")),
                             [&](const storage::Rangee& rangee) { chemins.append(rangee.Texte(3)); });
     for (const char* index : {"OrdoEnrTitreLigne", "BddMedNom", "BiblioTitre", "VidalCIP"}) {
         QVERIFY2(!chemins.filter(QLatin1String(index)).isEmpty(), qPrintable(chemins.join(u'\n')));

@@ -17,6 +17,7 @@ ChampPosologie::ChampPosologie(QWidget* parent) : QPlainTextEdit(parent)
 
 void ChampPosologie::Remplace(const QString& texte)
 {
+    CacheOffres();
     if (toPlainText() == texte) {
         return;
     }

@@ -15,7 +15,7 @@ class ChampPosologie : public QPlainTextEdit
 public:
     explicit ChampPosologie(QWidget* parent);
 
-    /// Replaces the whole text in one step that the doctor can undo.
+    /// Replaces the whole text in one step that the doctor can undo. Closes the list.
     void Remplace(const QString& texte);
 
     void PoseOffres(ListeOffres* liste) { liste_ = liste; }

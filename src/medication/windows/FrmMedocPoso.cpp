@@ -39,7 +39,7 @@ void FrmMedoc::ComposePosologie()
     const Saisie saisie = Boites();
     const auto reponse = fenetres_.Donne<FrmPoso>().Compose(saisie.TxtMedoc, saisie.TxtPoso, enregistrable);
     if (reponse.TxtPoso) {
-        c_.TxtPoso->setPlainText(*reponse.TxtPoso);
+        c_.TxtPoso->Remplace(*reponse.TxtPoso);
     }
     if (reponse.Etiquette == FrmPoso::Etiquette::Enregistre) {
         ModifieMedicament();

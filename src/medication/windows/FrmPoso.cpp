@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTextDocument>
 
 namespace medication {
 
@@ -39,7 +40,7 @@ FrmPoso::Reponse FrmPoso::Compose(const QString& nom, const QString& txtPoso, bo
     reponse_ = {};
     composition_ = CommencePosologie(txtPoso);
     lblNomMed_->setText(nom);
-    lblNomMed_->setToolTip(nom);
+    lblNomMed_->setToolTip(Qt::convertFromPlainText(nom));
     cmdEnregistrer_->setEnabled(enregistrable);
     txtPoso_->setPlainText(txtPoso);
     Montre();

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QPushButton>
+#include <QRandomGenerator>
 
 using medication::FrmPoso;
 
@@ -97,6 +98,43 @@ private Q_SLOTS:
         });
     }
 
+    void NoSequenceOfChoicesLosesWhatWasTyped()
+    {
+        ClicNoeud(2);
+        Dans([this](FrmPoso& f) {
+            auto* texte = f.findChild<QPlainTextEdit*>(QStringLiteral("TxtPoso"));
+            QRandomGenerator hasard(20261121);
+            for (int geste = 0; geste < 150; ++geste) {
+                QTest::keyClicks(texte, QStringLiteral("a la main %1").arg(geste));
+                const QString main = texte->toPlainText();
+                ChoisitAuHasard(hasard);
+                for (int i = 0; i < medication::kNbCboP; ++i) {
+                    QCOMPARE(Boite(i)->isEnabled(), !medication::EstQuantite(i) || !SansHeure());
+                }
+                for (int pas = 0; pas < 6 && texte->toPlainText() != main; ++pas) {
+                    QTest::keyClick(texte, Qt::Key_Z, Qt::ControlModifier);
+                }
+                QCOMPARE(texte->toPlainText(), main);
+            }
+            QTest::keyClick(&f, Qt::Key_Escape);
+        });
+    }
+
+    void WhatTheBoxHeldBeforeComesBack()
+    {
+        ClicNoeud(2);
+        auto* poso = Trouve<QPlainTextEdit>("TxtPoso");
+        QTest::keyClicks(poso, QStringLiteral("ma phrase "));
+        const QString avant = Poso();
+        Dans([this](FrmPoso& f) {
+            Tape(3, "4");
+            f.findChild<QPushButton*>(QStringLiteral("CmdQuitter"))->click();
+        });
+        QCOMPARE(Poso(), QStringLiteral("4  le soir"));
+        QTest::keyClick(poso, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(Poso(), avant);
+    }
+
     void AFailureToStoreStillAddsTheLine()
     {
         ClicNoeud(2);
@@ -126,6 +164,33 @@ private:
     QComboBox* Boite(int indice) const
     {
         return fenetres_->Presente<FrmPoso>()->findChild<QComboBox*>(QStringLiteral("CboP(%1)").arg(indice));
+    }
+    bool SansHeure() const
+    {
+        return Boite(medication::kRepas)->currentIndex() == 0 ||
+               Boite(medication::kRepas)->currentIndex() == 7;
+    }
+    /// A row, or a letter typed, in a box that takes it; a quantity asked for is given or refused.
+    void ChoisitAuHasard(QRandomGenerator& hasard)
+    {
+        QComboBox* boite = Boite(hasard.bounded(int(medication::kNbCboP)));
+        const int rang = hasard.bounded(boite->count());
+        if (!boite->isEnabled()) {
+            return;
+        }
+        if (hasard.bounded(4) == 0) {
+            QTest::keyClick(boite, Qt::Key_X);
+            return;
+        }
+        if (boite == Boite(medication::kRepas) && (rang == 0 || rang == 7)) {
+            const bool donnee = hasard.bounded(2) == 0;
+            monde_->Boites.AttendSaisie(rang == 0 ? medication::messages::QuantiteAuBesoin()
+                                                  : medication::messages::QuantiteAuMomentVoulu(),
+                                        donnee ? std::optional(QStringLiteral("2")) : std::nullopt,
+                                        QStringLiteral("1"));
+        }
+        boite->setCurrentIndex(rang);
+        Q_EMIT boite->textActivated(boite->currentText());
     }
     void Tape(int indice, const char* texte) const { QTest::keyClicks(Boite(indice), QLatin1String(texte)); }
 };
