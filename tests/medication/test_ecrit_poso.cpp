@@ -16,7 +16,7 @@ QStringList QuantitesVoulues()
 
 } // namespace
 
-class TestPosologie : public QObject
+class TestEcritPoso : public QObject
 {
     Q_OBJECT
 
@@ -204,5 +204,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPosologie)
-#include "test_posologie.moc"
+QTEST_GUILESS_MAIN(TestEcritPoso)
+#include "test_ecrit_poso.moc"
