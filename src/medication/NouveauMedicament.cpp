@@ -1,6 +1,7 @@
 #include "medication/NouveauMedicament.h"
 
 #include "application/Signaux.h"
+#include "common/Capitales.h"
 #include "drugbank/Banque.h"
 #include "medication/PharmaciePersonnelle.h"
 #include "medication/Pharmacies.h"
@@ -21,7 +22,7 @@ PharmaciePersonnelle Personnelle(application::Contexte& contexte)
 void AjouteTitre(application::Contexte& contexte, ListePersonnelle& liste, const Saisie& saisie)
 {
     const bool capitales = contexte.Dehors.Boites.Question(messages::EnMajuscules());
-    const QString titre = capitales ? saisie.TxtMedoc.toUpper() : saisie.TxtMedoc;
+    const QString titre = capitales ? common::EnCapitales(saisie.TxtMedoc) : saisie.TxtMedoc;
     Personnelle(contexte).Ajoute({titre, saisie.TxtPoso});
     liste.Ajoute(saisie.TxtMedoc, titre);
 }

@@ -1,5 +1,6 @@
 #include "medication/PharmacieLocale.h"
 
+#include "common/Capitales.h"
 #include "common/Tolere.h"
 #include "medication/Tri.h"
 #include "medication/messages.h"
@@ -127,7 +128,7 @@ void PharmacieLocale::Ajoute(const Saisie& saisie)
     const qint64 numero = NumeroLibre(base);
     ligne.AddNew();
     ligne.Ecris(kNum, numero);
-    EcritLigne(ligne, {saisie.TxtMedoc.toUpper(), saisie.TxtPoso});
+    EcritLigne(ligne, {common::EnCapitales(saisie.TxtMedoc), saisie.TxtPoso});
     transaction.Valide();
 }
 

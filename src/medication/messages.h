@@ -49,6 +49,11 @@ inline QString EnMajuscules()
     return QStringLiteral("Enregistrer le texte en majuscules ?");
 }
 
+inline QString Enregistre(const QString& nom)
+{
+    return nom + QStringLiteral("\nest enregistré dans la pharmacie.");
+}
+
 inline QString CommentSupprimer()
 {
     return QStringLiteral("Pour supprimer une entrée de la Pharmacie Personnelle,\n"

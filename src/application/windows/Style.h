@@ -9,6 +9,7 @@
 class QAction;
 class QApplication;
 class QLabel;
+class QLineEdit;
 class QMenu;
 class QTabBar;
 class QToolButton;
@@ -129,6 +130,9 @@ void OrdreTab(const QList<QWidget*>& controles);
 /// A key that brings the focus to a control without a letter of its own, while the control is shown; its
 /// tool tip names the key after its accessible name.
 void RaccourciVers(QWidget* controle, const QString& touche);
+
+/// What is pasted into a line of text stays one line: a line break becomes a blank, one at the end goes.
+void GardeUneLigne(QLineEdit* champ);
 
 /// Accessible name and tool tip in one call; `touche` ("F5") is shown in the tip.
 void Nomme(QWidget* controle, const QString& nom, const QString& touche = {});

@@ -4,7 +4,9 @@
 #include <QFrame>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
@@ -251,6 +253,17 @@ void RaccourciVers(QWidget* controle, const QString& touche)
     QObject::connect(new QShortcut(QKeySequence(touche), controle), &QShortcut::activated, controle,
                      [controle] { controle->setFocus(Qt::ShortcutFocusReason); });
     Nomme(controle, controle->accessibleName(), touche);
+}
+
+void GardeUneLigne(QLineEdit* champ)
+{
+    QObject::connect(champ, &QLineEdit::textEdited, champ, [champ](QString texte) {
+        static const QRegularExpression kALaFin(QStringLiteral("[\\r\\n\u2028\u2029]+$"));
+        static const QRegularExpression kSauts(QStringLiteral("[\\r\\n\u2028\u2029]+"));
+        if (texte.contains(kSauts)) {
+            champ->setText(texte.remove(kALaFin).replace(kSauts, QStringLiteral(" ")));
+        }
+    });
 }
 
 void Nomme(QWidget* controle, const QString& nom, const QString& touche)

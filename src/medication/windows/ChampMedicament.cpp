@@ -1,5 +1,6 @@
 #include "medication/windows/ChampMedicament.h"
 
+#include "application/windows/Style.h"
 #include "medication/Commandes.h"
 
 #include <QKeyEvent>
@@ -9,6 +10,7 @@ namespace medication {
 ChampMedicament::ChampMedicament(QWidget* parent) : QLineEdit(parent)
 {
     setMouseTracking(true);
+    application::style::GardeUneLigne(this);
 }
 
 void ChampMedicament::keyPressEvent(QKeyEvent* event)

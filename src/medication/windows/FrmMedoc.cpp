@@ -2,7 +2,6 @@
 
 #include "application/Signaux.h"
 #include "application/windows/Style.h"
-#include "common/Erreur.h"
 #include "common/Tolere.h"
 #include "drugbank/Banque.h"
 #include "drugbank/windows/FrmIAM.h"
@@ -11,7 +10,7 @@
 #include "medication/windows/ChampMedicament.h"
 #include "medication/windows/ChampPosologie.h"
 #include "medication/windows/ListeLignes.h"
-#include "outside/Boites.h"
+#include "outside/Tente.h"
 #include "page/Mesure.h"
 #include "settings/Reglages.h"
 #include "startup/Chemins.h"
@@ -57,6 +56,11 @@ void FrmMedoc::RelieRecherche()
     c_.TV->installEventFilter(this);
     c_.TV->viewport()->installEventFilter(this);
     connect(c_.TV, &QTreeView::clicked, this, [this](const QModelIndex& index) { ClicNoeud(index.row()); });
+    connect(c_.TV->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (focusWidget() == c_.TV) { // by the arrow keys: the boxes follow, the focus stays
+            LitNoeud(NoeudSelectionne());
+        }
+    });
     connect(c_.TV, &QTreeView::doubleClicked, this, [this] {
         if (contexte_.Ordonnance.ChkALD == 0) {
             Ajoute(Zone::Un);
@@ -130,17 +134,6 @@ void FrmMedoc::RelieSignaux()
     connect(&contexte_.Signaux, &application::Signaux::MedecinChange, this, &FrmMedoc::VideArbre);
 }
 
-template <typename Action> bool FrmMedoc::Tente(Action&& action)
-{
-    try {
-        action();
-        return true;
-    } catch (const common::Erreur& erreur) {
-        contexte_.Dehors.Boites.Stop(erreur.Phrase());
-        return false;
-    }
-}
-
 void FrmMedoc::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
@@ -165,7 +158,7 @@ void FrmMedoc::Active()
 void FrmMedoc::ChargeMedicaments()
 {
     c_.CmdModifier->setEnabled(false);
-    Tente([this] {
+    outside::Tente(contexte_.Dehors.Boites, [this] {
         medication::ChargeMedicaments(contexte_.Choix, pharmacies_.EnService(), arbre_,
                                       c_.TxtCherche->text());
         contexte_.Choix.BaseChangee = 2;
@@ -228,21 +221,30 @@ void FrmMedoc::PresseArbre()
 
 void FrmMedoc::ClicNoeud(int rang)
 {
-    Tente([&] {
-        const auto lue = ChoisitNoeud(contexte_.Choix, pharmacies_.EnService(), arbre_.Lis(rang), rang);
-        if (lue) {
-            RemplitBoites(*lue);
-            c_.CmdModifier->setEnabled(true);
-            c_.TxtMedoc->setFocus();
-            c_.TxtMedoc->end(false);
-        }
+    if (LitNoeud(rang)) {
+        c_.TxtMedoc->setFocus();
+        c_.TxtMedoc->end(false);
+    }
+}
+
+bool FrmMedoc::LitNoeud(int rang)
+{
+    std::optional<Saisie> lue;
+    outside::Tente(contexte_.Dehors.Boites, [&] {
+        lue = ChoisitNoeud(contexte_.Choix, pharmacies_.EnService(), arbre_.Lis(rang), rang);
     });
+    if (lue) {
+        RemplitBoites(*lue);
+        c_.CmdModifier->setEnabled(true);
+    }
+    return lue.has_value();
 }
 
 void FrmMedoc::ModifieMedicament()
 {
     if (NoeudSelectionne() >= 0) {
-        Tente([this] { EnregistreSaisie(contexte_, pharmacies_.EnService(), arbre_, Boites()); });
+        outside::Tente(contexte_.Dehors.Boites,
+                       [this] { EnregistreSaisie(contexte_, pharmacies_.EnService(), arbre_, Boites()); });
     }
 }
 
@@ -251,7 +253,7 @@ void FrmMedoc::RetireMedicament()
     const int rang = NoeudSelectionne();
     if (const Noeud* noeud = arbre_.Lis(rang)) {
         const Noeud choisi = *noeud;
-        Tente([&] {
+        outside::Tente(contexte_.Dehors.Boites, [&] {
             if (pharmacies_.EnService().Retire(choisi, choisi.Texte, contexte_.Dehors.Boites)) {
                 arbre_.Retire(rang);
                 c_.TV->clearSelection();

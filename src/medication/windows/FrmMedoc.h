@@ -35,8 +35,6 @@ private:
     void RelieSignaux();
     void ReliePerso();
 
-    /// Runs what touches the stored data; a failure is told and the window goes on.
-    template <typename Action> bool Tente(Action&& action);
     /// What every showing of the window does.
     void Active();
     void ConfigureModeBase();
@@ -46,6 +44,8 @@ private:
     void RechercheChange();
     void PresseArbre();
     void ClicNoeud(int rang);
+    /// Shows what a node holds in both boxes. False when there is nothing to show.
+    bool LitNoeud(int rang);
     void ModifieMedicament();
     void RetireMedicament();
     void MontreNotes();
@@ -58,6 +58,8 @@ private:
     /// A change of the search text in the bank mode: only a blank one shows something at once.
     void CherchePlusTard();
     void ChoisitFiltre(int filtre);
+    /// `FrmNouveauM`, then the window is active again.
+    void OuvreNouveau();
     /// The menu of a pack prescribed before; `point` in the tree.
     void ProposeDemarque(const QPoint& point);
     void DemarqueNoeud();

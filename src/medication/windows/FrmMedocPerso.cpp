@@ -28,10 +28,10 @@ constexpr int kLettresDeBanque = 3; // the shortest text that the bank is asked 
 
 void FrmMedoc::ReliePerso()
 {
-    connect(c_.CmdNouveau, &QPushButton::clicked, this, [this] { fenetres_.OuvreModale<FrmNouveauM>(); });
+    connect(c_.CmdNouveau, &QPushButton::clicked, this, &FrmMedoc::OuvreNouveau);
     connect(c_.CmdPerso, &QPushButton::clicked, this, [this] {
         fenetres_.Donne<FrmNouveauM>().NommeBibliotheque();
-        fenetres_.OuvreModale<FrmNouveauM>();
+        OuvreNouveau();
     });
     connect(c_.PctCherch, &QToolButton::clicked, this, &FrmMedoc::ChargeMedicaments);
     connect(c_.mnuDemark, &QAction::triggered, this, &FrmMedoc::DemarqueNoeud);
@@ -48,6 +48,12 @@ void FrmMedoc::ReliePerso()
         connect(entree, &QAction::triggered, this, [this, entree] { ChoisitFiltre(entree->data().toInt()); });
     }
     connect(&contexte_.Signaux, &application::Signaux::PharmacieChange, this, &FrmMedoc::ChargeMedicaments);
+}
+
+void FrmMedoc::OuvreNouveau()
+{
+    fenetres_.OuvreModale<FrmNouveauM>();
+    Active();
 }
 
 bool FrmMedoc::ModeBanque() const

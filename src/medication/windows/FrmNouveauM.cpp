@@ -1,6 +1,7 @@
 #include "medication/windows/FrmNouveauM.h"
 
 #include "application/windows/Style.h"
+#include "application/windows/UnSeulClic.h"
 #include "drugbank/Banque.h"
 #include "medication/NouveauMedicament.h"
 #include "medication/messages.h"
@@ -70,6 +71,7 @@ QWidget* FrmNouveauM::FaitSaisie()
     QWidget* carte = style::Carte(this);
     txtNom_ = new QLineEdit(carte);
     txtNom_->setObjectName(QStringLiteral("TxtNom"));
+    style::GardeUneLigne(txtNom_);
     lblTitre_ =
         style::Titre(QStringLiteral("LblTitre"), QStringLiteral("&Nom du médicament    "), carte, txtNom_);
     txtPoso_ = new QPlainTextEdit(carte);
@@ -105,6 +107,9 @@ QWidget* FrmNouveauM::FaitListe()
 void FrmNouveauM::Branche()
 {
     connect(cmdOK_, &QPushButton::clicked, this, &FrmNouveauM::Enregistre);
+    auto* unSeul = new application::UnSeulClic(this);
+    cmdOK_->installEventFilter(unSeul);
+    installEventFilter(unSeul);
     connect(cmdAnnuler_, &QPushButton::clicked, this, &QDialog::reject);
     connect(cmdSupp_, &QPushButton::clicked, this,
             [this] { contexte_.Dehors.Boites.Information(messages::CommentSupprimer()); });
@@ -118,12 +123,12 @@ void FrmNouveauM::ConfigureModeBase()
     }
     lblPharma_->setText(QStringLiteral("P&HARMACIE  SCRIPTELLE"));
     lstP_->setAccessibleName(QStringLiteral("PHARMACIE  SCRIPTELLE"));
-    QLabel* renvoi = style::Legende(
+    renvoi_ = style::Legende(
         {}, QStringLiteral("Les médicaments enregistrés se trouvent dans la liste de la pharmacie."),
         lstP_->viewport());
-    renvoi->setWordWrap(true);
-    renvoi->setAlignment(Qt::AlignCenter);
-    (new QVBoxLayout(lstP_->viewport()))->addWidget(renvoi);
+    renvoi_->setWordWrap(true);
+    renvoi_->setAlignment(Qt::AlignCenter);
+    (new QVBoxLayout(lstP_->viewport()))->addWidget(renvoi_);
     lblAS_->hide();
     cmdSupp_->hide();
 }
@@ -146,6 +151,10 @@ void FrmNouveauM::Enregistre()
     if (fin == FinNouveau::VideSaisie) {
         txtNom_->clear();
         txtPoso_->clear();
+    } else if (fin == FinNouveau::GardeSaisie) {
+        const QString nom = fontMetrics().elidedText(txtNom_->text().trimmed(), Qt::ElideRight,
+                                                     renvoi_->contentsRect().width());
+        renvoi_->setText(messages::Enregistre(nom));
     }
     txtNom_->setFocus();
     txtNom_->selectAll();

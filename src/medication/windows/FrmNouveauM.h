@@ -44,6 +44,7 @@ private:
     ListePersonnelle liste_;
     QLabel* lblPharma_ = nullptr;
     QListView* lstP_ = nullptr;
+    QLabel* renvoi_ = nullptr; ///< where the medications of the local mode are
     QPushButton* cmdSupp_ = nullptr;
     QLabel* lblTitre_ = nullptr;
     QLineEdit* txtNom_ = nullptr;

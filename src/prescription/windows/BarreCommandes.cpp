@@ -1,9 +1,9 @@
 #include "prescription/windows/BarreCommandes.h"
 
 #include "application/windows/Style.h"
+#include "application/windows/UnSeulClic.h"
 
 #include <QBoxLayout>
-#include <QEvent>
 #include <QPushButton>
 
 namespace prescription {
@@ -55,13 +55,8 @@ QPushButton* BarreCommandes::CreeBouton(const Commande& commande, QWidget* carte
     }
     style::Nomme(bouton, commande.Bulle, commande.Touche.toString(QKeySequence::NativeText));
     connect(bouton, &QPushButton::clicked, this, [action = commande.Action] { action(); });
-    bouton->installEventFilter(this);
+    bouton->installEventFilter(new application::UnSeulClic(bouton)); // a sheet would be printed twice
     return bouton;
-}
-
-bool BarreCommandes::eventFilter(QObject* objet, QEvent* evenement)
-{
-    return evenement->type() == QEvent::MouseButtonDblClick || QWidget::eventFilter(objet, evenement);
 }
 
 QPushButton* BarreCommandes::BoutonDe(const QString& nom) const

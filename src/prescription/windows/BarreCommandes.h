@@ -22,10 +22,6 @@ public:
 
     QPushButton* BoutonDe(const QString& nom) const;
 
-protected:
-    /// The second click of a double click is not a second command: a sheet would be printed twice.
-    bool eventFilter(QObject* objet, QEvent* evenement) override;
-
 private:
     QPushButton* CreeBouton(const Commande& commande, QWidget* carte);
     void Ajoute(QBoxLayout* rangee, const QList<Commande>& commandes, QWidget* carte);

@@ -129,6 +129,23 @@ private Q_SLOTS:
         QCOMPARE(cherche->selectedText(), QStringLiteral("DOL"));
     }
 
+    void TheArrowKeysReadTheNodeTheyReach()
+    {
+        auto* arbre = Trouve<QTreeView>("TV");
+        ClicNoeud(0);
+        arbre->setFocus();
+        QTest::keyClick(arbre, Qt::Key_Down);
+        QCOMPARE(Texte("TxtMedoc"), QStringLiteral("DOLIPRANE 1000 MG"));
+        QCOMPARE(Poso(), QStringLiteral("1 comprimé matin* et soir"));
+        QCOMPARE(monde_->Etat.Choix.NoeudChoisi, 2);
+        QCOMPARE(Focus(), QStringLiteral("TV"));
+        Trouve<QPlainTextEdit>("TxtPoso")->setPlainText(QStringLiteral("2 cp"));
+        monde_->Boites.AttendInformation(QStringLiteral("Modifications enregistrées."));
+        Clic("CmdModifier");
+        ClicNoeud(0);
+        QCOMPARE(Poso(), QString());
+    }
+
     void EnterInTheSearchReadsTheTableAgain()
     {
         support::AjouteLigne(monde_->Etat.Bases.Medoc(monde_->Etat.Chemins.CheminTravail),

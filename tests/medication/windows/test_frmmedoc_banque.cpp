@@ -163,6 +163,20 @@ private Q_SLOTS:
         QCOMPARE(Lignes("MedUtile"), QStringList({QStringLiteral("3400930000011")}));
     }
 
+    void APackReachedByTheArrowsBringsItsOwnProduct()
+    {
+        Cherche("DOLIR");
+        ClicNoeud(0);
+        Cherche("DOLI");
+        auto* arbre = Trouve<QTreeView>("TV");
+        arbre->setFocus();
+        arbre->setCurrentIndex(arbre->model()->index(0, 0));
+        Trouve<QLineEdit>("TxtMedoc")->setText(QStringLiteral("à la main"));
+        Clic("CmdAjouter1");
+        QCOMPARE(prescription::IdentifiantDeLigne(Ordo().LstChoix1.Lignes()[0].Texte), QStringLiteral("101"));
+        QCOMPARE(Lignes("MedUtile"), QStringList({QStringLiteral("3400930000011")}));
+    }
+
     void TheCommonNameComesAndGoes()
     {
         Cherche("DOLI");
@@ -310,6 +324,7 @@ private Q_SLOTS:
         Clic("CmdPerso");
         QCOMPARE(textes, QStringList({QStringLiteral("Bibliothèque personnelle : Titre"),
                                       QStringLiteral("Commentaires ou posologie")}));
+        QCOMPARE(Focus(), QStringLiteral("TxtCherche"));
     }
 };
 

@@ -132,6 +132,68 @@ private Q_SLOTS:
         QVERIFY(LstP().isEmpty());
     }
 
+    void MicrogramsStayMicrograms()
+    {
+        for (const bool banque : {false, true}) {
+            Ouvre(banque ? "TVS" : "BIP");
+            Tape(QStringLiteral("lévothyrox 25 \u00b5g"), {});
+            if (banque) {
+                AttendCapitales(Bouton::Oui);
+            }
+            Presse("CmdOK");
+            QVERIFY(Arbre().filter(QStringLiteral("LÉVOTHYROX 25 \u00b5G")).size() == 1);
+            Range();
+        }
+    }
+
+    void ADoubleClickStoresOnceAndASecondClickAgain()
+    {
+        Ouvre("BIP");
+        Tape(QStringLiteral("a"), {});
+        Presse("CmdOK");
+        QTest::mouseDClick(Du<QWidget>("CmdOK"), Qt::LeftButton);
+        QCOMPARE(Lignes("BddMed").size(), 4);
+        Presse("CmdOK");
+        QCOMPARE(Lignes("BddMed").size(), 5);
+    }
+
+    void EnterHeldDownStoresOnce()
+    {
+        Ouvre("BIP");
+        Tape(QStringLiteral("a"), {});
+        for (const char* nom : {"TxtNom", "CmdOK"}) {
+            const auto avant = Lignes("BddMed").size();
+            Du<QWidget>(nom)->setFocus();
+            for (const bool repete : {false, true, true}) {
+                QKeyEvent touche(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), repete);
+                QApplication::sendEvent(Du<QWidget>(nom), &touche);
+            }
+            QCOMPARE(Lignes("BddMed").size(), avant + 1);
+        }
+    }
+
+    void TheLocalModeSaysWhatItHasStored()
+    {
+        Ouvre("BIP");
+        Tape(QStringLiteral("doliprane"), {});
+        const auto dit = [&] {
+            const auto etiquettes = Du<QListView>("LstP")->findChildren<QLabel*>();
+            return etiquettes.front()->text().startsWith(QLatin1String("doliprane\n"));
+        };
+        QVERIFY(!dit());
+        Presse("CmdOK");
+        QVERIFY(dit());
+    }
+
+    void APastedNameIsOneLine()
+    {
+        Ouvre("BIP");
+        auto* nom = Du<QLineEdit>("TxtNom");
+        nom->insert(QStringLiteral("doli\r\n1 g\n"));
+        Presse("CmdOK");
+        QVERIFY(Lignes("BddMed").back().endsWith(QLatin1String("|DOLI 1 G")));
+    }
+
     void AnEntryInCapitalsShowsAsTypedUntilTheWindowReloads()
     {
         Ouvre("TVS");
