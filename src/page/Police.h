@@ -25,5 +25,6 @@ constexpr Couleur Rvb(int rouge, int vert, int bleu)
 }
 
 constexpr Couleur kNoir = 0;
+constexpr Couleur kToutesCouleurs = 0xFFFFFF;
 
 } // namespace page

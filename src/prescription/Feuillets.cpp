@@ -2,27 +2,15 @@
 
 #include "prescription/PageCertificat.h"
 
-#include <algorithm>
-
 namespace prescription {
 
 namespace {
 
-constexpr page::Couleur kToutesCouleurs = 0xFFFFFF;
-
-page::Police PoliceDeLaMarque(const settings::Dupli& dupli)
-{
-    return {.Nom = dupli.DupliPolice,
-            .Taille = static_cast<float>(std::max<qint16>(dupli.DupliTaille, 1)),
-            .Gras = dupli.DupliGras != 0,
-            .Italique = dupli.DupliItalique != 0};
-}
-
 void MarqueCopie(page::Surface& cible, const settings::Dupli& dupli)
 {
     cible.ScaleMode(page::Echelle::Millimetres);
-    cible.ForeColor(static_cast<page::Couleur>(dupli.DupliCouleur) & kToutesCouleurs);
-    cible.Font(PoliceDeLaMarque(dupli));
+    cible.ForeColor(settings::CouleurDupli(dupli));
+    cible.Font(settings::PoliceDupli(dupli));
     cible.CurrentY(dupli.DupliY);
     for (const QString& ligne : settings::LignesDupli(dupli.DupliTexte)) {
         cible.CurrentX(dupli.DupliX);

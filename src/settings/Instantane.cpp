@@ -1,8 +1,10 @@
 #include "application/Signaux.h"
 #include "drugbank/Banque.h"
+#include "outside/Tente.h"
 #include "patients/Patient.h"
 #include "prescription/Editeur.h"
 #include "settings/EffetsOptions.h"
+#include "settings/LogoOptions.h"
 #include "settings/SaisieOptions.h"
 #include "startup/Chemins.h"
 #include "startup/DemarrageAuto.h"
@@ -61,6 +63,7 @@ Instantane PrendInstantane(application::Contexte& contexte)
 void RestaureInstantane(application::Contexte& contexte, const Instantane& instantane)
 {
     RendLesOptions(contexte.Reglages.Options, instantane.Options);
+    outside::Tente(contexte.Dehors.Boites, [&] { RendLogos(contexte.Reglages); });
     startup::RegleDemarrageSysteme(contexte);
     contexte.Banque.ProduitBanque = instantane.ProduitBanque;
     contexte.Banque.TypeBase = instantane.TypeBase;

@@ -3,6 +3,7 @@
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "common/Nombres.h"
+#include "common/Tolere.h"
 #include "outside/Boites.h"
 #include "prescription/Editeur.h"
 #include "settings/Enregistrement.h"
@@ -16,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace settings {
 
@@ -45,12 +47,28 @@ QString Refus(const QString& source, const QString& nom)
     return EstUneImage(source) ? QString() : messages::ImageRefusee(common::CheminAffiche(source));
 }
 
+/// Where the former picture of a place waits for `CmdOK` or `CmdAnnule`.
+QString PlaceEcartee(const QString& place)
+{
+    return place + QStringLiteral(".avant");
+}
+
+/// Keeps the picture of the place, that of before the dialogue and no later one. Throws `Erreur`.
+void Ecarte(const QString& place, QStringList& ecartes)
+{
+    if (common::FichierExiste(place) && !ecartes.contains(place)) {
+        common::CopieFichier(place, PlaceEcartee(place));
+        ecartes.append(place);
+    }
+}
+
 /// Copies the file into the directory, never onto itself. Gives its place there. Throws `Erreur`.
-QString Range(const QString& source, const QString& dossier, const QString& nom)
+QString Range(const QString& source, const QString& dossier, const QString& nom, QStringList& ecartes)
 {
     const QString place = common::Joint(dossier, nom);
     if (QFileInfo(source) != QFileInfo(place)) {
         common::CreeDossier(dossier);
+        Ecarte(place, ecartes);
         common::CopieFichier(source, place);
     }
     return place;
@@ -78,11 +96,29 @@ bool ChoisitLogo(application::Contexte& contexte)
     }
     try {
         contexte.Reglages.Options.FichierLogo =
-            Range(source, common::Joint(contexte.Chemins.CheminMedecin, QStringLiteral("Logo")), nom);
+            Range(source, common::Joint(contexte.Chemins.CheminMedecin, QStringLiteral("Logo")), nom,
+                  contexte.Reglages.EnCours.LogosEcartes);
         return true;
     } catch (const common::Erreur& erreur) {
         boites.Stop(messages::LogoNonCopie(erreur.Phrase()));
         return false;
+    }
+}
+
+void RendLogos(Reglages& reglages)
+{
+    QStringList& ecartes = reglages.EnCours.LogosEcartes;
+    while (!ecartes.isEmpty()) {
+        const QString place = ecartes.takeFirst();
+        common::DeplaceFichier(PlaceEcartee(place), place);
+    }
+}
+
+void GardeLogos(Reglages& reglages)
+{
+    for (const QString& place : std::exchange(reglages.EnCours.LogosEcartes, {})) {
+        // What cannot be deleted is only left over.
+        common::Tolere([&] { common::SupprimeFichier(PlaceEcartee(place)); });
     }
 }
 

@@ -83,6 +83,21 @@ inline QStringList LignesDupli(const QString& dupliTexte)
     return dupliTexte.split(QLatin1Char('*'));
 }
 
+/// The font of the word; never underlined.
+inline page::Police PoliceDupli(const Dupli& dupli)
+{
+    return {.Nom = dupli.DupliPolice,
+            .Taille = static_cast<float>(dupli.DupliTaille > 1 ? dupli.DupliTaille : 1),
+            .Gras = dupli.DupliGras != 0,
+            .Italique = dupli.DupliItalique != 0};
+}
+
+/// The colour of the word, in what a colour can be.
+inline page::Couleur CouleurDupli(const Dupli& dupli)
+{
+    return static_cast<page::Couleur>(dupli.DupliCouleur) & page::kToutesCouleurs;
+}
+
 /// The look kept in the doctor's database.
 struct Look
 {
@@ -105,9 +120,10 @@ struct SaisieEntete
 /// What the options dialogue has in hand while it is open.
 struct OptionsEnCours
 {
-    QString BaseInitiale;  ///< `TypeBase` at its loading
-    double RatioLogo = 0;  ///< width of the logo's picture by its height; 0 without a picture
-    quint8 SaisieLogo = 0; ///< 1 while the doctor is in `TxtL`, 0 while in `TxtH`
+    QString BaseInitiale;          ///< `TypeBase` at its loading
+    double RatioLogo = 0;          ///< width of the logo's picture by its height; 0 without a picture
+    quint8 SaisieLogo = 0;         ///< 1 while the doctor is in `TxtL`, 0 while in `TxtH`
+    QStringList LogosEcartes = {}; ///< pictures written over, the former ones kept beside them
 };
 
 /// One variable per settings field. Whatever prints or draws reads these, never the files.

@@ -7,6 +7,7 @@
 #include "prescription/Apercu.h"
 #include "prescription/Editeur.h"
 #include "settings/FichiersReglages.h"
+#include "settings/LogoOptions.h"
 #include "settings/messages.h"
 #include "startup/Chemins.h"
 
@@ -163,6 +164,7 @@ void EnregistreOptions(application::Contexte& contexte, const SaisieOptions& sai
         contexte.Choix.BaseChangee = 1;
     }
     EcritFichiers(contexte);
+    GardeLogos(contexte.Reglages);
     MontreReglages(contexte);
 }
 

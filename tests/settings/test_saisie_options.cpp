@@ -1,8 +1,11 @@
+#include "application/Signaux.h"
 #include "medication/Choix.h"
 #include "settings/ChoixPharmacie.h"
+#include "settings/FichiersReglages.h"
 #include "settings/LogoOptions.h"
 #include "settings/SaisieOptions.h"
 #include "settings/messages.h"
+#include "startup/GestionMedecins.h"
 #include "support/Cabinet.h"
 
 #include <QTest>
@@ -36,6 +39,8 @@ private Q_SLOTS:
     void AnotherBaseFillsTheTreeAgain();
     void TheHelperLibraryDecides();
     void TheProportionRunsInWholeMillimetres();
+    void CancelGoesBackToTheDoctorOfTheOpening();
+    void AFormerPictureThatIsGoneIsToldOf();
 };
 
 void TestSaisieOptions::TheTestsStandInTheirOrder()
@@ -94,6 +99,42 @@ void TestSaisieOptions::TheProportionRunsInWholeMillimetres()
     QCOMPARE(LargeurPour(QString(), 2, autre), QString());
     QCOMPARE(LargeurPour(QStringLiteral("20"), 0, autre), autre);
     QCOMPARE(HauteurPour(QStringLiteral("20"), 0, autre), autre);
+}
+
+void TestSaisieOptions::CancelGoesBackToTheDoctorOfTheOpening()
+{
+    Cabinet cabinet;
+    application::Etat& etat = cabinet.Etat;
+    const QString chemin = etat.Chemins.CheminMedecin;
+    etat.Medecins.Liste.append({.Nom = QStringLiteral("DR DURAND"), .Numero = 2});
+    common::CreeDossier(common::Joint(etat.Chemins.CheminTravail, QStringLiteral("DR DURAND")));
+    Options siennes = etat.Reglages.Options;
+    siennes.SautsPrescription = 4;
+    EcritOptions(siennes, chemin);
+    const Instantane instantane = PrendInstantane(cabinet.Contexte);
+    startup::ChangeMedecin(cabinet.Contexte, static_cast<int>(etat.Medecins.Liste.size()) - 1);
+    QVERIFY(etat.Chemins.CheminMedecin.endsWith(QStringLiteral("DURAND")));
+    bool face = false;
+    QObject::connect(&etat.Signaux, &application::Signaux::FaceChange, [&face] { face = true; });
+    RestaureInstantane(cabinet.Contexte, instantane);
+    QCOMPARE(etat.Chemins.CheminMedecin, chemin);
+    QCOMPARE(int(etat.Medecins.NumMedecin), 1);
+    QCOMPARE(int(etat.Reglages.Options.SautsPrescription), 4);
+    QVERIFY(face);
+}
+
+void TestSaisieOptions::AFormerPictureThatIsGoneIsToldOf()
+{
+    Cabinet cabinet;
+    const Instantane instantane = PrendInstantane(cabinet.Contexte);
+    cabinet.Etat.Reglages.Options.LogoHauteur = 12;
+    const QString logo = common::Joint(cabinet.Etat.Chemins.CheminMedecin, QStringLiteral("logo.bmp"));
+    common::EcritFichier(logo, "nouveau");
+    cabinet.Etat.Reglages.EnCours.LogosEcartes = {logo};
+    cabinet.Boites.AttendContenant(outside::Genre::Stop, QStringLiteral("logo.bmp"));
+    RestaureInstantane(cabinet.Contexte, instantane);
+    QCOMPARE(common::LitFichier(logo), QByteArray("nouveau"));
+    QCOMPARE(int(cabinet.Etat.Reglages.Options.LogoHauteur), 0);
 }
 
 QTEST_MAIN(TestSaisieOptions)

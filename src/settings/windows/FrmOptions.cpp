@@ -2,7 +2,9 @@
 
 #include "application/windows/Style.h"
 #include "common/Erreur.h"
+#include "common/Tolere.h"
 #include "outside/Boites.h"
+#include "settings/LogoOptions.h"
 #include "settings/windows/FrmConfOrdo.h"
 #include "settings/windows/FrmEntete.h"
 #include "settings/windows/OngletConfiguration.h"
@@ -47,6 +49,12 @@ FrmOptions::FrmOptions(application::Contexte& contexte, application::Fenetres& f
     connect(TS_, &QTabBar::currentChanged, this, &FrmOptions::MontreCadre);
     connect(TS_, &QTabBar::tabBarClicked, this, [this] { CmdFoc_->setFocus(); });
     MontreCadre(0);
+}
+
+FrmOptions::~FrmOptions()
+{
+    // The program ends with the dialogue open: nothing was confirmed, and no one is left to be told.
+    common::Tolere([&] { RendLogos(contexte_.Reglages); });
 }
 
 void FrmOptions::Dispose()

@@ -23,6 +23,7 @@ class FrmOptions : public QDialog
 
 public:
     FrmOptions(application::Contexte& contexte, application::Fenetres& fenetres);
+    ~FrmOptions() override;
 
     /// Opens modally on a tab, 1 to 7. In a use that is under way it only brings the window back on the tab.
     void Ouvre(int onglet);

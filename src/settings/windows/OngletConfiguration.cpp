@@ -3,6 +3,7 @@
 #include "application/windows/Style.h"
 #include "settings/EffetsOptions.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -51,11 +52,11 @@ QWidget* OngletConfiguration::CarteDesConcepteurs()
     auto* CmdMEP =
         style::Bouton(QStringLiteral("CmdMEP"), QStringLiteral("Configurer &mise en page ordonnance"),
                       QStringLiteral("rulers"), carte);
-    auto* groupe = new QVBoxLayout(carte);
+    auto* groupe = new QHBoxLayout(carte);
     groupe->setSpacing(style::kEntreGroupes);
     for (QPushButton* bouton : {CmdET, CmdMEP}) {
         style::AligneAGauche(bouton);
-        groupe->addWidget(bouton);
+        groupe->addWidget(bouton, 1);
     }
     connect(CmdET, &QPushButton::clicked, this, &OngletConfiguration::EnteteDemandee);
     connect(CmdMEP, &QPushButton::clicked, this, &OngletConfiguration::MiseEnPageDemandee);

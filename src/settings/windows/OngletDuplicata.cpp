@@ -21,15 +21,6 @@ namespace {
 constexpr int kHauteurDuMot = 150; ///< two lines of 40 points
 constexpr int kLargeurBoite = 84;
 constexpr int kLongueurBoite = 12; ///< characters
-constexpr page::Couleur kToutesCouleurs = 0xFFFFFF;
-
-page::Police PoliceDe(const Dupli& dupli)
-{
-    return {.Nom = dupli.DupliPolice,
-            .Taille = static_cast<float>(dupli.DupliTaille),
-            .Gras = dupli.DupliGras != 0,
-            .Italique = dupli.DupliItalique != 0};
-}
 
 } // namespace
 
@@ -125,8 +116,8 @@ QWidget* OngletDuplicata::CarteDeLaPlace()
 void OngletDuplicata::Charge()
 {
     const Dupli& dupli = contexte_.Reglages.Dupli;
-    MontrePolice(PoliceDe(dupli));
-    MontreCouleur(static_cast<page::Couleur>(dupli.DupliCouleur) & kToutesCouleurs);
+    MontrePolice(PoliceDupli(dupli));
+    MontreCouleur(CouleurDupli(dupli));
     ChkDup_->setChecked(dupli.DupliActif == 1);
     Inscrit(dupli.DupliActif == 1);
 }

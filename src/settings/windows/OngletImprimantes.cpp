@@ -38,9 +38,7 @@ OngletImprimantes::OngletImprimantes(application::Contexte& contexte, QWidget* p
         carte);
     legende->setWordWrap(true);
     groupe->addWidget(legende);
-    groupe->addSpacing(style::kEntreGroupes);
     groupe->addWidget(Chkimp_, 0, Qt::AlignLeft);
-    groupe->addStretch();
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins({});
     page->addWidget(carte);

@@ -1,0 +1,30 @@
+// A settings file that cannot be written, a folder that cannot take the logo: told, and nothing is lost.
+installer();
+const options = valeur("CheminMedecin") + "/Options.cfg";
+const logos = valeur("CheminMedecin") + "/Logo";
+effacer(options);
+creerDossier(options);
+clic("FrmDepart.CmdOptions");
+choisir("FrmOptions.TS", "Options générales");
+cocher("FrmOptions.ChkP", false);
+cocher("FrmOptions.ChkL", true);
+clic("FrmOptions.CmdOK");
+egal(boite().genre, "stop", "la panne");
+boites([[/« Options\.cfg »/, "OK"]]);
+vrai(ouverte("FrmOptions"), "la fenêtre reste");
+clic("FrmOptions.CmdAnnule");
+egal([valeur("AffichePoids"), valeur("LanceDemarrage")], [1, 0], "annuler rend tout");
+
+effacer(logos);
+ecrire(logos, "pas un dossier");
+ecrire(utilisateur + "/logo.gif", "GIF89a" + "\x01\x00\x01\x00\x00\x00\x00," + "\x00\x00\x00\x00\x01\x00\x01\x00\x00\x02\x02D\x01\x00;");
+clic("FrmDepart.mnuLogo");
+cocher("FrmOptions.ChkLog", true);
+clic("FrmOptions.CmdChemin");
+repondre(utilisateur + "/logo.gif");
+boites([[/n'a pas pu être copiée dans le dossier du médecin/, "OK"]]);
+egal(valeur("FichierLogo"), "", "le logo n'a pas changé");
+faux(actif("FrmOptions.TxtH"), "pas de mesures sans image");
+clic("FrmOptions.CmdOK");
+boites([["Vous n'avez pas renseigné le fichier du logo !", "OK"]]);
+clic("FrmOptions.CmdAnnule");
