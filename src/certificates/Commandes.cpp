@@ -20,12 +20,13 @@ namespace {
 
 const QString kFinDeLigne = QStringLiteral("\r\n");
 
-QString SansBlancsALaFin(QString texte)
+/// Without blanks at the end, and with one line end there; a text that comes back from the page has its own.
+QString PourLaPage(QString texte)
 {
     while (texte.endsWith(u' ')) {
         texte.chop(1);
     }
-    return texte;
+    return texte.endsWith(kFinDeLigne) ? texte : texte + kFinDeLigne;
 }
 
 /// True when the doctor may write there: the name can be a template's, and one that stands may go.
@@ -72,7 +73,7 @@ bool EnregistreSous(application::Contexte& contexte, const QString& texte)
     common::CreeDossier(dossier);
     outside::Boites& boites = contexte.Dehors.Boites;
     const auto chemin = boites.Enregistre({.Titre = messages::TitreEnregistrement(),
-                                           .Filtre = QStringLiteral("*.txt (*.txt)"),
+                                           .Filtre = QStringLiteral("*.txt|*.txt"),
                                            .Depart = dossier});
     if (!chemin) {
         return false;
@@ -130,7 +131,7 @@ bool EcritSurLaPage(application::Contexte& contexte, const QString& texte, int r
         contexte.Dehors.Boites.Information(messages::SansMedecin());
         return false;
     }
-    EcritTmp(contexte.Chemins.CheminTravail, SansBlancsALaFin(texte) + kFinDeLigne);
+    EcritTmp(contexte.Chemins.CheminTravail, PourLaPage(texte));
     Certificat& certificat = contexte.Certificat;
     certificat.IndexCertif = rang;
     certificat.ChargeCertif = 1;

@@ -10,6 +10,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <cmath>
 
 namespace certificates {
 
@@ -17,6 +18,7 @@ namespace {
 
 constexpr QLatin1String kTxt(".txt");
 constexpr QLatin1String kCfg(".cfg");
+constexpr float kLargeurFeuille = 210; // millimetres: a larger shift is a damaged record
 
 bool FinitPar(const QString& fichier, QLatin1String extension)
 {
@@ -52,7 +54,9 @@ void LitMiseEnPage(const QString& chemin, Certificat& certificat)
 {
     auto decalage = static_cast<float>(certificat.DecalageCertif);
     settings::LitEnregistrement(chemin, std::tie(decalage, certificat.CertifALD));
-    certificat.DecalageCertif = decalage;
+    if (std::abs(decalage) < kLargeurFeuille) {
+        certificat.DecalageCertif = decalage;
+    }
 }
 
 void EcritMiseEnPage(const QString& chemin, const Certificat& certificat)
@@ -137,7 +141,8 @@ NomChoisi LitNomChoisi(const QString& cheminTravail, const QString& chemin)
         choix.Refus = messages::HorsDuDossier(common::CheminAffiche(dossier));
     } else if (EstTmp(choix.Nom)) {
         choix.Refus = messages::NomReserve(choix.Nom);
-    } else if (choix.Nom.trimmed().isEmpty() || !common::NomDeFichierSur(choix.Nom + kTxt)) {
+    } else if (choix.Nom.trimmed().isEmpty() || choix.Nom.startsWith(u'.') ||
+               !common::NomDeFichierSur(choix.Nom + kTxt)) {
         choix.Refus = messages::NomRefuse(choix.Nom);
     }
     return choix;

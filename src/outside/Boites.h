@@ -29,7 +29,7 @@ struct Saisie
     QString Titre = QStringLiteral("Scriptelle");
 };
 
-/// A file dialogue. `Filtre` is in Qt's form, "Images (*.bmp *.jpg)".
+/// A file dialogue. `Filtre` is a description, "|" and the patterns: "Images (*.bmp;*.jpg)|*.bmp;*.jpg".
 struct ChoixFichier
 {
     QString Titre;

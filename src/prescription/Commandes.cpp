@@ -9,6 +9,7 @@
 #include "prescription/Apercu.h"
 #include "prescription/Editeur.h"
 #include "prescription/Ordonnance.h"
+#include "prescription/PageCertificat.h"
 #include "prescription/messages.h"
 #include "startup/Chemins.h"
 #include "startup/GestionMedecins.h"
@@ -95,13 +96,17 @@ void ImprimeCivilite(application::Contexte& contexte, bool oui)
 
 double BasDeLaFeuille(application::Contexte& contexte)
 {
-    if (contexte.Apercu.ModeApercu == 1 || contexte.Apercu.PctOrdo.Items.isEmpty()) {
+    if (contexte.Apercu.PctOrdo.Items.isEmpty()) {
         return 0;
     }
     QList<page::LigneEntete> entete;
     page::Modele modele = ModelePage(contexte, entete);
     page::Surface papier(page::Cible::Imprimante);
-    page::PeintOrdo(papier, modele);
+    if (contexte.Apercu.ModeApercu == 0) {
+        page::PeintOrdo(papier, modele);
+    } else if (const auto texte = TexteDuCertificat(contexte.Chemins)) {
+        PeintCorpsCertificat(papier, modele, contexte, *texte);
+    }
     if (page::LignesPerdues(papier.Resultat(), modele.Reglages) == 0) {
         return 0;
     }

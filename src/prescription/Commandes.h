@@ -23,7 +23,7 @@ void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang);
 void ImprimeCivilite(application::Contexte& contexte, bool oui);
 
 /// Where the preview meets the bottom of the printed sheet, in millimetres from its top; 0 when the whole
-/// body stands on the sheet. The body begins lower on paper than on the preview.
+/// body, or certificate, stands on the sheet. It begins lower on paper than on the preview.
 double BasDeLaFeuille(application::Contexte& contexte);
 
 } // namespace prescription

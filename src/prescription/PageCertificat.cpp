@@ -18,6 +18,15 @@ std::optional<QString> TexteDuCertificat(const startup::Chemins& chemins)
     return texte;
 }
 
+void PeintCorpsCertificat(page::Surface& cible, page::Modele& modele, application::Contexte& contexte,
+                          const QString& texte)
+{
+    certificates::Certificat sansIdentite = contexte.Certificat;
+    sansIdentite.IdentiteCertif = 0;
+    page::PeintCertificat(cible, modele, {sansIdentite, texte, contexte.Reglages.TxtSLP},
+                          contexte.Dehors.Boites);
+}
+
 void PeintPageCertificat(page::Surface& cible, page::Modele& modele, application::Contexte& contexte,
                          const QString& texte)
 {

@@ -11,6 +11,10 @@ namespace prescription {
 /// read.
 std::optional<QString> TexteDuCertificat(const startup::Chemins& chemins);
 
+/// Paints the text of a certificate alone, without the patient block.
+void PeintCorpsCertificat(page::Surface& cible, page::Modele& modele, application::Contexte& contexte,
+                          const QString& texte);
+
 /// Paints a certificate and the footer.
 void PeintPageCertificat(page::Surface& cible, page::Modele& modele, application::Contexte& contexte,
                          const QString& texte);

@@ -65,9 +65,10 @@ inline QString LignesHorsDeLaFeuille(int nombre, bool certificat)
     return debut + QStringLiteral("\n\nImprimer quand même ?");
 }
 
-inline QString Deborde()
+inline QString Deborde(bool certificat)
 {
-    return QStringLiteral("L'ordonnance dépasse le bas de la feuille");
+    return certificat ? QStringLiteral("Le certificat dépasse le bas de la feuille")
+                      : QStringLiteral("L'ordonnance dépasse le bas de la feuille");
 }
 
 inline QString ImpressionEchouee(const QString& imprimante, const QString& cause)

@@ -82,9 +82,10 @@ bool ChoisitLogo(application::Contexte& contexte)
         return false;
     }
     outside::Boites& boites = contexte.Dehors.Boites;
-    const auto reponse = boites.Ouvre({.Titre = messages::TitreFichierLogo(),
-                                       .Filtre = QStringLiteral("Images (*.bmp *.jpg *.gif)"),
-                                       .Depart = contexte.Chemins.CheminTravail});
+    const auto reponse =
+        boites.Ouvre({.Titre = messages::TitreFichierLogo(),
+                      .Filtre = QStringLiteral("Images (*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif"),
+                      .Depart = contexte.Chemins.CheminTravail});
     const QString source = QDir::fromNativeSeparators(reponse.value_or(QString()));
     if (source.isEmpty()) {
         return false;

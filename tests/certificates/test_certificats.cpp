@@ -38,6 +38,7 @@ private Q_SLOTS:
     void ShiftLeft();
     void ShiftLeftRefused();
     void WritesToThePage();
+    void ATextThatComesBackIsTheSameAgain();
     void AnAldSheetHasNoShift();
     void WithoutADoctorNothingReachesThePage();
     void SavesUnderANewName();
@@ -97,15 +98,25 @@ void TestCertificats::WritesToThePage()
     Editeur editeur;
     editeur.Etat.Certificat.DecalageCertif = 4;
     QVERIFY(EcritSurLaPage(editeur.Contexte, QStringLiteral("Certificat\r\n  "), 3));
-    QCOMPARE(editeur.Octets(QStringLiteral("Tmp.txt")), QByteArray("Certificat\r\n\r\n"));
+    QCOMPARE(editeur.Octets(QStringLiteral("Tmp.txt")), QByteArray("Certificat\r\n"));
     QCOMPARE(editeur.Etat.Apercu.ModeApercu, 1);
     QCOMPARE(editeur.Etat.Certificat.IndexCertif, 3);
     QCOMPARE(editeur.Etat.Certificat.ChargeCertif, 1);
     QCOMPARE(editeur.Etat.Certificat.DecalageCertif, 4.0);
-    QCOMPARE(*TexteDeLaPage(editeur.Contexte), QStringLiteral("Certificat\r\n\r\n"));
+    QCOMPARE(*TexteDeLaPage(editeur.Contexte), QStringLiteral("Certificat\r\n"));
     QuitteCertificats(editeur.Contexte);
     QCOMPARE(editeur.Etat.Apercu.ModeApercu, 2);
     QVERIFY(editeur.Etat.Apercu.PctOrdo.Items.isEmpty());
+}
+
+void TestCertificats::ATextThatComesBackIsTheSameAgain()
+{
+    Editeur editeur;
+    QVERIFY(EcritSurLaPage(editeur.Contexte, QStringLiteral("a\r\n\r\nb  "), -1));
+    const QString revenu = *TexteDeLaPage(editeur.Contexte);
+    QCOMPARE(revenu, QStringLiteral("a\r\n\r\nb\r\n"));
+    QVERIFY(EcritSurLaPage(editeur.Contexte, revenu, -1));
+    QCOMPARE(*TexteDeLaPage(editeur.Contexte), revenu);
 }
 
 void TestCertificats::AnAldSheetHasNoShift()

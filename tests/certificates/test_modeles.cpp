@@ -79,6 +79,8 @@ void TestModeles::LitCfg_data()
     QTest::newRow("empty") << QByteArray("") << 6.0 << 1;
     QTest::newRow("short") << QByteArray("4\r\n") << 4.0 << 1;
     QTest::newRow("no number") << QByteArray("quatre,0\r\n") << 6.0 << 1;
+    QTest::newRow("off the sheet") << QByteArray("5000,0\r\n") << 6.0 << 0;
+    QTest::newRow("beyond measure") << QByteArray("-1e30,0\r\n") << 6.0 << 0;
     QTest::newRow("out of range") << QByteArray("4,999\r\n") << 4.0 << 1;
 }
 
@@ -211,6 +213,8 @@ void TestModeles::NomChoisi_data()
                               << "Tmp" << true << reserve;
     QTest::newRow("nothing") << "/.txt"
                              << "" << false << refuse;
+    QTest::newRow("hidden from the list") << "/....txt"
+                                          << "..." << false << refuse;
     QTest::newRow("a device") << "/con"
                               << "con" << true << refuse;
     QTest::newRow("a device with its ending") << "/LPT1.txt"

@@ -1,45 +1,15 @@
+#include "CertificatDeTest.h"
 #include "certificates/Bandeaux.h"
-#include "support/PageDeTest.h"
 
 #include <QTest>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
+using namespace certificat_de_test;
 using page::Cible;
-using page::MesureHauteur;
-using page::MesureLargeur;
 using support::Mots;
 using support::PageDeTest;
 using support::Textes;
 using support::Trouve;
-
-namespace {
-
-constexpr double kGauche = 20;
-constexpr double kHaut = 100;
-constexpr double kProche = 1e-9;
-
-double H(const page::Police& police = {})
-{
-    return MesureHauteur(police);
-}
-
-double L(const QString& texte, const page::Police& police = {})
-{
-    return MesureLargeur(texte, police);
-}
-
-bool Proche(double a, double b)
-{
-    return std::abs(a - b) < kProche;
-}
-
-QString CinqLignes()
-{
-    return u"Résidence des Lilas\r\nBâtiment C, escalier 4\r\n12 rue Haute\r\nBP 20\r\n75000 PARIS"_s;
-}
-
-} // namespace
 
 class TestPeintCertificat : public QObject
 {

@@ -1,4 +1,5 @@
 #include "certificates/Texte.h"
+#include "prescription/Commandes.h"
 #include "prescription/Editeur.h"
 #include "prescription/Impression.h"
 #include "prescription/messages.h"
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void TheFirstCertificateIsAbandonedOnce();
     void WithoutItsTextNoCertificateIsPrinted();
     void LostLinesOfACertificateAreAskedFor();
+    void APreviewOfLostLinesIsMarked();
 };
 
 void TestPageCertificat::repeintMontreLeCertificat()
@@ -157,6 +159,18 @@ void TestPageCertificat::LostLinesOfACertificateAreAskedFor()
     cabinet.Boites.AttendContenant(outside::Genre::Question, u"lignes du certificat"_s, outside::Bouton::Non);
     QVERIFY(!ImprimeDocument(cabinet.Contexte));
     QVERIFY(cabinet.Imprimantes.Travaux.isEmpty());
+}
+
+void TestPageCertificat::APreviewOfLostLinesIsMarked()
+{
+    Cabinet cabinet;
+    cabinet.PoseCertificat(u"ligne\r\n"_s.repeated(19));
+    cabinet.Etat.Certificat.IdentiteCertif = 1;
+    Repeint(cabinet.Contexte);
+    QCOMPARE(BasDeLaFeuille(cabinet.Contexte), 0.0);
+    cabinet.PoseCertificat(u"ligne\r\n"_s.repeated(30));
+    Repeint(cabinet.Contexte);
+    QCOMPARE(BasDeLaFeuille(cabinet.Contexte), 241.0);
 }
 
 QTEST_MAIN(TestPageCertificat)

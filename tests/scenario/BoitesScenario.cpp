@@ -59,6 +59,7 @@ QVariantMap Decrit(const QString& genre, const QString& titre, const QString& te
 QVariantMap DecritFichier(const QString& genre, const outside::ChoixFichier& choix)
 {
     QVariantMap description = Decrit(genre, choix.Titre, choix.Titre);
+    description[QStringLiteral("valeur")] = QString();
     description[QStringLiteral("filtre")] = choix.Filtre;
     description[QStringLiteral("depart")] = choix.Depart;
     return description;

@@ -1,6 +1,7 @@
 #include "outside/windows/BoitesQt.h"
 
 #include "application/windows/Style.h"
+#include "outside/FiltreQt.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -153,12 +154,12 @@ std::optional<QString> BoitesQt::Dossier(const QString& titre)
 
 std::optional<QString> BoitesQt::Ouvre(const ChoixFichier& choix)
 {
-    return OuRien(QFileDialog::getOpenFileName(Dessous(), choix.Titre, choix.Depart, choix.Filtre));
+    return OuRien(QFileDialog::getOpenFileName(Dessous(), choix.Titre, choix.Depart, FiltreQt(choix.Filtre)));
 }
 
 std::optional<QString> BoitesQt::Enregistre(const ChoixFichier& choix)
 {
-    return OuRien(QFileDialog::getSaveFileName(Dessous(), choix.Titre, choix.Depart, choix.Filtre));
+    return OuRien(QFileDialog::getSaveFileName(Dessous(), choix.Titre, choix.Depart, FiltreQt(choix.Filtre)));
 }
 
 std::optional<page::Police> BoitesQt::ChoisitPolice(const page::Police& depart)

@@ -125,7 +125,7 @@ QWidget* FrmOrdo::CreeEntete()
     rangee->setContentsMargins({});
     rangee->setSpacing(style::kEntreGroupes);
     rangee->addWidget(PctMemo_);
-    deborde_ = style::Avertissement(QStringLiteral("LblDeborde"), messages::Deborde(), entete);
+    deborde_ = style::Avertissement(QStringLiteral("LblDeborde"), {}, entete);
     rangee->addWidget(deborde_);
     rangee->addStretch();
     rangee->addWidget(ChkCiv_);
@@ -168,6 +168,7 @@ void FrmOrdo::SuitApercu()
 {
     const double bas = BasDeLaFeuille(contexte_);
     vue_->Montre(contexte_.Apercu.PctOrdo, bas);
+    deborde_->setText(messages::Deborde(contexte_.Apercu.ModeApercu == 1));
     deborde_->setVisible(bas > 0);
 }
 

@@ -260,8 +260,8 @@ void FrmEssai::MontreDialogues()
     const QString rien = QStringLiteral("rien");
     QStringList reponses;
     reponses << boites.Dossier(QStringLiteral("Quel dossier ?")).value_or(rien);
-    const outside::ChoixFichier choix{QStringLiteral("Quel fichier ?"), QStringLiteral("Images (*.bmp)"),
-                                      QStringLiteral("/depart")};
+    const outside::ChoixFichier choix{QStringLiteral("Quel fichier ?"),
+                                      QStringLiteral("Images (*.bmp)|*.bmp"), QStringLiteral("/depart")};
     reponses << boites.Ouvre(choix).value_or(rien) << boites.Enregistre(choix).value_or(rien);
     const auto police = boites.ChoisitPolice({});
     reponses << (police ? QStringLiteral("%1 %2 %3").arg(police->Nom).arg(police->Taille).arg(police->Gras)

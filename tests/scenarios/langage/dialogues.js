@@ -3,7 +3,7 @@ clic("FrmEssai.CmdDialogues");
 egal(boite().genre, "dossier", "un dossier");
 egal(boite().titre, "Quel dossier ?", "son titre");
 repondre("/tmp/a");
-egal([boite().genre, boite().filtre, boite().depart], ["fichier", "Images (*.bmp)", "/depart"], "un fichier");
+egal([boite().genre, boite().filtre, boite().depart], ["fichier", "Images (*.bmp)|*.bmp", "/depart"], "un fichier");
 repondre(null);
 egal(boite().genre, "enregistrer", "un fichier à écrire");
 repondre("/tmp/b.bmp");
