@@ -10,6 +10,8 @@ namespace medication {
 namespace {
 
 constexpr int kRangeesVues = 12;
+constexpr int kBordsLigne =
+    6; // of the line edit and its caret, in pixels at 100 %, that QComboBox leaves out
 
 } // namespace
 
@@ -39,6 +41,16 @@ void BoiteCboP::Montre(const QString& texte)
         setCurrentIndex(RangDe(texte));
         setEditText(texte);
     }
+}
+
+QSize BoiteCboP::sizeHint() const
+{
+    return QComboBox::sizeHint() + QSize(kBordsLigne, 0);
+}
+
+QSize BoiteCboP::minimumSizeHint() const
+{
+    return QComboBox::minimumSizeHint() + QSize(kBordsLigne, 0);
 }
 
 void BoiteCboP::Suit(const QString& texte)

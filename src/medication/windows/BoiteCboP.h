@@ -16,6 +16,9 @@ public:
     /// Shows a text without telling of it.
     void Montre(const QString& texte);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     /// The doctor typed in the box, or chose in its list, maybe the same text again.
     void Change(const QString& texte);

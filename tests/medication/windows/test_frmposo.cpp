@@ -3,6 +3,7 @@
 #include "medication/windows/FrmPoso.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
 
@@ -55,6 +56,24 @@ private Q_SLOTS:
             Tape(1, "1");
             Boite(2)->setFocus();
             QCOMPARE(Boite(1)->currentIndex(), 3); // a text typed is its row
+            QTest::keyClick(&f, Qt::Key_Escape);
+        });
+    }
+
+    void NoTextOfAListIsCut()
+    {
+        ClicNoeud(1);
+        Dans([this](FrmPoso& f) {
+            f.resize(f.minimumSizeHint());
+            QCoreApplication::sendPostedEvents();
+            for (int i = 0; i < medication::kNbCboP; ++i) {
+                for (const QString& texte : medication::ListeCboP(i)) {
+                    constexpr int kBords = 2 * 2 + 1; // of a QLineEdit, and its caret
+                    const QLineEdit* ligne = Boite(i)->lineEdit();
+                    QVERIFY2(ligne->fontMetrics().horizontalAdvance(texte) + kBords <= ligne->width(),
+                             qPrintable(texte));
+                }
+            }
             QTest::keyClick(&f, Qt::Key_Escape);
         });
     }
