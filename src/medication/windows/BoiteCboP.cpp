@@ -68,6 +68,10 @@ void BoiteCboP::Suit(const QString& texte)
 
 void BoiteCboP::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Undo) && !lineEdit()->isUndoAvailable()) {
+        Q_EMIT Defait();
+        return;
+    }
     if ((event->key() == Qt::Key_Down || event->key() == Qt::Key_Up) &&
         event->modifiers() == Qt::NoModifier) {
         showPopup();

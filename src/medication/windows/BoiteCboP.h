@@ -22,6 +22,8 @@ public:
 Q_SIGNALS:
     /// The doctor typed in the box, or chose in its list, maybe the same text again.
     void Change(const QString& texte);
+    /// Ctrl+Z in a box where nothing typed is left to undo.
+    void Defait();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

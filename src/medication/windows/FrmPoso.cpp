@@ -24,6 +24,7 @@ void FrmPoso::Branche()
     for (int i = 0; i < kNbCboP; ++i) {
         connect(cboP_[size_t(i)], &BoiteCboP::Change, this,
                 [this, i](const QString& texte) { Change(i, texte); });
+        connect(cboP_[size_t(i)], &BoiteCboP::Defait, txtPoso_, &QPlainTextEdit::undo);
     }
     connect(txtPoso_, &QPlainTextEdit::textChanged, this,
             [this] { lblX_->setVisible(ResteUnX(txtPoso_->toPlainText())); });

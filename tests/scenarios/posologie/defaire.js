@@ -29,11 +29,23 @@ let n = 0;
 while (texte(P) !== main && n < 10) { touche(P, "Ctrl+Z"); ++n; }
 egal(texte(P), main, "retrouvé en " + n);
 taper(P, " max 3");
+const gardee = texte(P);
+choisir(c(1), 3); focus(P); taper(P, " corrigée");
+const corrigee = texte(P);
+choisir(c(5), 7);
+boite(); repondre(null);
+egal(texte(P), corrigee, "sans quantité, ce qui est corrigé à la main reste tel quel");
+saisir(P, gardee);
 const deux = texte(P);
 taper(c(5), "au lever du soleil");
 n = 0; focus(P);
 while (texte(P) !== deux && n < 40) { touche(P, "Ctrl+Z"); ++n; }
 egal(texte(P), deux, "retrouvé en " + n);
-touche(c(5), "Ctrl+Z");
-egal(texte(P).length > 0, true, "Ctrl+Z dans une liste : " + texte(c(5)) + " / " + texte(P));
+
+// Le curseur est encore dans la liste : Ctrl+Z y défait le choix, lui aussi.
+saisir(P, "encore à moi");
+choisir(c(6), 0);
+different(texte(P), "encore à moi", "le choix recompose");
+touche(c(6), "Ctrl+Z");
+egal(texte(P), "encore à moi", "et se défait sans quitter la liste");
 clic("FrmPoso.CmdAnnule");
