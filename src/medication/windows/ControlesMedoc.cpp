@@ -45,15 +45,6 @@ QHBoxLayout* Rang(std::initializer_list<QWidget*> gauche, std::initializer_list<
     return rang;
 }
 
-QVBoxLayout* DansCarte(QWidget* carte)
-{
-    auto* disposition = new QVBoxLayout(carte);
-    disposition->setContentsMargins(style::kMargeCarte, style::kMargeCarte, style::kMargeCarte,
-                                    style::kMargeCarte);
-    disposition->setSpacing(style::kDansGroupe);
-    return disposition;
-}
-
 void ConstruitArbre(ControlesMedoc& c, QWidget* parent)
 {
     c.TV = new QTreeView(parent);
@@ -218,7 +209,7 @@ QWidget* CarteMedicament(ControlesMedoc& c, QDialog* f)
     c.LstOffres->setAccessibleName(QStringLiteral("Posologies déjà écrites"));
     c.TxtPoso->PoseOffres(c.LstOffres);
     BoutonsMedicament(c, carte);
-    QVBoxLayout* disposition = DansCarte(carte);
+    QVBoxLayout* disposition = style::DansCarte(carte);
     QLabel* titre = style::Titre({}, QStringLiteral("Mé&dicament choisi"), carte, c.TxtMedoc);
     c.HlbG = DeBanque(c, style::Legende(QStringLiteral("HlbG"), QStringLiteral(" Génériques"), carte));
     disposition->addLayout(Rang({titre}, {c.HlbG, c.CmdAide}));
@@ -292,7 +283,7 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
                                  QStringLiteral("&Imprimer duplicata"), carte);
     c.ChkTri = new CaseEtiquetee(QStringLiteral("ChkTri"), QStringLiteral("Label9"),
                                  QStringLiteral("I&mprimer triplicata"), carte);
-    QVBoxLayout* disposition = DansCarte(carte);
+    QVBoxLayout* disposition = style::DansCarte(carte);
     QLayout* zones = Zones(c, carte);
     c.HlbI = DeBanque(c, style::Legende(QStringLiteral("HlbI"), QStringLiteral(" Interactions"), carte));
     QHBoxLayout* cases = Rang({titre, c.HlbI, c.ImgUp, c.ImgDown}, {c.ChkALD, c.ChkDup, c.ChkTri});

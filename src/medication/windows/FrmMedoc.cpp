@@ -68,7 +68,7 @@ void FrmMedoc::RelieRecherche()
     });
     connect(c_.TxtCherche, &QLineEdit::textChanged, this, &FrmMedoc::RechercheChange);
     connect(c_.TxtCherche, &ChampCherche::Entree, this, &FrmMedoc::EntreeRecherche);
-    connect(c_.TxtCherche, &ChampCherche::Bas, c_.TV, qOverload<>(&QWidget::setFocus));
+    connect(c_.TxtCherche, &ChampCherche::Bas, this, &FrmMedoc::DescendDansArbre);
     connect(c_.TxtCherche, &ChampCherche::Presse, this, [this] {
         if (PresseRecherche(contexte_.Choix)) {
             c_.TxtCherche->selectAll();
@@ -227,6 +227,14 @@ void FrmMedoc::ClicNoeud(int rang)
     }
 }
 
+void FrmMedoc::DescendDansArbre()
+{
+    const int rang = std::max(NoeudSelectionne(), 0);
+    SelectionneNoeud(rang);
+    c_.TV->setFocus();
+    LitNoeud(rang);
+}
+
 bool FrmMedoc::LitNoeud(int rang)
 {
     std::optional<Saisie> lue;
@@ -314,6 +322,7 @@ bool FrmMedoc::eventFilter(QObject* objet, QEvent* event)
     if (event->type() == QEvent::KeyPress && objet == c_.TV) {
         const int touche = static_cast<QKeyEvent*>(event)->key();
         if (touche == Qt::Key_Return || touche == Qt::Key_Enter || touche == Qt::Key_Space) {
+            SelectionneNoeud(std::max(c_.TV->currentIndex().row(), 0));
             ClicNoeud(NoeudSelectionne());
             return true;
         }

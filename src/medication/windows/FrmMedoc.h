@@ -44,6 +44,8 @@ private:
     void RechercheChange();
     void PresseArbre();
     void ClicNoeud(int rang);
+    /// From the search box to the node found, else to the first one.
+    void DescendDansArbre();
     /// Shows what a node holds in both boxes. False when there is nothing to show.
     bool LitNoeud(int rang);
     void ModifieMedicament();

@@ -18,19 +18,6 @@ namespace medication {
 
 namespace style = application::style;
 
-namespace {
-
-QVBoxLayout* DansCarte(QWidget* carte)
-{
-    auto* disposition = new QVBoxLayout(carte);
-    disposition->setContentsMargins(style::kMargeCarte, style::kMargeCarte, style::kMargeCarte,
-                                    style::kMargeCarte);
-    disposition->setSpacing(style::kDansGroupe);
-    return disposition;
-}
-
-} // namespace
-
 FrmNouveauM::FrmNouveauM(application::Contexte& contexte, application::Fenetres&) : contexte_(contexte)
 {
     setObjectName(QStringLiteral("FrmNouveauM"));
@@ -78,7 +65,7 @@ QWidget* FrmNouveauM::FaitSaisie()
     txtPoso_->setObjectName(QStringLiteral("TxtPoso"));
     txtPoso_->setTabChangesFocus(true);
     lblPoso_ = style::Titre(QStringLiteral("LblPoso"), QStringLiteral("&Posologie"), carte, txtPoso_);
-    QVBoxLayout* disposition = DansCarte(carte);
+    QVBoxLayout* disposition = style::DansCarte(carte);
     disposition->addWidget(lblTitre_);
     disposition->addWidget(txtNom_);
     disposition->addSpacing(style::kDansGroupe);
@@ -97,7 +84,7 @@ QWidget* FrmNouveauM::FaitListe()
         style::Titre(QStringLiteral("LblPharma"), QStringLiteral("P&HARMACIE PERSONNELLE"), carte, lstP_);
     cmdSupp_ = style::Bouton(QStringLiteral("CmdSupp"), QStringLiteral("S&upprimer"),
                              QStringLiteral("trash3"), carte);
-    QVBoxLayout* disposition = DansCarte(carte);
+    QVBoxLayout* disposition = style::DansCarte(carte);
     disposition->addWidget(lblPharma_);
     disposition->addWidget(lstP_, 1);
     disposition->addWidget(cmdSupp_, 0, Qt::AlignLeft);

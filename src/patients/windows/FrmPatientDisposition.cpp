@@ -13,15 +13,6 @@ namespace style = application::style;
 
 namespace {
 
-QVBoxLayout* Colonne(QWidget* carte)
-{
-    auto* colonne = new QVBoxLayout(carte);
-    colonne->setContentsMargins(style::kMargeCarte, style::kMargeCarte, style::kMargeCarte,
-                                style::kMargeCarte);
-    colonne->setSpacing(style::kDansGroupe);
-    return colonne;
-}
-
 /// Room for that many lines, so that nothing below moves from one patient to the next.
 void ReserveLignes(QLabel& etiquette, int lignes)
 {
@@ -53,7 +44,7 @@ void FrmPatient::Dispose()
 QWidget* FrmPatient::FaitListe()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Colonne(carte);
+    auto* colonne = style::DansCarte(carte);
     lstPatient_ = new ListeChoix(carte);
     lstPatient_->setObjectName(QStringLiteral("LstPatient"));
     lstPatient_->setUniformItemSizes(true);
@@ -75,7 +66,7 @@ QWidget* FrmPatient::FaitListe()
 QWidget* FrmPatient::FaitChoix()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Colonne(carte);
+    auto* colonne = style::DansCarte(carte);
     lblTitre_ = style::Titre(QStringLiteral("LblTitre"), {}, carte);
     lblPatient_ = style::Legende(QStringLiteral("LblPatient"), {}, carte);
     ReserveLignes(*lblTitre_, 3);
@@ -96,7 +87,7 @@ QWidget* FrmPatient::FaitChoix()
 QWidget* FrmPatient::FaitAutres()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Colonne(carte);
+    auto* colonne = style::DansCarte(carte);
     cmdNouveauPatient_ =
         style::Bouton(QStringLiteral("CmdNouveauPatient"), QStringLiteral("&Nouveau patient"),
                       QStringLiteral("person-plus"), carte);

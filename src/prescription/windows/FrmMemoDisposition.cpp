@@ -40,10 +40,7 @@ void FrmMemo::Dispose()
 QWidget* FrmMemo::FaitListe(int rang, const QString& nomTitre, const QString& titre, const QString& vide)
 {
     QWidget* carte = style::Carte(this);
-    auto* colonne = new QVBoxLayout(carte);
-    colonne->setContentsMargins(style::kMargeCarte, style::kMargeCarte, style::kMargeCarte,
-                                style::kMargeCarte);
-    colonne->setSpacing(style::kDansGroupe);
+    QVBoxLayout* colonne = style::DansCarte(carte);
     auto* liste = new ListeTitres(QStringLiteral("LstMemo(%1)").arg(rang), vide, carte);
     liste->setModel(&memos_[static_cast<size_t>(rang)]);
     liste->setAccessibleName(titre);

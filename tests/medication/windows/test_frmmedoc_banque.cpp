@@ -177,6 +177,36 @@ private Q_SLOTS:
         QCOMPARE(Lignes("MedUtile"), QStringList({QStringLiteral("3400930000011")}));
     }
 
+    void TheKeyboardReachesTheOnlyPack()
+    {
+        auto* cherche = Trouve<QLineEdit>("TxtCherche");
+        Cherche("DOLIR");
+        QTest::keyClick(cherche, Qt::Key_Down);
+        QCOMPARE(Focus(), QStringLiteral("TV"));
+        QCOMPARE(Texte("TxtMedoc"), QStringLiteral("DOLIRHUME & co"));
+        QTest::keyClick(fenetre_->focusWidget(), Qt::Key_Return);
+        QTest::keyClick(fenetre_->focusWidget(), Qt::Key_Return);
+        QCOMPARE(prescription::IdentifiantDeLigne(Ordo().LstChoix1.Lignes()[0].Texte), QStringLiteral("102"));
+    }
+
+    void EnterReadsTheNodeThatTabReached()
+    {
+        Cherche("DOLIR");
+        Trouve<QTreeView>("TV")->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(fenetre_->focusWidget(), Qt::Key_Return);
+        QCOMPARE(Texte("TxtMedoc"), QStringLiteral("DOLIRHUME & co"));
+    }
+
+    void AnEmptyTreeTakesNoKey()
+    {
+        Cherche("RIEN");
+        for (const auto touche : {Qt::Key_Down, Qt::Key_Return}) {
+            QTest::keyClick(Trouve<QLineEdit>("TxtCherche"), touche);
+            QTest::keyClick(Trouve<QTreeView>("TV"), touche);
+        }
+        QCOMPARE(Texte("TxtMedoc"), QString());
+    }
+
     void TheCommonNameComesAndGoes()
     {
         Cherche("DOLI");
