@@ -33,7 +33,6 @@ FrmCertif::FrmCertif(application::Contexte& contexte, application::Fenetres&)
         [this](const MiseEnPage& miseEnPage) { RemetMiseEnPage(miseEnPage); });
     Branche();
     Charge();
-    LstCertif_->setFocus();
 }
 
 FrmCertif::~FrmCertif() = default;
@@ -95,6 +94,7 @@ void FrmCertif::Charge()
     MontreListe(ListeModeles(contexte_.Chemins.CheminTravail));
     Selectionne(-1);
     MontreReglages();
+    LstCertif_->setFocus();
 }
 
 /// What another window or another station may have changed meanwhile.

@@ -142,6 +142,7 @@ void FrmCertif::DecaleAGauche()
             RemetTexte(*decale);
         } else {
             CmdDecG_->setEnabled(false);
+            TxtCert_->setFocus();
         }
     });
 }
@@ -150,6 +151,7 @@ void FrmCertif::AnnuleDecalage()
 {
     CmdAnnule_->setEnabled(false);
     CmdDecG_->setEnabled(true);
+    TxtCert_->setFocus();
     ChoixChange();
 }
 
@@ -177,6 +179,7 @@ void FrmCertif::EnregistreModele()
     Tente([&] {
         EcritModele(contexte_.Chemins.CheminTravail, Modele(), TxtCert_->Texte(), contexte_.Certificat);
         CmdEnr_->setEnabled(false);
+        TxtCert_->setFocus();
     });
 }
 

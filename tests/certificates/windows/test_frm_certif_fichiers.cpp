@@ -11,6 +11,8 @@ class TestFrmCertifFichiers : public QObject
 private Q_SLOTS:
     void SaveOver();
     void SaveUnderAnotherName();
+    void AButtonThatGreysItselfLeavesTheFocusToTheText();
+    void SavingUnderANameLeavesTheFocusToTheList();
     void Delete();
     void Font();
     void WriteToThePage();
@@ -55,6 +57,32 @@ void TestFrmCertifFichiers::SaveUnderAnotherName()
     poste.F().findChild<QAction*>(QStringLiteral("mnuEnrSous"))->trigger();
     QCOMPARE(poste.Rang(), 2);
     QVERIFY(poste.C("CmdEnr")->isEnabled());
+}
+
+void TestFrmCertifFichiers::AButtonThatGreysItselfLeavesTheFocusToTheText()
+{
+    Poste poste;
+    poste.Choisit(0);
+    poste.C("CmdEnr")->setFocus();
+    poste.F().findChild<QAction*>(QStringLiteral("mnuEnr"))->trigger();
+    QCOMPARE(poste.F().focusWidget(), poste.Zone());
+    poste.C("CmdDecG")->setFocus();
+    QTest::keyClick(poste.C("CmdDecG"), Qt::Key_Space);
+    QVERIFY(!poste.C("CmdDecG")->isEnabled());
+    QCOMPARE(poste.F().focusWidget(), poste.Zone());
+    poste.C("CmdAnnule")->setFocus();
+    QTest::keyClick(poste.C("CmdAnnule"), Qt::Key_Space);
+    QCOMPARE(poste.F().focusWidget(), poste.Zone());
+}
+
+void TestFrmCertifFichiers::SavingUnderANameLeavesTheFocusToTheList()
+{
+    Poste poste;
+    poste.Tape(QStringLiteral("Nouveau"));
+    poste.C("CmdEnr")->setFocus();
+    poste.Boites.AttendEnregistre(messages::TitreEnregistrement(), poste.Fichier(QStringLiteral("Bilan")));
+    QTest::keyClick(poste.C("CmdEnr"), Qt::Key_Space);
+    QCOMPARE(poste.F().focusWidget(), poste.Liste());
 }
 
 void TestFrmCertifFichiers::Delete()
