@@ -32,6 +32,12 @@ QByteArray TexteChamp(const QString& champ)
     return '"' + common::VersWindows1252(propre) + '"';
 }
 
+QString TexteTenu(const QString& texte)
+{
+    const QByteArray champ = TexteChamp(texte);
+    return common::DepuisWindows1252(QByteArrayView(champ).sliced(1, champ.size() - 2));
+}
+
 QByteArray TexteChamp(float champ)
 {
     return common::TexteSimple(champ).toLatin1();

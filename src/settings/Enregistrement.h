@@ -16,6 +16,9 @@ requires std::is_integral_v<Entier> QByteArray TexteChamp(Entier champ)
     return QByteArray::number(static_cast<qlonglong>(champ));
 }
 
+/// The text as a record gives it back.
+QString TexteTenu(const QString& texte);
+
 /// True when a text comes back as it is from a record: no double quote, no line end, all of Windows-1252.
 bool TientDansEnregistrement(QStringView texte);
 

@@ -126,9 +126,14 @@ FrmOptions::Boutons FrmOptions::AjouteBoutons(QWidget* cadre, int membre)
 
 void FrmOptions::Ouvre(int onglet)
 {
+    if (concepteur_ && concepteur_->isVisible()) {
+        concepteur_->raise();
+        concepteur_->activateWindow();
+        return;
+    }
     Selectionne(onglet);
     if (boucle_) {
-        ailleurs_ = false;
+        concepteur_ = nullptr;
         show();
     } else if (!isVisible()) {
         Execute();
@@ -161,7 +166,7 @@ void FrmOptions::Execute()
 void FrmOptions::setVisible(bool visible)
 {
     QDialog::setVisible(visible);
-    if (!visible && boucle_ && !ailleurs_) {
+    if (!visible && boucle_ && !concepteur_) {
         boucle_->quit();
     }
 }
@@ -171,10 +176,11 @@ template <typename Concepteur> void FrmOptions::OuvreConcepteur()
     if (!startup::ExigeMedecin(contexte_)) {
         return;
     }
-    ailleurs_ = true;
+    auto& concepteur = fenetres_.Donne<Concepteur>();
+    concepteur_ = &concepteur;
     hide();
-    fenetres_.Donne<Concepteur>().exec();
-    ailleurs_ = false;
+    concepteur.exec();
+    concepteur_ = nullptr;
     if (!isVisible() && boucle_) {
         boucle_->quit(); // the program ends
     }

@@ -4,6 +4,7 @@
 #include "settings/SaisieOptions.h"
 
 #include <QDialog>
+#include <QPointer>
 
 class QEventLoop;
 class QPushButton;
@@ -25,7 +26,8 @@ public:
     FrmOptions(application::Contexte& contexte, application::Fenetres& fenetres);
     ~FrmOptions() override;
 
-    /// Opens modally on a tab, 1 to 7. In a use that is under way it only brings the window back on the tab.
+    /// Opens modally on a tab, 1 to 7. In a use that is under way it only brings the window back on the tab,
+    /// or to the front the designer that stands in its place.
     void Ouvre(int onglet);
     /// Opens on the printers: the doctor has to choose, and there is no way back. False when the program
     /// ended meanwhile.
@@ -69,7 +71,7 @@ private:
     QList<Onglet*> onglets_;
     QList<Boutons> boutons_;
     QEventLoop* boucle_ = nullptr; ///< of the use under way
-    bool ailleurs_ = false;        ///< a designer stands in its place
+    QPointer<QDialog> concepteur_; ///< the designer that stands in its place
 };
 
 } // namespace settings

@@ -3,8 +3,9 @@
 #include "application/windows/Style.h"
 #include "common/Nombres.h"
 #include "outside/Boites.h"
-#include "patients/windows/ChampSelectionne.h"
+#include "settings/Enregistrement.h"
 #include "settings/messages.h"
+#include "settings/windows/BoiteMillimetres.h"
 #include "settings/windows/MotDesCopies.h"
 #include "settings/windows/Pastille.h"
 
@@ -19,8 +20,6 @@ namespace style = application::style;
 namespace {
 
 constexpr int kHauteurDuMot = 150; ///< two lines of 40 points
-constexpr int kLargeurBoite = 84;
-constexpr int kLongueurBoite = 12; ///< characters
 
 } // namespace
 
@@ -90,11 +89,7 @@ QWidget* OngletDuplicata::CarteDeLaPlace()
     auto* rangee = new QHBoxLayout;
     rangee->setSpacing(style::kDansGroupe);
     const auto pose = [&](const char* nom, const QString& legende, const QString& nomAccessible) {
-        auto* boite = new patients::ChampSelectionne(carte);
-        boite->setObjectName(QLatin1String(nom));
-        boite->setFixedWidth(kLargeurBoite);
-        boite->setMaxLength(kLongueurBoite);
-        boite->setAlignment(Qt::AlignRight);
+        auto* boite = new BoiteMillimetres(nom, carte);
         rangee->addWidget(
             style::Legende(QStringLiteral("Lbl") + QLatin1String(nom).mid(3), legende, carte, boite));
         style::Nomme(boite, nomAccessible);
@@ -146,7 +141,7 @@ void OngletDuplicata::ChoisitTexte()
                                         .Titre = messages::TitreDupli()})
                               .value_or(QString());
     if (!texte.isEmpty()) {
-        LblDup_->setText(texte);
+        LblDup_->setText(TexteTenu(texte));
     }
 }
 

@@ -1,11 +1,10 @@
 #include "settings/windows/OngletLogo.h"
 
 #include "application/windows/Style.h"
-#include "patients/windows/ChampSelectionne.h"
 #include "settings/LogoOptions.h"
+#include "settings/windows/BoiteMillimetres.h"
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -20,8 +19,6 @@ namespace style = application::style;
 namespace {
 
 constexpr QSize kPlaceDeLImage(521, 185); ///< in pixels at 100 %
-constexpr int kLargeurBoite = 84;
-constexpr int kLongueurBoite = 12; ///< characters
 
 } // namespace
 
@@ -88,10 +85,10 @@ QWidget* OngletLogo::CarteDesMesures()
     grille->setVerticalSpacing(style::kDansGroupe);
     const auto pose = [&](int rangee, int colonne, const char* nom, const QString& legende,
                           const QString& nomAccessible, const QString& unite) {
-        QLineEdit* boite = Boite(nom, nomAccessible, carte);
+        auto* boite = new BoiteMillimetres(nom, carte);
         auto* etiquette =
             style::Legende(QStringLiteral("Lbl") + QLatin1String(nom).mid(3), legende, carte, boite);
-        boite->setAccessibleName(nomAccessible);
+        style::Nomme(boite, nomAccessible);
         grille->addWidget(etiquette, rangee, colonne);
         grille->addWidget(boite, rangee, colonne + 1);
         grille->addWidget(style::Legende({}, unite, carte), rangee, colonne + 2);
@@ -112,22 +109,11 @@ QWidget* OngletLogo::CarteDesMesures()
     return carte;
 }
 
-QLineEdit* OngletLogo::Boite(const char* nom, const QString& nomAccessible, QWidget* carte)
-{
-    auto* boite = new patients::ChampSelectionne(carte);
-    boite->setObjectName(QLatin1String(nom));
-    boite->setFixedWidth(kLargeurBoite);
-    boite->setMaxLength(kLongueurBoite);
-    boite->setAlignment(Qt::AlignRight);
-    style::Nomme(boite, nomAccessible);
-    return boite;
-}
-
 void OngletLogo::Branche()
 {
     Options& options = contexte_.Reglages.Options;
-    TxtH_->installEventFilter(this);
-    TxtL_->installEventFilter(this);
+    connect(TxtH_, &ChampMesure::Pris, this, [this] { contexte_.Reglages.EnCours.SaisieLogo = 0; });
+    connect(TxtL_, &ChampMesure::Pris, this, [this] { contexte_.Reglages.EnCours.SaisieLogo = 1; });
     connect(ChkLog_, &QCheckBox::clicked, this, &OngletLogo::Insere);
     connect(OptG_, &QRadioButton::clicked, this, [&options] { options.PositionLogo = 1; });
     connect(OptD_, &QRadioButton::clicked, this, [&options] { options.PositionLogo = 2; });
@@ -193,7 +179,7 @@ void OngletLogo::MontreImage()
 
 void OngletLogo::MontreMesures(const QStringList& textes)
 {
-    QLineEdit* boites[] = {TxtH_, TxtL_, TxtX_, TxtY_};
+    BoiteMillimetres* boites[] = {TxtH_, TxtL_, TxtX_, TxtY_};
     for (int rang = 0; rang < 4; ++rang) {
         const QSignalBlocker sansProportion(boites[rang]);
         boites[rang]->setText(textes.at(rang));
@@ -202,7 +188,7 @@ void OngletLogo::MontreMesures(const QStringList& textes)
 
 void OngletLogo::PermetMesures(bool oui)
 {
-    for (QLineEdit* boite : {TxtH_, TxtL_, TxtX_, TxtY_}) {
+    for (QWidget* boite : std::initializer_list<QWidget*>{TxtH_, TxtL_, TxtX_, TxtY_}) {
         boite->setEnabled(oui);
     }
 }
@@ -221,14 +207,6 @@ void OngletLogo::SuitLargeur(const QString& texte)
     if (enCours.SaisieLogo == 1) {
         TxtH_->setText(HauteurPour(texte, enCours.RatioLogo, TxtH_->text()));
     }
-}
-
-bool OngletLogo::eventFilter(QObject* objet, QEvent* evenement)
-{
-    if (evenement->type() == QEvent::FocusIn) {
-        contexte_.Reglages.EnCours.SaisieLogo = objet == TxtL_ ? 1 : 0;
-    }
-    return Onglet::eventFilter(objet, evenement);
 }
 
 void OngletLogo::Lit(SaisieOptions& saisie) const

@@ -5,11 +5,12 @@
 
 class QCheckBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QRadioButton;
 
 namespace settings {
+
+class BoiteMillimetres;
 
 /// Tab 6: the picture of the letterhead, its place and size.
 class OngletLogo : public Onglet
@@ -23,14 +24,10 @@ public:
     QString Titre() const override { return QStringLiteral("Logo"); }
     void Lit(SaisieOptions& saisie) const override;
 
-    /// A box that gets the focus tells which way the proportion runs.
-    bool eventFilter(QObject* objet, QEvent* evenement) override;
-
 private:
     QWidget* CarteDeLImage();
     QWidget* CarteDesMesures();
     QLayout* RangeeDePosition(QWidget* carte);
-    QLineEdit* Boite(const char* nom, const QString& nomAccessible, QWidget* carte);
     void Branche();
     void Charge();
     void Insere(bool oui);
@@ -47,10 +44,10 @@ private:
     QRadioButton* OptD_ = nullptr;
     QPushButton* CmdChemin_ = nullptr;
     QLabel* Img_ = nullptr;
-    QLineEdit* TxtH_ = nullptr;
-    QLineEdit* TxtL_ = nullptr;
-    QLineEdit* TxtX_ = nullptr;
-    QLineEdit* TxtY_ = nullptr;
+    BoiteMillimetres* TxtH_ = nullptr;
+    BoiteMillimetres* TxtL_ = nullptr;
+    BoiteMillimetres* TxtX_ = nullptr;
+    BoiteMillimetres* TxtY_ = nullptr;
     bool avecImage_ = false;
 };
 

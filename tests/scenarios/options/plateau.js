@@ -1,0 +1,23 @@
+// The tray's menu while the options, or a designer in their place, are open: what is open comes to the front.
+installer();
+clic("FrmDepart.CmdNO");
+icone("droit");
+clic("FrmDepart.mnuOptions");
+egal(selection("FrmOptions.TS"), 1, "les options générales");
+cocher("FrmOptions.ChkP", false);
+choisir("FrmOptions.TS", "Configuration");
+clic("FrmOptions.CmdET");
+vrai(ouverte("FrmEntete"), "l'en-tête à la place des options");
+icone("droit");
+clic("FrmDepart.mnuOptions");
+egal(fenetreActive(), "FrmEntete", "l'en-tête reste devant");
+faux(ouverte("FrmOptions"), "les options attendent");
+clic("FrmEntete.CmdQuitter");
+vrai(ouverte("FrmOptions"), "elles reviennent");
+egal(valeur("AffichePoids"), 0, "comme elles étaient");
+icone("droit");
+clic("FrmDepart.mnuOptions");
+egal(selection("FrmOptions.TS"), 1, "ouvertes, elles changent d'onglet");
+clic("FrmOptions.CmdAnnule");
+faux(ouverte("FrmOptions"), "et se ferment une fois pour toutes");
+egal(valeur("AffichePoids"), 1, "annulées");
