@@ -1,7 +1,6 @@
 #include "medication/Memorisees.h"
 
 #include "medication/messages.h"
-#include "medication/messagesMemorisees.h"
 #include "outside/Boites.h"
 #include "prescription/Ordonnance.h"
 #include "startup/Chemins.h"
@@ -19,8 +18,7 @@ storage::Base& Medoc(application::Contexte& contexte)
 bool DAncienFormat(const application::Contexte& contexte)
 {
     const prescription::Ordonnance& ordonnance = contexte.Ordonnance;
-    return drugbank::EnModeBanque(contexte.Banque) && ordonnance.CleMemo &&
-           ordonnance.CodesMemo.contains(u'0');
+    return drugbank::EnModeBanque(contexte.Banque) && ordonnance.CleMemo && ordonnance.AncienFormat;
 }
 
 /// True when the doctor wants to choose the prescription again.
@@ -41,12 +39,24 @@ bool Convertit(application::Contexte& contexte)
 
 QList<prescription::Memorisee> PrepareMemorisees(application::Contexte& contexte)
 {
-    contexte.Ordonnance.CodesMemo.clear();
+    contexte.Ordonnance.AncienFormat = false;
     const auto memorisees = prescription::ListeMemorisees(Medoc(contexte), contexte.Patient);
     if (memorisees.isEmpty()) {
         contexte.Dehors.Boites.Information(messages::AucunModele());
     }
     return memorisees;
+}
+
+bool MontreZone2(const prescription::Ordonnance& ordonnance)
+{
+    return ordonnance.ChkALD == 1 && !ordonnance.LstChoix2.Vide();
+}
+
+void SignaleZone2Cachee(application::Contexte& contexte, bool montreeAvant)
+{
+    if (montreeAvant && !MontreZone2(contexte.Ordonnance)) {
+        contexte.Dehors.Boites.Information(messages::Zone2Cachee());
+    }
 }
 
 bool ProposeConversion(application::Contexte& contexte)

@@ -3,9 +3,11 @@
 #include "application/Signaux.h"
 #include "outside/Boites.h"
 #include "prescription/ListeMemo.h"
-#include "prescription/messagesMemoire.h"
+#include "prescription/messages.h"
 #include "startup/Chemins.h"
 #include "storage/Bases.h"
+
+#include <algorithm>
 
 namespace prescription {
 
@@ -13,15 +15,18 @@ namespace {
 
 constexpr int kBlancsRelue = 300;
 
-void AjouteRelue(Ordonnance& ordonnance, const LigneMemorisee& relue)
+void AjouteRelues(QList<Entree>& entrees, LignesZone& lignes, const QList<LigneMemorisee>& relues, int zone)
 {
-    const bool une = relue.Zone == 1;
-    QList<Entree>& entrees = une ? ordonnance.OrdoZone1 : ordonnance.OrdoZone2;
-    LignesZone& lignes = une ? ordonnance.LstChoix1 : ordonnance.LstChoix2;
-    const QString identifiant = relue.IdProduit.isEmpty() ? QStringLiteral("1") : relue.IdProduit;
-    entrees.append({relue.TitreLigne, relue.Posologie});
-    lignes.Ajoute(
-        {TexteDeLigne(relue.TitreLigne, kBlancsRelue, identifiant), static_cast<int>(entrees.size()) - 1});
+    QList<Ligne> rangees;
+    rangees.reserve(relues.size());
+    for (const LigneMemorisee& relue : relues) {
+        if (relue.Zone == zone) {
+            rangees.append({TexteDeLigne(relue.TitreLigne, kBlancsRelue, QString::number(relue.IdProduit)),
+                            static_cast<int>(entrees.size())});
+            entrees.append({relue.TitreLigne, relue.Posologie});
+        }
+    }
+    lignes.AjouteToutes(rangees);
 }
 
 } // namespace
@@ -64,25 +69,28 @@ void ChargeMemo(application::Contexte& contexte, quint8 ald)
         lignes = LitMemorisee(contexte.Bases.Medoc(contexte.Chemins.CheminTravail), *ordonnance.CleMemo);
     }
     ordonnance.ChkALD = ald;
-    ordonnance.CodesMemo.clear();
-    for (const LigneMemorisee& ligne : std::as_const(lignes)) {
-        AjouteRelue(ordonnance, ligne);
-        ordonnance.CodesMemo += u'*' + ligne.Converti;
-    }
+    ordonnance.AncienFormat = std::ranges::any_of(lignes, &LigneMemorisee::AncienFormat);
+    AjouteRelues(ordonnance.OrdoZone1, ordonnance.LstChoix1, lignes, 1);
+    AjouteRelues(ordonnance.OrdoZone2, ordonnance.LstChoix2, lignes, 2);
     ordonnance.OrdoMemorisee = 1;
     Q_EMIT contexte.Signaux.MemoireChange();
 }
 
-bool SupprimeMemo(application::Contexte& contexte, ListeMemo& liste, int rang)
+bool SupprimeMemo(application::Contexte& contexte, ListeMemo& liste, int rang, const MemoEnMain& enMain)
 {
-    const QString& titre = contexte.Ordonnance.TitreMemo;
-    if (!contexte.Dehors.Boites.Question(messages::SupprimerMemo(titre), outside::Bouton::Non)) {
+    Ordonnance& ordonnance = contexte.Ordonnance;
+    if (!contexte.Dehors.Boites.Question(messages::SupprimerMemo(ordonnance.TitreMemo),
+                                         outside::Bouton::Non)) {
         return false;
     }
     const std::optional<CleMemo> cle = liste.Cle(rang);
     if (cle) {
         SupprimeMemorisee(contexte.Bases.Medoc(contexte.Chemins.CheminTravail), *cle);
         liste.Retire(rang);
+        if (cle == enMain.CleMemo) {
+            ordonnance.OrdoMemorisee = 0;
+            Q_EMIT contexte.Signaux.MemoireChange();
+        }
     }
     return cle.has_value();
 }

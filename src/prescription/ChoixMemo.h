@@ -29,8 +29,9 @@ void ChoisitMemo(Ordonnance& ordonnance, const ListeMemo& liste, int rang);
 /// `Erreur`; nothing is changed then.
 void ChargeMemo(application::Contexte& contexte, quint8 ald);
 
-/// Asks and deletes the prescription chosen, then takes its row out. True when that was done. Throws
-/// `Erreur`; the row stays then, as does one beyond the 99th, whose prescription is not found.
-bool SupprimeMemo(application::Contexte& contexte, ListeMemo& liste, int rang);
+/// Asks and deletes the prescription chosen, then takes its row out. True when that was done. The one in
+/// hand is no memorised one any more when it was that. Throws `Erreur`; the row stays then, as does one
+/// beyond the 99th, whose prescription is not found.
+bool SupprimeMemo(application::Contexte& contexte, ListeMemo& liste, int rang, const MemoEnMain& enMain);
 
 } // namespace prescription

@@ -36,7 +36,7 @@ void VideLesZones(Ordonnance& ordonnance)
     ordonnance.NbMedZone2 = 0;
     ordonnance.ChkALD = 0;
     ordonnance.OrdoMemorisee = 0;
-    ordonnance.CodesMemo.clear();
+    ordonnance.AncienFormat = false;
 }
 
 // A text that cannot be deleted is only the draft of a certificate: it keeps nobody from a new document.

@@ -32,11 +32,14 @@ QVariant LignesZone::data(const QModelIndex& index, int role) const
     }
 }
 
-void LignesZone::Ajoute(const Ligne& ligne)
+void LignesZone::AjouteToutes(const QList<Ligne>& lignes)
 {
+    if (lignes.isEmpty()) {
+        return;
+    }
     const int rang = rowCount();
-    beginInsertRows({}, rang, rang);
-    lignes_.append(ligne);
+    beginInsertRows({}, rang, rang + static_cast<int>(lignes.size()) - 1);
+    lignes_.append(lignes);
     endInsertRows();
 }
 

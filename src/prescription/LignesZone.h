@@ -27,7 +27,8 @@ public:
 
     const QList<Ligne>& Lignes() const { return lignes_; }
     bool Vide() const { return lignes_.isEmpty(); }
-    void Ajoute(const Ligne& ligne);
+    void Ajoute(const Ligne& ligne) { AjouteToutes({ligne}); }
+    void AjouteToutes(const QList<Ligne>& lignes);
     void Retire(int rang);
     /// Moves a row one place: `vers` is `rang` - 1 or `rang` + 1. A place outside the list changes nothing.
     void Deplace(int rang, int vers);

@@ -7,7 +7,6 @@
 #include "prescription/Ordonnance.h"
 #include "prescription/OrdosMemorisees.h"
 #include "prescription/messages.h"
-#include "prescription/messagesMemoire.h"
 #include "startup/Chemins.h"
 #include "startup/GestionMedecins.h"
 #include "storage/Bases.h"
@@ -16,12 +15,11 @@ namespace prescription {
 
 namespace {
 
-QString IdProduit(const Ligne& ligne, const QString& typeBase)
+int IdProduit(const Ligne& ligne, const QString& typeBase)
 {
-    const QString identifiant = IdentifiantDeLigne(ligne.Texte);
     bool nombre = false;
-    identifiant.toInt(&nombre);
-    return nombre && typeBase != QLatin1String("BIP") ? identifiant : QStringLiteral("1");
+    const int identifiant = IdentifiantDeLigne(ligne.Texte).toInt(&nombre);
+    return nombre && typeBase != QLatin1String("BIP") ? identifiant : 1;
 }
 
 void AjouteZone(QList<LigneMemorisee>& lignes, const LignesZone& rangees, const QList<Entree>& entrees,
@@ -29,8 +27,7 @@ void AjouteZone(QList<LigneMemorisee>& lignes, const LignesZone& rangees, const 
 {
     for (const Ligne& rangee : rangees.Lignes()) {
         const Entree entree = entrees.value(rangee.Indice);
-        lignes.append(
-            {entree.Titre, entree.Posologie, zone, IdProduit(rangee, typeBase), QStringLiteral("1")});
+        lignes.append({entree.Titre, entree.Posologie, zone, IdProduit(rangee, typeBase)});
     }
 }
 

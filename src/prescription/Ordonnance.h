@@ -32,8 +32,8 @@ struct Ordonnance
     QString TitreMemo;
     /// Where `TitreMemo` stands in the tables; nothing when its row stood beyond the 99th of its list.
     std::optional<prescription::CleMemo> CleMemo;
-    QString CodesMemo;    ///< "*" and `Converti` of each row of the last loading
-    QString LigneJournal; ///< of the last painting
+    bool AncienFormat = false; ///< a row of the last loading may date from before product ids were stored
+    QString LigneJournal;      ///< of the last painting
 };
 
 } // namespace prescription

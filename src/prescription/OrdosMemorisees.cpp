@@ -66,10 +66,19 @@ void AjouteLignes(storage::Base& medoc, const CleMemo& cle, const QList<LigneMem
     for (const LigneMemorisee& ligne : lignes) {
         medoc.Execute(
             QStringLiteral("insert into OrdoEnr (Titre, TitreLigne, Posologie, Zone, Patient, Datenais, "
-                           "IdProduit, Converti) values (?, ?, ?, ?, ?, ?, ?, ?)"),
+                           "IdProduit, Converti) values (?, ?, ?, ?, ?, ?, ?, 1)"),
             {cle.Titre, ligne.TitreLigne, ligne.Posologie, ligne.Zone, cle.NomPatient, cle.Datenais,
-             ligne.IdProduit.toInt(), ligne.Converti.toInt()});
+             ligne.IdProduit});
     }
+}
+
+/// The columns are `TitreLigne`, `Posologie`, `Zone`, `IdProduit`, `Converti`.
+LigneMemorisee LigneDe(const storage::Rangee& rangee)
+{
+    const qint64 idProduit = rangee.Entier(3);
+    return {rangee.Texte(0), rangee.Texte(1), rangee.Entier(2) == 2 ? 2 : 1,
+            idProduit == 0 && rangee.EstNull(3) ? 1 : idProduit,
+            rangee.Entier(4) != 1 && rangee.Texte(4).contains(u'0')};
 }
 
 /// What a line of an old version is given; nothing when the bank does not know its code.
@@ -120,14 +129,10 @@ QList<LigneMemorisee> LitMemorisee(storage::Base& medoc, const CleMemo& cle)
     QList<LigneMemorisee> lignes;
     lignes.reserve(kLignesCourantes);
     const Condition condition = DansLignes(cle);
-    const auto lit = [&](const storage::Rangee& rangee) {
-        lignes.append({rangee.Texte(0), rangee.Texte(1), rangee.Entier(2) == 2 ? 2 : 1, rangee.Texte(3),
-                       rangee.Texte(4)});
-    };
-    medoc.Parcourt(QStringLiteral("select TitreLigne, Posologie, Zone, IdProduit, Converti from OrdoEnr "
-                                  "where %1 order by rowid")
-                       .arg(condition.Texte),
-                   condition.Valeurs, lit);
+    medoc.Parcourt(
+        QStringLiteral("select TitreLigne, Posologie, Zone, IdProduit, Converti from OrdoEnr where ") +
+            condition.Texte + QStringLiteral(" order by rowid"),
+        condition.Valeurs, [&](const storage::Rangee& rangee) { lignes.append(LigneDe(rangee)); });
     return lignes;
 }
 

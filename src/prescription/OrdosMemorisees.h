@@ -29,9 +29,9 @@ struct LigneMemorisee
 {
     QString TitreLigne;
     QString Posologie;
-    int Zone = 1;      ///< 1 or 2
-    QString IdProduit; ///< the bank's product id, a CIP code in rows of an old version; "1" for none
-    QString Converti;  ///< "1", in rows of an old version also "0" or empty
+    int Zone = 1;              ///< 1 or 2
+    qint64 IdProduit = 1;      ///< the bank's product id, a CIP code in rows of an old version; 1 for none
+    bool AncienFormat = false; ///< read only: its `Converti` holds a "0"
     bool operator==(const LigneMemorisee&) const = default;
 };
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QSqlQuery>
 #include <QString>
-
-class QSqlQuery;
+#include <QVariant>
 
 namespace storage {
 
@@ -12,12 +12,12 @@ class Rangee
 public:
     explicit Rangee(const QSqlQuery& requete) : requete_(requete) {}
 
-    bool EstNull(int position) const;
+    bool EstNull(int position) const { return requete_.isNull(position); }
     /// Empty for null.
-    QString Texte(int position) const;
+    QString Texte(int position) const { return requete_.value(position).value<QString>(); }
     /// 0 for null and for what is no number.
-    qint64 Entier(int position) const;
-    double Reel(int position) const;
+    qint64 Entier(int position) const { return requete_.value(position).value<qint64>(); }
+    double Reel(int position) const { return requete_.value(position).value<double>(); }
 
 private:
     const QSqlQuery& requete_;

@@ -38,7 +38,7 @@ struct Cabinet : support::Monde
         QList<prescription::LigneMemorisee> lignes;
         for (int ligne = 0; ligne < kLignes; ++ligne) {
             lignes.append({Titre(ligne), QStringLiteral("1 comprimé matin* et soir pendant 30 jours"),
-                           1 + ligne / 10, QStringLiteral("1"), QStringLiteral("1")});
+                           1 + ligne / 10, 1});
         }
         storage::Transaction transaction(Medoc());
         for (int rang = 0; rang < kMemorisees; ++rang) {

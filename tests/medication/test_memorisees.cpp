@@ -1,6 +1,5 @@
 #include "medication/Memorisees.h"
 #include "medication/messages.h"
-#include "medication/messagesMemorisees.h"
 #include "prescription/ChoixMemo.h"
 #include "support/BaseDeTest.h"
 #include "support/Monde.h"
@@ -62,8 +61,10 @@ class TestMemorisees : public QObject
 
 private Q_SLOTS:
     void SansModeleUnMessage();
-    void ChargeLesLignesEtLeursCodes();
+    void ChargeLesLignesEtLeurFormat();
     void NeChargeRienQuandLaBaseEchoue();
+    void DitLaZoneCachee_data();
+    void DitLaZoneCachee();
     void NeDemandeRienSansZero_data();
     void NeDemandeRienSansZero();
     void ConvertitEtRecommence();
@@ -77,28 +78,30 @@ private Q_SLOTS:
 void TestMemorisees::SansModeleUnMessage()
 {
     Poste poste;
-    poste.Etat.Ordonnance.CodesMemo = u"*0"_s;
+    poste.Etat.Ordonnance.AncienFormat = true;
     poste.Boites.AttendInformation(messages::AucunModele());
     QVERIFY(PrepareMemorisees(poste.Contexte).isEmpty());
     QVERIFY(poste.Boites.Epuise());
-    QCOMPARE(poste.Etat.Ordonnance.CodesMemo, QString());
+    QVERIFY(!poste.Etat.Ordonnance.AncienFormat);
     support::AjouteLigne(poste.Medoc(), u"ListeOrdos"_s, {u"HTA"_s, u"*"_s, 0, u"0"_s});
     QCOMPARE(PrepareMemorisees(poste.Contexte).size(), 1);
 }
 
-void TestMemorisees::ChargeLesLignesEtLeursCodes()
+void TestMemorisees::ChargeLesLignesEtLeurFormat()
 {
     Poste poste;
     poste.Pose(u"3400930000011"_s, 0);
     poste.Pose(101, 1);
     poste.Pose({}, {});
+    poste.Pose(0, {});
     poste.Charge();
     const prescription::Ordonnance& ordonnance = poste.Etat.Ordonnance;
     const QString debut = u"  X"_s + QString(300, u' ');
-    QCOMPARE(ordonnance.LstChoix1.Lignes(),
-             (QList<prescription::Ligne>{
-                 {debut + u"3400930000011"_s, 0}, {debut + u"101"_s, 1}, {debut + u"1"_s, 2}}));
-    QCOMPARE(ordonnance.CodesMemo, u"*0*1*"_s);
+    QCOMPARE(ordonnance.LstChoix1.Lignes(), (QList<prescription::Ligne>{{debut + u"3400930000011"_s, 0},
+                                                                        {debut + u"101"_s, 1},
+                                                                        {debut + u"1"_s, 2},
+                                                                        {debut + u"0"_s, 3}}));
+    QVERIFY(ordonnance.AncienFormat);
     QCOMPARE(ordonnance.OrdoMemorisee, 1);
 }
 
@@ -111,6 +114,39 @@ void TestMemorisees::NeChargeRienQuandLaBaseEchoue()
     poste.Medoc().PoseCrochet({});
     QVERIFY(poste.Etat.Ordonnance.LstChoix1.Vide());
     QCOMPARE(poste.Etat.Ordonnance.OrdoMemorisee, 0);
+}
+
+void TestMemorisees::DitLaZoneCachee_data()
+{
+    QTest::addColumn<int>("avant"); // ChkALD
+    QTest::addColumn<bool>("lignes");
+    QTest::addColumn<int>("apres");
+    QTest::addColumn<bool>("dit");
+    QTest::newRow("hidden") << 1 << true << 0 << true;
+    QTest::newRow("still shown") << 1 << true << 1 << false;
+    QTest::newRow("not shown before") << 0 << true << 0 << false;
+    QTest::newRow("empty") << 1 << false << 0 << false;
+}
+
+void TestMemorisees::DitLaZoneCachee()
+{
+    QFETCH(int, avant);
+    QFETCH(bool, lignes);
+    QFETCH(int, apres);
+    QFETCH(bool, dit);
+    Poste poste;
+    prescription::Ordonnance& ordonnance = poste.Etat.Ordonnance;
+    ordonnance.ChkALD = static_cast<quint8>(avant);
+    if (lignes) {
+        ordonnance.LstChoix2.Ajoute({u"  X"_s, 0});
+    }
+    const bool montree = MontreZone2(ordonnance);
+    ordonnance.ChkALD = static_cast<quint8>(apres);
+    if (dit) {
+        poste.Boites.AttendInformation(messages::Zone2Cachee());
+    }
+    SignaleZone2Cachee(poste.Contexte, montree);
+    QVERIFY(poste.Boites.Epuise());
 }
 
 void TestMemorisees::NeDemandeRienSansZero_data()

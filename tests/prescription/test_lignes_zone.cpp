@@ -33,6 +33,7 @@ class TestLignesZone : public QObject
 
 private Q_SLOTS:
     void leModeleMontreTexteEtIndice();
+    void plusieursLignesArriventEnsemble();
     void lesLignesSeDeplacentDUnRang_data();
     void lesLignesSeDeplacentDUnRang();
     void uneLigneSeRetire();
@@ -54,6 +55,19 @@ void TestLignesZone::leModeleMontreTexteEtIndice()
     QCOMPARE(zone.data(zone.index(1), Qt::UserRole), 3);
     QVERIFY(!zone.data(zone.index(1), Qt::DecorationRole).isValid());
     QVERIFY(!zone.data(QModelIndex(), Qt::DisplayRole).isValid());
+}
+
+void TestLignesZone::plusieursLignesArriventEnsemble()
+{
+    LignesZone zone;
+    QAbstractItemModelTester testeur(&zone, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QSignalSpy arrivees(&zone, &QAbstractItemModel::rowsInserted);
+    zone.AjouteToutes({});
+    QCOMPARE(arrivees.size(), 0);
+    Remplit(zone);
+    zone.AjouteToutes({{u"d"_s, 4}, {u"e"_s, 5}});
+    QCOMPARE(arrivees.size(), 4);
+    QCOMPARE(Textes(zone), (QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s}));
 }
 
 void TestLignesZone::lesLignesSeDeplacentDUnRang_data()

@@ -30,7 +30,7 @@ patients::Patient Martin()
 
 LigneMemorisee Ligne(const QString& titre, int zone = 1)
 {
-    return {titre, u"1 matin*"_s, zone, u"1"_s, u"1"_s};
+    return {titre, u"1 matin*"_s, zone, 1};
 }
 
 QStringList Titres(const QList<LigneMemorisee>& lignes)
@@ -104,9 +104,9 @@ private Q_SLOTS:
 void TestOrdosMemorisees::RendCeQuiEstRange()
 {
     BaseDeTest base;
-    const QList<LigneMemorisee> lignes = {{u"#DOLIPRANE"_s, u"1 matin* et soir£"_s, 1, u"101"_s, u"1"_s},
-                                          {u"##"_s, QString(), 1, u"1"_s, u"1"_s},
-                                          {u"AMLOR"_s, u"1\n2"_s, 2, u"1"_s, u"1"_s}};
+    const QList<LigneMemorisee> lignes = {{u"#DOLIPRANE"_s, u"1 matin* et soir£"_s, 1, 101},
+                                          {u"##"_s, QString(), 1, 1},
+                                          {u"AMLOR"_s, u"1\n2"_s, 2, 1}};
     AjouteMemorisee(base.Medoc(), {DeMartin(u"HTA"_s), 1}, lignes);
     QCOMPARE(LitMemorisee(base.Medoc(), DeMartin(u"HTA"_s)), lignes);
     QCOMPARE(Lignes(base.Medoc(), kListe), QStringList{u"HTA|Monsieur  MARTIN  Paul|1|20/03/1953"_s});
@@ -270,9 +270,9 @@ void TestOrdosMemorisees::MarqueLaSienneSeule()
                               u"3400930000011"_s, 0});
     }
     MarqueConvertie(base.Medoc(), DeMartin(u"HTA"_s));
-    QCOMPARE(LitMemorisee(base.Medoc(), {u"HTA"_s}).at(0).Converti, u"0"_s);
-    QCOMPARE(LitMemorisee(base.Medoc(), DeMartin(u"HTA"_s)).at(0).Converti, u"1"_s);
-    QCOMPARE(LitMemorisee(base.Medoc(), DeMartin(u"HTA"_s)).at(0).IdProduit, u"3400930000011"_s);
+    QVERIFY(LitMemorisee(base.Medoc(), {u"HTA"_s}).at(0).AncienFormat);
+    QVERIFY(!LitMemorisee(base.Medoc(), DeMartin(u"HTA"_s)).at(0).AncienFormat);
+    QCOMPARE(LitMemorisee(base.Medoc(), DeMartin(u"HTA"_s)).at(0).IdProduit, 3400930000011);
 }
 
 QTEST_GUILESS_MAIN(TestOrdosMemorisees)

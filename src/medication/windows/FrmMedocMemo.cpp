@@ -1,6 +1,7 @@
 #include "medication/Memorisees.h"
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/FrmMedoc.h"
+#include "medication/windows/ListeLignes.h"
 #include "outside/Tente.h"
 #include "prescription/windows/FrmMemo.h"
 
@@ -25,6 +26,10 @@ bool FrmMedoc::ChoisitMemorisee()
     if (memorisees.isEmpty()) {
         return false;
     }
+    const prescription::Ordonnance& ordonnance = contexte_.Ordonnance;
+    const bool zone2 = MontreZone2(ordonnance);
+    const int premiere1 = ordonnance.LstChoix1.rowCount();
+    const int premiere2 = ordonnance.LstChoix2.rowCount();
     const bool chargee = fenetres_.Donne<prescription::FrmMemo>().Ouvre(memorisees);
     fenetres_.Decharge<prescription::FrmMemo>();
     if (!chargee) {
@@ -32,7 +37,10 @@ bool FrmMedoc::ChoisitMemorisee()
     }
     MontreZones();
     CocheCases();
+    c_.LstChoix1->scrollTo(ordonnance.LstChoix1.index(premiere1), QListView::PositionAtTop);
+    c_.LstChoix2->scrollTo(ordonnance.LstChoix2.index(premiere2), QListView::PositionAtTop);
     FocusRecherche();
+    SignaleZone2Cachee(contexte_, zone2);
     return ProposeConversion(contexte_);
 }
 

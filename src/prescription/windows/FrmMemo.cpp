@@ -2,8 +2,7 @@
 
 #include "outside/Tente.h"
 #include "patients/Patient.h"
-#include "prescription/ChoixMemo.h"
-#include "prescription/messagesMemoire.h"
+#include "prescription/messages.h"
 #include "prescription/windows/ChampRecherche.h"
 #include "prescription/windows/ListeTitres.h"
 
@@ -42,12 +41,12 @@ void FrmMemo::Branche()
 
 bool FrmMemo::Ouvre(const QList<Memorisee>& memorisees)
 {
-    const MemoEnMain avant = RetientMemo(contexte_.Ordonnance);
+    enMain_ = RetientMemo(contexte_.Ordonnance);
     Remplit(memorisees);
     if (exec() == QDialog::Accepted) {
         return true;
     }
-    RendMemo(contexte_.Ordonnance, avant);
+    RendMemo(contexte_.Ordonnance, enMain_);
     return false;
 }
 
@@ -135,7 +134,7 @@ void FrmMemo::Supprime()
         return;
     }
     const auto place = static_cast<size_t>(liste);
-    if (!SupprimeMemo(contexte_, memos_[place], LstMemo_[place]->Selection())) {
+    if (!SupprimeMemo(contexte_, memos_[place], LstMemo_[place]->Selection(), enMain_)) {
         return;
     }
     LstMemo_[place]->Selectionne(-1);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "application/windows/Fenetres.h"
+#include "prescription/ChoixMemo.h"
 #include "prescription/ListeMemo.h"
 
 #include <QDialog>
@@ -47,6 +48,7 @@ private:
 
     application::Contexte& contexte_;
     std::array<ListeMemo, 2> memos_;
+    MemoEnMain enMain_; ///< when the window opened
     std::array<ListeTitres*, 2> LstMemo_{};
     QLabel* HLB_ = nullptr;
     ChampRecherche* TxtRecherche_ = nullptr;

@@ -22,7 +22,7 @@ struct Scene : Cabinet
         storage::CreeBase(common::Joint(Etat.Chemins.CheminTravail, u"Medoc.mdb"_s),
                           storage::GenreBase::Medoc);
         for (const Memorisee& memorisee : Memorisees) {
-            AjouteMemorisee(Medoc(), memorisee, {{u"DE "_s + memorisee.Cle.Titre, {}, 1, u"1"_s, u"1"_s}});
+            AjouteMemorisee(Medoc(), memorisee, {{u"DE "_s + memorisee.Cle.Titre, {}, 1, 1}});
         }
     }
     storage::Base& Medoc() { return Etat.Bases.Medoc(Etat.Chemins.CheminTravail); }

@@ -54,13 +54,17 @@ clic("FrmMedoc.LblOrdoMem");
     clic("FrmMemo." + paire[0], 0);
     touche("FrmMemo." + paire[0], "Suppr");
     boites([["Supprimer  " + paire[1] + "  ?", "Oui"]]);
+    egal(valeur("OrdoMemorisee"), 0, "celle en main n'est plus une ordonnance mémorisée");
 });
 boites([["Plus d'ordonnance enregistrée !", "OK"]]);
 faux(ouverte("FrmMemo"), "la fenêtre se ferme");
 egal([table("Medoc", "ListeOrdos"), table("Medoc", "OrdoEnr")], [[], []], "tout est supprimé");
 clic("FrmMedoc.CmdOrdo");
 
-// Ce qui est en main n'est plus enregistré nulle part : un nom est demandé.
+// Ce qui est en main n'est plus enregistré nulle part : rien à supprimer, et un nom est demandé.
+faux(visible("FrmOrdo.ImgMemo"), "sa marque s'en va");
+clic("FrmOrdo.CmdSupp");
+boites([["Ce raccourci ne peut que supprimer une ordonnance mémorisée.", "OK"]]);
 clic("FrmOrdo.CmdEnr");
 boites([["Donnez un nom à cette ordonnance mémorisée :", "HTA"], [/spécifique/, "Non"]]);
 egal(table("Medoc", "ListeOrdos").length, 1, "elle est de nouveau enregistrée");

@@ -1,0 +1,39 @@
+// Charger alors que des lignes sont en main : elles restent, les nouvelles suivent et se voient.
+installer();
+ajouter("Medoc", "ListeOrdos", ["Une zone", "*", 0, "0"]);
+ajouter("Medoc", "ListeOrdos", ["Deux zones", "*", 1, "0"]);
+for (let i = 1; i <= 30; i++) {
+    ajouter("Medoc", "OrdoEnr", ["Une zone", "MED " + i, "1 matin", 1, "*", "0", 1, 1]);
+}
+ajouter("Medoc", "OrdoEnr", ["Deux zones", "SANS RAPPORT", "", 2, "*", "0", 1, 1]);
+ajouter("Medoc", "OrdoEnr", ["Deux zones", "AFFECTION", "", 1, "*", "0", 1, 1]);
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdPharma");
+clic("FrmMedoc.CmdSaut");
+function charge(rang) {
+    clic("FrmMedoc.LblOrdoMem");
+    doubleClic("FrmMemo.LstMemo(0)", rang);
+}
+charge(1);
+aucuneBoite();
+egal(lignes("FrmMedoc.LstChoix1").map(l => l.trim().split("  ")[0]), ["#", "AFFECTION"], "à la suite");
+egal(lignes("FrmMedoc.LstChoix2"), ["  SANS RAPPORT" + " ".repeat(300) + "1"], "l'autre zone");
+
+// Une seule zone : ce qui disparaît de la page est dit, et rien ne se perd.
+charge(0);
+egal(boite().genre, "information", "un mot du programme");
+boites([["Cette ordonnance mémorisée n'a qu'une zone : les lignes non ALD déjà choisies ne figurent plus sur " +
+    "l'ordonnance.\nCochez « Ordonnance ALD » pour les retrouver.", "OK"]]);
+faux(visible("FrmMedoc.LstChoix2"), "une seule liste");
+egal(lignes("FrmMedoc.LstChoix1").length, 32, "les lignes suivent");
+capture("suite");
+clic("FrmMedoc.LstChoix1", 31);
+egal(texte("FrmMedoc.TxtMedoc"), "MED 30", "la dernière");
+charge(0);
+aucuneBoite();
+cocher("FrmMedoc.ChkALD", true);
+egal(lignes("FrmMedoc.LstChoix2").length, 1, "la seconde zone revient");
+charge(1);
+aucuneBoite();
+egal(lignes("FrmMedoc.LstChoix2").length, 2, "elle aussi s'allonge");
+clic("FrmMedoc.CmdAnnule");
