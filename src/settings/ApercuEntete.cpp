@@ -35,11 +35,12 @@ double BasDuTexte(const page::Dessin& dessin)
     return bas;
 }
 
-page::Modele ModeleEntete(application::Contexte& contexte, const QList<page::LigneEntete>& lignes)
+page::Modele ModeleEntete(application::Contexte& contexte, const Reglages& reglages,
+                          const QList<page::LigneEntete>& lignes)
 {
     return {.Patient = contexte.Patient,
             .Ordonnance = contexte.Ordonnance,
-            .Reglages = contexte.Reglages,
+            .Reglages = reglages,
             .Entete = lignes,
             .Aujourdhui = contexte.Dehors.Horloge.Aujourdhui()};
 }
@@ -60,8 +61,7 @@ void EcritPied(page::Surface& cible, const Reglages& reglages, const QList<page:
 page::Dessin FeuilleDEssai(application::Contexte& contexte, const QList<page::LigneEntete>& lignes)
 {
     page::Surface cible(page::Cible::Imprimante);
-    cible.ForeColor(contexte.Reglages.Look.CouleurEntete);
-    page::PeintEntete(cible, ModeleEntete(contexte, lignes),
+    page::PeintEntete(cible, ModeleEntete(contexte, contexte.Reglages, lignes),
                       prescription::ChargeLogo(contexte.Reglages.Options));
     EcritPied(cible, contexte.Reglages, lignes);
     return cible.Resultat();
@@ -74,17 +74,19 @@ page::Dessin DessinEntete(application::Contexte& contexte)
     QList<page::LigneEntete> lignes;
     prescription::ModelePage(contexte, lignes);
     page::Surface cible(page::Cible::Autre, kLargeurFeuille, kHauteurA4);
-    page::PeintEntete(cible, ModeleEntete(contexte, lignes), QImage());
+    page::PeintEntete(cible, ModeleEntete(contexte, contexte.Reglages, lignes), QImage());
     page::Dessin dessin = cible.Resultat();
     dessin.Hauteur = std::clamp(BasDuTexte(dessin) + kSousLeTexte, kMoindreHauteur, kHauteurA4);
     return dessin;
 }
 
-page::Dessin HautDeFeuille(application::Contexte& contexte, const RangsEntete& rangs)
+page::Dessin HautDeFeuille(application::Contexte& contexte, const RangsEntete& rangs, quint8 ordre)
 {
+    Reglages reglages = contexte.Reglages;
+    reglages.Options.ModeEntete = ordre;
     page::Surface cible(page::Cible::Imprimante, kLargeurDuHaut, kHauteurDuHaut);
     const QList<page::LigneEntete> lignes = LignesDe(rangs);
-    page::PeintEntete(cible, ModeleEntete(contexte, lignes), QImage());
+    page::PeintEntete(cible, ModeleEntete(contexte, reglages, lignes), QImage());
     return cible.Resultat();
 }
 

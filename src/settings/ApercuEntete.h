@@ -9,8 +9,9 @@ namespace settings {
 /// what it shows. Empty without a doctor.
 page::Dessin DessinEntete(application::Contexte& contexte);
 
-/// The top left of a sheet printed with these rows, with the margins and the colour in force and no logo.
-page::Dessin HautDeFeuille(application::Contexte& contexte, const RangsEntete& rangs);
+/// The top left of a sheet printed with these rows, in this order of the blocks (`ModeEntete`), with the
+/// margins and the colour in force and no logo.
+page::Dessin HautDeFeuille(application::Contexte& contexte, const RangsEntete& rangs, quint8 ordre);
 
 /// The whole sample sheet as it would be printed with this letterhead, stored or not.
 page::Dessin FeuilleAvec(application::Contexte& contexte, const Entete& entete, const QImage& logo);

@@ -177,6 +177,15 @@ float MargeTapee(QStringView texte)
     return std::isnan(valeur) ? 0 : static_cast<float>(std::clamp(valeur, -kMargeExtreme, kMargeExtreme));
 }
 
+Entete PremiereEntete(const Reglages& reglages)
+{
+    return {.Rangs = PremiersRangs(),
+            .Couleur = reglages.Look.CouleurEntete,
+            .MargeGauche = reglages.Marges.MargeGaucheEntete,
+            .MargeHaute = reglages.Marges.MargeHauteEntete,
+            .MargeBas = reglages.Marges.MargeBasEntete};
+}
+
 Entete ChargeEntete(application::Contexte& contexte)
 {
     storage::Base& ordo = contexte.Bases.Ordo(contexte.Chemins.CheminMedecin);
@@ -186,12 +195,9 @@ Entete ChargeEntete(application::Contexte& contexte)
     Look& look = contexte.Reglages.Look;
     look.CouleurEntete = lu.CouleurEntete;
     look.NomSignature = lu.NomSignature;
-    const Marges& marges = contexte.Reglages.Marges;
-    return {.Rangs = RangsDe(lignes),
-            .Couleur = lu.CouleurEntete,
-            .MargeGauche = marges.MargeGaucheEntete,
-            .MargeHaute = marges.MargeHauteEntete,
-            .MargeBas = marges.MargeBasEntete};
+    Entete entete = PremiereEntete(contexte.Reglages);
+    entete.Rangs = RangsDe(lignes);
+    return entete;
 }
 
 void EnregistreEntete(application::Contexte& contexte, const Entete& entete)
@@ -202,6 +208,21 @@ void EnregistreEntete(application::Contexte& contexte, const Entete& entete)
     contexte.Reglages.Look.CouleurEntete = entete.Couleur;
     contexte.Reglages.Look.NomSignature = Signature(entete.Rangs);
     Q_EMIT contexte.Signaux.FaceChange();
+}
+
+void SuspendEntete(application::Contexte& contexte, const Entete& saisie, const Entete& stockee)
+{
+    QHash<QString, Entete>& suspens = contexte.Reglages.EntetesEnSuspens;
+    if (saisie == stockee) {
+        suspens.remove(contexte.Chemins.CheminMedecin);
+    } else {
+        suspens.insert(contexte.Chemins.CheminMedecin, saisie);
+    }
+}
+
+Entete EnteteEnSuspens(const application::Contexte& contexte, const Entete& stockee)
+{
+    return contexte.Reglages.EntetesEnSuspens.value(contexte.Chemins.CheminMedecin, stockee);
 }
 
 } // namespace settings

@@ -2,36 +2,11 @@
 
 #include "application/Contexte.h"
 #include "page/LignesEntete.h"
-#include "storage/Schema.h"
+#include "settings/RangsEntete.h"
 
 #include <QStringView>
-#include <array>
 
 namespace settings {
-
-constexpr int kRangSignature = 23; ///< the name shown for the electronic signature
-
-/// One row of the letterhead as the designer holds it.
-struct RangEntete
-{
-    QString Texte; ///< with its end marker; lines are parted by CR LF
-    page::Police Police;
-    qint16 EspacesLigne = 0; ///< the indentation
-    bool operator==(const RangEntete&) const = default;
-};
-
-using RangsEntete = std::array<RangEntete, storage::kLignesEntete>;
-
-/// All that `CmdEnregistrer` stores.
-struct Entete
-{
-    RangsEntete Rangs;
-    page::Couleur Couleur = page::kNoir;
-    float MargeGauche = 0; ///< millimetres, as the two below
-    float MargeHaute = 0;
-    float MargeBas = 0;
-    bool operator==(const Entete&) const = default;
-};
 
 /// The rows as every doctor's first database holds them.
 RangsEntete PremiersRangs();
@@ -45,6 +20,9 @@ QList<page::LigneEntete> LignesDe(const RangsEntete& rangs);
 /// A margin as typed: the number that the text begins with, where a comma ends it; 0 without one.
 float MargeTapee(QStringView texte);
 
+/// The letterhead of first use, with the colour and the margins in force.
+Entete PremiereEntete(const Reglages& reglages);
+
 /// The stored letterhead of the current doctor, with the margins in force. `CouleurEntete` and
 /// `NomSignature` take what is stored. Throws `Erreur`; nothing has changed then.
 Entete ChargeEntete(application::Contexte& contexte);
@@ -53,5 +31,11 @@ Entete ChargeEntete(application::Contexte& contexte);
 /// All of it or nothing: throws `Erreur`, and files and variables are as they were. At the end the
 /// variables hold it, and the face of the main window is painted again.
 void EnregistreEntete(application::Contexte& contexte, const Entete& entete);
+
+/// Keeps for the rest of the run what the current doctor typed; nothing where it is what is stored.
+void SuspendEntete(application::Contexte& contexte, const Entete& saisie, const Entete& stockee);
+
+/// What `SuspendEntete` kept for the current doctor, or else what is stored.
+Entete EnteteEnSuspens(const application::Contexte& contexte, const Entete& stockee);
 
 } // namespace settings

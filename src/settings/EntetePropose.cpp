@@ -3,7 +3,9 @@
 #include "application/Signaux.h"
 #include "common/Fichiers.h"
 #include "outside/Tente.h"
+#include "page/Surface.h"
 #include "settings/Enregistrement.h"
+#include "settings/FichiersReglages.h"
 #include "startup/Chemins.h"
 #include "startup/Medecins.h"
 #include "storage/Bases.h"
@@ -12,10 +14,15 @@ namespace settings {
 
 namespace {
 
-constexpr size_t kRangNom = 10;
-constexpr size_t kRangProfession = 11;
-constexpr float kTailleNom = 16;
-constexpr float kTailleProfession = 11;
+constexpr size_t kRangTitre = 11; // under a blank line, away from the edge of the paper
+constexpr size_t kRangNom = 12;
+constexpr size_t kRangFilet = 13;
+constexpr float kTailleTitre = 11;
+constexpr float kTailleNom = 20;
+constexpr float kMoindreTailleNom = 11;
+constexpr float kTailleFilet = 6;
+constexpr int kLongueurFilet = 60;    // underscores, about 70 mm
+constexpr double kLargeurDuNom = 100; // millimetres
 
 QString CheminRefus(const application::Contexte& contexte)
 {
@@ -29,11 +36,31 @@ bool Declinee(const application::Contexte& contexte)
     return declinee == 1;
 }
 
-QString NomComplet(const QString& nomMedecin)
+/// The doctor as his letterhead names him.
+struct Nom
+{
+    QString Titre; ///< empty for a name that bears none
+    QString Seul;
+};
+
+Nom NomDe(const QString& nomMedecin)
 {
     const QLatin1String titre("DR ");
-    return nomMedecin.startsWith(titre) ? QStringLiteral("Docteur ") + nomMedecin.mid(titre.size())
-                                        : nomMedecin;
+    return nomMedecin.startsWith(titre) ? Nom{QStringLiteral("Docteur"), nomMedecin.mid(titre.size())}
+                                        : Nom{{}, nomMedecin};
+}
+
+/// The largest size at which the name keeps to its width.
+page::Police PoliceDuNom(const QString& nom)
+{
+    page::Surface mesure(page::Cible::Autre);
+    page::Police police{.Taille = kTailleNom, .Gras = true};
+    mesure.Font(police);
+    while (police.Taille > kMoindreTailleNom && mesure.TextWidth(nom) > kLargeurDuNom) {
+        police.Taille -= 1;
+        mesure.Font(police);
+    }
+    return police;
 }
 
 /// A text that ends as a marker does is closed by one, which is not printed.
@@ -68,6 +95,9 @@ void EnregistreLaProposition(application::Contexte& contexte)
     Entete entete = ChargeEntete(contexte);
     entete.Rangs = RangsProposes(NomDuMedecinCourant(contexte));
     EnregistreEntete(contexte, entete);
+    contexte.Reglages.Options.ModeEntete = kOrdrePropose;
+    EcritOptions(contexte.Reglages.Options, contexte.Chemins.CheminMedecin);
+    Q_EMIT contexte.Signaux.FaceChange();
 }
 
 } // namespace
@@ -78,11 +108,15 @@ RangsEntete RangsProposes(const QString& nomMedecin)
     for (RangEntete& rang : rangs) {
         rang.Texte = QStringLiteral("*");
     }
-    const QString nom = NomComplet(nomMedecin.trimmed());
-    rangs[kRangNom] = {AvecMarque(nom), {.Taille = kTailleNom, .Gras = true}, 0};
-    rangs[kRangProfession] = {QStringLiteral("Médecin généraliste"), {.Taille = kTailleProfession}, 0};
+    const Nom nom = NomDe(nomMedecin.trimmed());
+    if (!nom.Titre.isEmpty()) {
+        rangs[kRangTitre] = {nom.Titre, {.Taille = kTailleTitre}, 0};
+    }
+    rangs[kRangTitre - 1].Texte.clear();
+    rangs[kRangNom] = {AvecMarque(nom.Seul), PoliceDuNom(nom.Seul), 0};
+    rangs[kRangFilet] = {QString(kLongueurFilet, QLatin1Char('_')), {.Taille = kTailleFilet}, 0};
     rangs[page::kBasDePage].Texte.clear(); // the foot is printed as it stands, a marker included
-    rangs[kRangSignature].Texte = nom;
+    rangs[kRangSignature].Texte = QStringLiteral("%1 %2").arg(nom.Titre, nom.Seul).trimmed();
     return rangs;
 }
 

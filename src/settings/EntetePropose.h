@@ -4,8 +4,12 @@
 
 namespace settings {
 
-/// A plain letterhead from what is known of the doctor: his name as the list bears it ("DR NEIBRE"), in bold,
-/// and his profession. Address, telephone and foot stay without text; nothing else may stand on paper.
+/// `ModeEntete` of the letterhead offered: the address goes under the name.
+constexpr quint8 kOrdrePropose = 1;
+
+/// A plain letterhead from what is known of the doctor, the name that the list bears ("DR NEIBRE"): the
+/// title, the name in bold, as large as it fits, and a rule of underscores. Address, telephone and foot stay
+/// without text; nothing else may stand on paper.
 RangsEntete RangsProposes(const QString& nomMedecin);
 
 /// The name of the current doctor as the lists bear it.

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "page/Police.h"
+#include "settings/RangsEntete.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <array>
@@ -112,9 +114,9 @@ struct Look
 /// Where the doctor stands in the header designer.
 struct SaisieEntete
 {
-    std::array<qint16, 24> EspacesLigne = {}; ///< the indentation of each row
-    qint16 LigneCourante = 0;                 ///< the row that last had the focus
-    QString TexteAvantCurseur;                ///< of that row, left of the caret, trimmed
+    std::array<qint16, storage::kLignesEntete> EspacesLigne = {}; ///< the indentation of each row
+    qint16 LigneCourante = 0;                                     ///< the row that last had the focus
+    QString TexteAvantCurseur;                                    ///< of that row, left of the caret, trimmed
 };
 
 /// What the options dialogue has in hand while it is open.
@@ -134,6 +136,7 @@ struct Reglages
     settings::Dupli Dupli;
     settings::Look Look;
     settings::SaisieEntete SaisieEntete;
+    QHash<QString, Entete> EntetesEnSuspens; ///< typed and not stored, by the doctor's directory
     OptionsEnCours EnCours;
     QString TxtSLP;            ///< the personal height as `FrmConfOrdo` shows it; empty without one
     quint8 ConfOrdoActive = 0; ///< 1 while `FrmConfOrdo` is shown

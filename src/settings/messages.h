@@ -36,11 +36,13 @@ inline QString EnteteNonEnregistree(const QString& cause)
 inline QString AideEntete()
 {
     return QStringLiteral(
-        "Chaque ligne a sa propre police : placez-vous dans la ligne, puis cliquez sur « Police ».\n\n"
+        "Chaque ligne a sa propre police : placez-vous dans la ligne, puis cliquez sur « Police de la "
+        "ligne ».\n\n"
         "Le dernier caractère d'une ligne\n"
-        "o   *  : la ligne suivante s'imprime à la suite, sur la même ligne de papier.\n"
+        "o   *  : la ligne suivante reste sur la même ligne de papier.\n"
         "o   $  : la ligne s'imprime à la suite de la précédente terminée par *, puis le papier passe à la "
-        "ligne.\n"
+        "ligne. Sans ce signe, elle commence à son propre décalage et peut recouvrir la précédente.\n"
+        "Exemple : « Tél. * » puis « 02 99 00 00 00$ » donnent une seule ligne, en deux polices.\n"
         "o   * tout seul : la ligne n'est pas imprimée. Une ligne vide laisse une ligne blanche.\n"
         "o   La dernière ligne de l'adresse règle la distance du bloc suivant : * laisse une ligne blanche, "
         "vide en laisse deux.\n"
@@ -48,8 +50,15 @@ inline QString AideEntete()
         "Décaler une ligne vers la droite\n"
         "o   Placez le curseur au début de la ligne : chaque espace la décale d'un millimètre, la touche "
         "Retour arrière la ramène d'un millimètre.\n\n"
-        "La feuille montre vos modifications telles qu'elles s'imprimeront. Rien n'est gardé avant "
-        "« Enregistrer ».");
+        "La feuille montre vos modifications telles qu'elles s'imprimeront. Rien n'est enregistré "
+        "avant « Enregistrer » ; si vous quittez, vos modifications se retrouvent ici jusqu'à la fermeture "
+        "de "
+        "Scriptelle.");
+}
+
+inline QString RevenirAEnteteEnregistree()
+{
+    return QStringLiteral("Revenir à l'en-tête enregistrée ?\n\nVos modifications seront perdues.");
 }
 
 inline QString PasDeFichierLogo()

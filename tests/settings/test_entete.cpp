@@ -1,4 +1,6 @@
 #include "application/Signaux.h"
+#include "page/Surface.h"
+#include "settings/EffetDuRang.h"
 #include "settings/EntetePropose.h"
 #include "settings/FichiersReglages.h"
 #include "storage/Jeu.h"
@@ -36,6 +38,11 @@ private Q_SLOTS:
     void anotherRowOfColourDoesNotHideTheSavedOne();
     void theProposalHoldsOnlyWhatIsKnown_data();
     void theProposalHoldsOnlyWhatIsKnown();
+    void aLongNameIsProposedAsLargeAsItFits();
+    void anAcceptedProposalPutsThePractitionerFirst();
+    void whatIsTypedWaitsForItsDoctor();
+    void aRowSaysWhatItDoesOnPaper_data();
+    void aRowSaysWhatItDoesOnPaper();
     void theProposalStandsAtFirstUseOnly();
     void decliningIsRemembered();
 };
@@ -144,33 +151,124 @@ void TestEntete::anotherRowOfColourDoesNotHideTheSavedOne()
 void TestEntete::theProposalHoldsOnlyWhatIsKnown_data()
 {
     QTest::addColumn<QString>("medecin");
-    QTest::addColumn<QString>("rang");
+    QTest::addColumn<QString>("titre");
+    QTest::addColumn<QString>("nom");
     QTest::addColumn<QString>("signature");
-    QTest::newRow("a doctor") << "DR NEIBRE"
-                              << "Docteur NEIBRE"
+    const QString docteur = QStringLiteral("Docteur");
+    QTest::newRow("a doctor") << "DR NEIBRE" << docteur << "NEIBRE"
                               << "Docteur NEIBRE";
-    QTest::newRow("DR inside the name") << "DR ANDRE PAUL"
-                                        << "Docteur ANDRE PAUL"
+    QTest::newRow("DR inside the name") << "DR ANDRE PAUL" << docteur << "ANDRE PAUL"
                                         << "Docteur ANDRE PAUL";
-    QTest::newRow("a name that ends as a marker") << "DR US$"
-                                                  << "Docteur US$$"
+    QTest::newRow("a name that ends as a marker") << "DR US$" << docteur << "US$$"
                                                   << "Docteur US$";
+    QTest::newRow("a name without a title") << "NEIBRE ANNE"
+                                            << "*"
+                                            << "NEIBRE ANNE"
+                                            << "NEIBRE ANNE";
 }
 
 void TestEntete::theProposalHoldsOnlyWhatIsKnown()
 {
     QFETCH(QString, medecin);
-    QFETCH(QString, rang);
+    QFETCH(QString, titre);
+    QFETCH(QString, nom);
     QFETCH(QString, signature);
     const RangsEntete rangs = RangsProposes(medecin);
-    QCOMPARE(rangs[10].Texte, rang);
-    QVERIFY(rangs[10].Police.Gras);
-    QCOMPARE(rangs[11].Texte, QStringLiteral("Médecin généraliste"));
+    QCOMPARE(rangs[10].Texte, QString());
+    QCOMPARE(rangs[11].Texte, titre);
+    QCOMPARE(rangs[12].Texte, nom);
+    QVERIFY(rangs[12].Police.Gras);
+    QVERIFY(rangs[12].Police.Taille > rangs[11].Police.Taille);
+    QCOMPARE(rangs[13].Texte, QString(60, QLatin1Char('_')));
     QCOMPARE(rangs[22].Texte, QString());
     QCOMPARE(rangs[23].Texte, signature);
     for (size_t autre = 0; autre < 22; ++autre) {
-        QVERIFY(autre == 10 || autre == 11 || rangs.at(autre).Texte == QStringLiteral("*"));
+        QVERIFY((autre >= 10 && autre <= 13) || rangs.at(autre).Texte == QStringLiteral("*"));
     }
+}
+
+void TestEntete::aLongNameIsProposedAsLargeAsItFits()
+{
+    const QString nom = QStringLiteral("DE LA TOUR DU PIN MARIE CHRISTINE");
+    const page::Police police = RangsProposes(QStringLiteral("DR ") + nom)[12].Police;
+    page::Surface mesure(page::Cible::Autre);
+    mesure.Font(police);
+    QVERIFY(mesure.TextWidth(nom) <= 100);
+    mesure.FontSize(police.Taille + 1);
+    QVERIFY(mesure.TextWidth(nom) > 100);
+    QCOMPARE(RangsProposes(QStringLiteral("DR ") + QString(100, QLatin1Char('W')))[12].Police.Taille, 11.0F);
+}
+
+void TestEntete::anAcceptedProposalPutsThePractitionerFirst()
+{
+    Bureau bureau;
+    QVERIFY(UtiliseEntete(bureau.Contexte));
+    QCOMPARE(bureau.Etat.Reglages.Options.ModeEntete, quint8(1));
+    Reglages lus;
+    ChargeReglages(lus, bureau.Etat.Chemins.CheminMedecin);
+    QCOMPARE(lus.Options.ModeEntete, quint8(1));
+}
+
+void TestEntete::whatIsTypedWaitsForItsDoctor()
+{
+    Bureau bureau;
+    const Entete stockee = ChargeEntete(bureau.Contexte);
+    Entete saisie = stockee;
+    saisie.Rangs[0].Texte = QStringLiteral("12 rue des Lilas");
+    SuspendEntete(bureau.Contexte, saisie, stockee);
+    QCOMPARE(EnteteEnSuspens(bureau.Contexte, stockee), saisie);
+    const QString chemin = bureau.Etat.Chemins.CheminMedecin;
+    bureau.Etat.Chemins.CheminMedecin += QStringLiteral(" BIS");
+    QCOMPARE(EnteteEnSuspens(bureau.Contexte, stockee), stockee);
+    bureau.Etat.Chemins.CheminMedecin = chemin;
+    SuspendEntete(bureau.Contexte, stockee, stockee);
+    QVERIFY(bureau.Etat.Reglages.EntetesEnSuspens.isEmpty());
+}
+
+void TestEntete::aRowSaysWhatItDoesOnPaper_data()
+{
+    QTest::addColumn<int>("rang");
+    QTest::addColumn<QString>("avant");
+    QTest::addColumn<QString>("texte");
+    QTest::addColumn<int>("espaces");
+    QTest::addColumn<QString>("morceau");
+    QTest::newRow("a star alone") << 3 << ""
+                                  << "*" << 0 << "ne s'imprime pas";
+    QTest::newRow("empty") << 3 << ""
+                           << "" << 0 << "une ligne blanche sur";
+    QTest::newRow("the last of the address, a star") << 9 << ""
+                                                     << "*" << 0 << "une ligne blanche avant";
+    QTest::newRow("the last of the address, empty") << 9 << ""
+                                                    << "" << 0 << "deux lignes blanches";
+    QTest::newRow("opens a line") << 3 << ""
+                                  << "Tél.*" << 0 << "« * » à la fin";
+    QTest::newRow("ends a line") << 3 << "Tél.*"
+                                 << "02 99$" << 0 << "« $ » à la fin";
+    QTest::newRow("would cover the row before") << 3 << "Tél.*"
+                                                << "02 99" << 0 << "recouvre";
+    QTest::newRow("a lone star covers nothing") << 3 << "*"
+                                                << "02 99" << 0 << "Pour la décaler";
+    QTest::newRow("shifted") << 3 << ""
+                             << "02 99" << 7 << "Décalée de 7 mm";
+    QTest::newRow("the first row") << 0 << ""
+                                   << "12 rue" << 0 << "Pour la décaler";
+    QTest::newRow("the foot") << 22 << ""
+                              << "*" << 0 << "bas de chaque ordonnance";
+    QTest::newRow("the signature") << 23 << ""
+                                   << "*" << 0 << "certificats";
+}
+
+void TestEntete::aRowSaysWhatItDoesOnPaper()
+{
+    QFETCH(int, rang);
+    QFETCH(QString, avant);
+    QFETCH(QString, texte);
+    QFETCH(int, espaces);
+    QFETCH(QString, morceau);
+    RangsEntete rangs;
+    rangs.at(static_cast<size_t>(std::max(0, rang - 1))).Texte = avant;
+    rangs.at(static_cast<size_t>(rang)) = {texte, {}, static_cast<qint16>(espaces)};
+    QVERIFY2(EffetDuRang(rangs, rang).contains(morceau), qPrintable(EffetDuRang(rangs, rang)));
 }
 
 void TestEntete::theProposalStandsAtFirstUseOnly()
@@ -182,10 +280,10 @@ void TestEntete::theProposalStandsAtFirstUseOnly()
     QCOMPARE(bureau.Etat.Reglages.Look.NomSignature, QStringLiteral("Docteur NEIBRE"));
     // A letterhead of his own is not written over.
     Entete entete = ChargeEntete(bureau.Contexte);
-    entete.Rangs[10].Texte = QStringLiteral("Anne NEIBRE");
+    entete.Rangs[12].Texte = QStringLiteral("Anne NEIBRE");
     EnregistreEntete(bureau.Contexte, entete);
     QVERIFY(UtiliseEntete(bureau.Contexte));
-    QCOMPARE(ChargeEntete(bureau.Contexte).Rangs[10].Texte, QStringLiteral("Anne NEIBRE"));
+    QCOMPARE(ChargeEntete(bureau.Contexte).Rangs[12].Texte, QStringLiteral("Anne NEIBRE"));
 }
 
 void TestEntete::decliningIsRemembered()

@@ -20,6 +20,7 @@ namespace style = application::style;
 namespace {
 
 constexpr int kLargeurMarge = 64;
+constexpr int kMoindreLargeurFeuilles = 280;
 constexpr int kLargeurFeuilles = 440;
 constexpr int kHauteurEntete = 140;
 
@@ -51,8 +52,8 @@ ControlesEntete::ControlesEntete(SaisieEntete& saisie, QWidget* fenetre)
     QVBoxLayout* page = style::Fenetre(fenetre);
     auto* corps = new QHBoxLayout;
     corps->setSpacing(style::kEntreGroupes);
-    corps->addLayout(Gauche(saisie, fenetre), 1);
-    corps->addWidget(CarteFeuilles(fenetre));
+    corps->addLayout(Gauche(saisie, fenetre), 9);
+    corps->addWidget(CarteFeuilles(fenetre), 5);
     page->addLayout(corps, 1);
     page->addLayout(Commandes(fenetre));
     OrdonneTab();
@@ -79,6 +80,8 @@ QWidget* ControlesEntete::CarteReglages(QWidget* fenetre)
     QWidget* carte = style::Carte(fenetre);
     auto* groupe = new QVBoxLayout(carte);
     groupe->setSpacing(style::kDansGroupe);
+    LblEffet = style::Legende(QStringLiteral("LblEffet"), {}, carte);
+    groupe->addWidget(LblEffet);
     groupe->addLayout(PoliceEtCouleur(carte));
     groupe->addLayout(Marges(carte));
     groupe->addLayout(Ordre(carte));
@@ -147,7 +150,8 @@ QWidget* ControlesEntete::CarteFeuilles(QWidget* fenetre)
     colonne->addWidget(
         style::Titre(QStringLiteral("LblEntete"), QStringLiteral("En-tête enregistrée"), cadre));
     colonne->addWidget(PctEntete);
-    cadre->setFixedWidth(kLargeurFeuilles);
+    cadre->setMinimumWidth(kMoindreLargeurFeuilles);
+    cadre->setMaximumWidth(kLargeurFeuilles);
     return cadre;
 }
 
@@ -161,17 +165,22 @@ QLayout* ControlesEntete::Commandes(QWidget* fenetre)
     CmdImpression->setToolTip(QStringLiteral("Imprime l'en-tête enregistrée et le bas de page (Alt+I)"));
     CmdQuitter = style::Bouton(QStringLiteral("CmdQuitter"), QStringLiteral("&Quitter"),
                                QStringLiteral("arrow-left"), fenetre);
-    CmdQuitter->setToolTip(QStringLiteral("Retour aux options, sans enregistrer (Alt+Q)"));
+    CmdQuitter->setToolTip(
+        QStringLiteral("Retour aux options, sans enregistrer. Vos modifications se retrouvent ici "
+                       "jusqu'à la fermeture de Scriptelle (Alt+Q)"));
     CmdEnregistrer = style::BoutonPrincipal(QStringLiteral("CmdEnregistrer"), QStringLiteral("&Enregistrer"),
                                             QStringLiteral("save"), fenetre);
     LblModifie = style::Avertissement(QStringLiteral("LblModifie"),
                                       QStringLiteral("Modifications non enregistrées"), fenetre);
+    CmdRevient = style::Lien(QStringLiteral("CmdRevient"), QStringLiteral("Re&venir à l'en-tête enregistrée"),
+                             fenetre);
     auto* ligne = new QHBoxLayout;
     ligne->setSpacing(style::kDansGroupe);
     ligne->addWidget(CmdAide);
     ligne->addWidget(CmdImpression);
     ligne->addStretch();
     ligne->addWidget(LblModifie);
+    ligne->addWidget(CmdRevient);
     ligne->addSpacing(style::kDansGroupe);
     ligne->addWidget(CmdQuitter);
     ligne->addWidget(CmdEnregistrer);
@@ -184,8 +193,8 @@ void ControlesEntete::OrdonneTab() const
     for (int rang = 0; rang < storage::kLignesEntete; ++rang) {
         ordre.append(Rangs->Champ(rang));
     }
-    ordre += {CmdPolice, CmdCouleur, TxtMG,         TxtMH,      TxtMB,         Opt[0],
-              Opt[1],    CmdAide,    CmdImpression, CmdQuitter, CmdEnregistrer};
+    ordre += {CmdPolice, CmdCouleur, TxtMG,         TxtMH,      TxtMB,      Opt[0],
+              Opt[1],    CmdAide,    CmdImpression, CmdRevient, CmdQuitter, CmdEnregistrer};
     style::OrdreTab(ordre);
 }
 

@@ -31,6 +31,7 @@ struct ControlesEntete
     QLineEdit* TxtMB;
     Pastille* LblColor;
     QLabel* LblPolice;  ///< the font of the row in hand
+    QLabel* LblEffet;   ///< what the row in hand does on paper
     QLabel* LblOrdre;   ///< the block order is not lasting yet
     QLabel* LblModifie; ///< the controls differ from what is stored
     page::VueAjustee* PctEntete;
@@ -38,6 +39,7 @@ struct ControlesEntete
     QPushButton* CmdPolice;
     QPushButton* CmdCouleur;
     QPushButton* CmdEnregistrer;
+    QPushButton* CmdRevient; ///< back to what is stored
     QPushButton* CmdImpression;
     QPushButton* CmdQuitter;
     QPushButton* CmdAide;

@@ -8,6 +8,7 @@
 #include "page/windows/VueAjustee.h"
 #include "prescription/Editeur.h"
 #include "settings/ApercuEntete.h"
+#include "settings/EffetDuRang.h"
 #include "settings/FichiersReglages.h"
 #include "settings/messages.h"
 #include "settings/windows/FrmOptions.h"
@@ -50,12 +51,13 @@ void FrmEntete::Branche()
     }
     connect(controles_.Rangs, &SaisieRangs::Change, this, &FrmEntete::SuitModifications);
     connect(controles_.Rangs, &SaisieRangs::RangCourant, this, [this](int rang) {
-        MontrePolice(rang);
+        MontreRang();
         controles_.PctFeuille->MontrePied(rang == page::kBasDePage);
     });
     connect(controles_.CmdPolice, &QPushButton::clicked, this, &FrmEntete::ChoisitPolice);
     connect(controles_.CmdCouleur, &QPushButton::clicked, this, &FrmEntete::ChoisitCouleur);
     connect(controles_.CmdEnregistrer, &QPushButton::clicked, this, &FrmEntete::Enregistre);
+    connect(controles_.CmdRevient, &QPushButton::clicked, this, &FrmEntete::Revient);
     connect(controles_.CmdImpression, &QPushButton::clicked, this, &FrmEntete::Imprime);
     connect(controles_.CmdQuitter, &QPushButton::clicked, this, &FrmEntete::Quitte);
     connect(controles_.CmdAide, &QPushButton::clicked, this,
@@ -71,11 +73,12 @@ void FrmEntete::Charge()
     gardee_.reset();
     logo_ = prescription::ChargeLogo(contexte_.Reglages.Options);
     const QString& chemin = contexte_.Chemins.CheminMedecin;
-    Entete entete{.Rangs = PremiersRangs()};
+    Entete entete = PremiereEntete(contexte_.Reglages);
     if (!chemin.isEmpty()) {
         outside::Tente(contexte_.Dehors.Boites, [&] {
             entete = ChargeEntete(contexte_);
             gardee_ = std::make_unique<Entete>(entete);
+            entete = EnteteEnSuspens(contexte_, entete);
         });
     }
     Options ecrites = contexte_.Reglages.Options;
@@ -89,17 +92,16 @@ void FrmEntete::Montre(const Entete& entete)
 {
     montre_ = true;
     controles_.Rangs->Montre(entete.Rangs);
-    const Marges& marges = contexte_.Reglages.Marges;
-    controles_.TxtMG->setText(common::TexteSimple(marges.MargeGaucheEntete));
-    controles_.TxtMH->setText(common::TexteSimple(marges.MargeHauteEntete));
-    controles_.TxtMB->setText(common::TexteSimple(marges.MargeBasEntete));
-    controles_.LblColor->Montre(contexte_.Reglages.Look.CouleurEntete);
+    controles_.TxtMG->setText(common::TexteSimple(entete.MargeGauche));
+    controles_.TxtMH->setText(common::TexteSimple(entete.MargeHaute));
+    controles_.TxtMB->setText(common::TexteSimple(entete.MargeBas));
+    contexte_.Reglages.Look.CouleurEntete = entete.Couleur;
+    controles_.LblColor->Montre(entete.Couleur);
     const quint8 ordre = contexte_.Reglages.Options.ModeEntete;
     if (ordre < controles_.Opt.size()) {
         controles_.Opt.at(ordre)->setChecked(true);
     }
     montre_ = false;
-    MontrePolice(contexte_.Reglages.SaisieEntete.LigneCourante);
     PeintEnregistree();
     SuitModifications();
 }
@@ -123,15 +125,20 @@ void FrmEntete::SuitModifications()
     if (montre_) {
         return;
     }
+    MontreRang();
     const Entete saisie = Lit();
-    controles_.LblModifie->setVisible(gardee_ && saisie != *gardee_);
+    const bool modifiee = gardee_ && saisie != *gardee_;
+    controles_.LblModifie->setVisible(modifiee);
+    controles_.CmdRevient->setVisible(modifiee);
     controles_.LblOrdre->setVisible(ordreGarde_ != contexte_.Reglages.Options.ModeEntete);
     controles_.PctFeuille->Montre(FeuilleAvec(contexte_, saisie, logo_));
 }
 
-void FrmEntete::MontrePolice(int rang)
+void FrmEntete::MontreRang()
 {
+    const int rang = contexte_.Reglages.SaisieEntete.LigneCourante;
     controles_.LblPolice->setText(controles_.Rangs->NomPolice(rang));
+    controles_.LblEffet->setText(EffetDuRang(controles_.Rangs->Lit(), rang));
 }
 
 void FrmEntete::ChangeOrdre(int ordre)
@@ -147,7 +154,6 @@ void FrmEntete::ChoisitPolice()
     const int rang = contexte_.Reglages.SaisieEntete.LigneCourante;
     if (const auto police = contexte_.Dehors.Boites.ChoisitPolice(controles_.Rangs->Police(rang))) {
         controles_.Rangs->PosePolice(rang, *police);
-        MontrePolice(rang);
     }
 }
 
@@ -181,6 +187,13 @@ void FrmEntete::Enregistre()
     contexte_.Dehors.Boites.Information(messages::EnteteEnregistree());
 }
 
+void FrmEntete::Revient()
+{
+    if (contexte_.Dehors.Boites.Question(messages::RevenirAEnteteEnregistree(), outside::Bouton::Non)) {
+        Montre(*gardee_);
+    }
+}
+
 void FrmEntete::Imprime()
 {
     if (startup::ExigeMedecin(contexte_)) {
@@ -190,6 +203,9 @@ void FrmEntete::Imprime()
 
 void FrmEntete::Quitte()
 {
+    if (gardee_) {
+        SuspendEntete(contexte_, Lit(), *gardee_);
+    }
     done(QDialog::Accepted);
     fenetres_.Decharge<FrmEntete>();
     fenetres_.Donne<FrmOptions>().Ouvre(1);

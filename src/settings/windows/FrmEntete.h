@@ -33,11 +33,12 @@ private:
     Entete Lit() const;
     void PeintEnregistree();
     void SuitModifications();
-    void MontrePolice(int rang);
+    void MontreRang();
     void ChangeOrdre(int ordre);
     void ChoisitPolice();
     void ChoisitCouleur();
     void Enregistre();
+    void Revient();
     void Imprime();
     void Quitte();
 

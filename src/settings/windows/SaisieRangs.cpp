@@ -23,7 +23,7 @@ namespace {
 constexpr float kPlusPetite = 4; // points: what a field can show
 constexpr float kPlusGrande = 40;
 constexpr int kLignesDuPied = 3;
-constexpr int kEntreRangs = 3;
+constexpr int kEntreRangs = 2;
 constexpr int kPlusGrandRetrait = 120; // pixels
 
 QFont PoliceDuChamp(const page::Police& police)
@@ -319,7 +319,7 @@ bool SaisieRangs::eventFilter(QObject* objet, QEvent* evenement)
     if (evenement->type() == QEvent::FocusIn) {
         saisie_.LigneCourante = static_cast<qint16>(rang);
         Q_EMIT RangCourant(rang);
-    } else if (evenement->type() == QEvent::KeyRelease || EstClicGauche(evenement)) {
+    } else if (EstClicGauche(evenement)) {
         SuitCurseur(rang);
     } else if (evenement->type() == QEvent::KeyPress) {
         const auto* touche = static_cast<QKeyEvent*>(evenement);

@@ -214,7 +214,8 @@ void FrmDepart::ProposeEntete(const QList<page::LigneEntete>& stockee)
     const bool propose = settings::EnteteAProposer(contexte_, stockee);
     if (propose) {
         const QString medecin = settings::NomDuMedecinCourant(contexte_);
-        controles_.CartePropose->Montre(settings::HautDeFeuille(contexte_, settings::RangsProposes(medecin)));
+        controles_.CartePropose->Montre(
+            settings::HautDeFeuille(contexte_, settings::RangsProposes(medecin), settings::kOrdrePropose));
     }
     controles_.CartePropose->setVisible(propose);
 }

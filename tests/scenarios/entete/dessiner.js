@@ -110,7 +110,7 @@ const pied = papier[0].find(item => item.texte.startsWith("Membre"));
 proche(pied.y, 297 - 0 + 4, 0.01, "le pied");
 egal(pied.couleur, 128 * 65536, "dans sa couleur");
 
-// The way back: nothing is asked, nothing is stored.
+// The way back: nothing is asked, nothing is stored, and what was typed waits in the window.
 saisir("FrmEntete.Txt(12)", "Sur rendez-vous");
 clic("FrmEntete.CmdQuitter");
 aucuneBoite();
@@ -118,6 +118,11 @@ vrai(ouverte("FrmOptions"), "retour aux options");
 faux(ouverte("FrmEntete"), "la fenêtre est fermée");
 egal(table("Ordo", "Entete"), rangs, "rien n'est enregistré en partant");
 clic("FrmOptions.CmdET");
+egal([texte("FrmEntete.Txt(10)"), texte("FrmEntete.Txt(12)")], ["Docteur NEIBRE", "Sur rendez-vous"], "la frappe attendait");
+vrai(visible("FrmEntete.LblModifie"), "toujours à enregistrer");
+clic("FrmEntete.CmdRevient");
+egal([boite().genre, boite().defaut], ["question", "Non"], "revenir se demande");
+repondre("Oui");
 egal([texte("FrmEntete.Txt(10)"), texte("FrmEntete.Txt(12)")], ["Docteur NEIBRE", "*"], "les rangs enregistrés");
 egal(valeur("EspacesLigne")[0], 3, "avec leur retrait");
 clic("FrmEntete.CmdAide");

@@ -5,7 +5,8 @@ const face = () => feuille("FrmDepart").filter(item => item.genre === "texte").m
 aucuneBoite();
 vrai(visible("FrmDepart.CartePropose"), "la proposition");
 egal(face(), ["Tel", "Fax"], "la face reste celle du premier emploi");
-egal(feuille("FrmDepart.PctPropose").map(item => item.texte), ["Docteur NEIBRE", "Médecin généraliste"], "l'aperçu");
+const filet = "_".repeat(60);
+egal(feuille("FrmDepart.PctPropose").map(item => item.texte), ["Docteur", "NEIBRE", filet], "l'aperçu");
 const chemin = valeur("CheminMedecin");
 const avant = table("Ordo", "Entete");
 
@@ -25,10 +26,11 @@ clic("FrmChoixBase.CmdSuite");
 clic("FrmDepart.CmdUtiliseEntete");
 aucuneBoite();
 faux(visible("FrmDepart.CartePropose"), "prise");
-egal(face(), ["Docteur NEIBRE", "Médecin généraliste"], "la face la montre");
+egal(face(), ["Docteur", "NEIBRE", filet], "la face la montre");
 const rangs = table("Ordo", "Entete");
 egal(rangs.length, 24, "les 24 rangs");
-egal(rangs[10].slice(1, 5), ["Docteur NEIBRE", "Arial", 16, 1], "le nom en gras");
+egal(rangs[12].slice(1, 5), ["NEIBRE", "Arial", 20, 1], "le nom en gras");
+egal(valeur("ModeEntete"), 1, "l'adresse viendra sous le nom");
 egal([rangs[0][1], rangs[6][1], rangs[22][1]], ["*", "*", ""], "rien d'inconnu");
 egal(valeur("NomSignature"), "Docteur NEIBRE", "la signature");
 clic("FrmDepart.CmdNO");
@@ -36,4 +38,4 @@ clic("FrmOrdo.CmdImprime");
 choisir("FrmOptions.CboPrint", "Bureau");
 cocher("FrmOptions.Chkimp", true);
 egal(travaux()[0].pages[0].map(item => item.texte).filter(texte => !/^\d|2026/.test(texte)),
-     ["Docteur NEIBRE", "Médecin généraliste"], "sur le papier");
+     ["Docteur", "NEIBRE", filet], "sur le papier");

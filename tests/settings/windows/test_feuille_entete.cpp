@@ -2,7 +2,48 @@
 
 #include "startup/messages.h"
 
+#include <QImage>
+
 using namespace settings;
+
+namespace {
+
+/// A logo at the left (1), at the right (2), or none (0).
+void PoseLogo(Atelier& atelier, int position)
+{
+    Options& options = atelier.Etat.Reglages.Options;
+    options.LogoActif = position > 0 ? 1 : 0;
+    options.PositionLogo = static_cast<quint8>(position);
+    options.LogoLargeur = 30;
+    options.LogoHauteur = 20;
+    options.FichierLogo = common::Joint(atelier.Etat.Chemins.CheminMedecin, QStringLiteral("logo.bmp"));
+    QImage image(60, 40, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    QVERIFY(image.save(options.FichierLogo));
+}
+
+/// Rows on one line and shifted, a font, a margin and a colour, all by mouse and keys.
+void Dessine(Atelier& atelier)
+{
+    const QStringList textes{QStringLiteral("Docteur *"), QStringLiteral("Anne NEIBRE$"),
+                             QStringLiteral("12 rue des Lilas"), QStringLiteral("Tél.*"),
+                             QStringLiteral("02 99 00 00 00")};
+    for (int rang = 0; rang < textes.size(); ++rang) {
+        atelier.Txt(rang).setText(textes.at(rang));
+    }
+    atelier.Txt(1).setFocus();
+    atelier.Boites.AttendPolice(
+        page::Police{.Nom = QStringLiteral("Courier New"), .Taille = 14, .Gras = true});
+    atelier.Clique("CmdPolice");
+    QTest::mouseClick(&atelier.Txt(4), Qt::LeftButton);
+    atelier.Txt(4).setCursorPosition(0);
+    QTest::keyClicks(&atelier.Txt(4), QString(60, QLatin1Char(' ')));
+    atelier.Un<QLineEdit>("TxtMH").setText(QStringLiteral("9"));
+    atelier.Boites.AttendInformation(messages::CouleurDeTouteLEntete()).AttendCouleur(page::Rvb(0, 0, 128));
+    atelier.Clique("CmdCouleur");
+}
+
+} // namespace
 
 class TestFeuilleEntete : public QObject
 {
@@ -11,6 +52,7 @@ class TestFeuilleEntete : public QObject
 private Q_SLOTS:
     void ThePictureShowsWhatIsStored();
     void TheSheetFollowsTheTyping();
+    void ThePrintedSheetIsThePreviewItemByItem_data();
     void ThePrintedSheetIsThePreviewItemByItem();
     void WithoutDoctorNothingIsStoredOrPrinted();
 };
@@ -43,26 +85,27 @@ void TestFeuilleEntete::TheSheetFollowsTheTyping()
     QVERIFY(!atelier.Modifie());
 }
 
+void TestFeuilleEntete::ThePrintedSheetIsThePreviewItemByItem_data()
+{
+    QTest::addColumn<int>("ordre");
+    QTest::addColumn<int>("logo");
+    QTest::addColumn<bool>("aLaMarge");
+    QTest::newRow("address first") << 0 << 0 << true;
+    QTest::newRow("practitioner first") << 1 << 0 << true;
+    QTest::newRow("a logo at the left") << 0 << 1 << false;
+    QTest::newRow("a logo at the right") << 1 << 2 << false;
+}
+
 void TestFeuilleEntete::ThePrintedSheetIsThePreviewItemByItem()
 {
+    QFETCH(int, ordre);
+    QFETCH(int, logo);
+    QFETCH(bool, aLaMarge);
     Atelier atelier;
+    atelier.Etat.Reglages.Options.ModeEntete = static_cast<quint8>(ordre);
+    PoseLogo(atelier, logo);
     atelier.Ouvre();
-    const QStringList textes{QStringLiteral("Docteur *"), QStringLiteral("Anne NEIBRE$"),
-                             QStringLiteral("12 rue des Lilas"), QStringLiteral("Tél.*"),
-                             QStringLiteral("02 99 00 00 00")};
-    for (int rang = 0; rang < textes.size(); ++rang) {
-        atelier.Txt(rang).setText(textes.at(rang));
-    }
-    atelier.Txt(1).setFocus();
-    atelier.Boites.AttendPolice(
-        page::Police{.Nom = QStringLiteral("Courier New"), .Taille = 14, .Gras = true});
-    atelier.Clique("CmdPolice");
-    QTest::mouseClick(&atelier.Txt(4), Qt::LeftButton);
-    atelier.Txt(4).setCursorPosition(0);
-    QTest::keyClicks(&atelier.Txt(4), QString(60, QLatin1Char(' ')));
-    atelier.Un<QLineEdit>("TxtMH").setText(QStringLiteral("9"));
-    atelier.Boites.AttendInformation(messages::CouleurDeTouteLEntete()).AttendCouleur(page::Rvb(0, 0, 128));
-    atelier.Clique("CmdCouleur");
+    Dessine(atelier);
     const QString apercu = support::EnTexte(atelier.Feuille("PctFeuille"));
     QVERIFY(apercu.contains(QLatin1String("Anne NEIBRE")));
     atelier.Boites.AttendInformation(messages::EnteteEnregistree());
@@ -84,7 +127,7 @@ void TestFeuilleEntete::ThePrintedSheetIsThePreviewItemByItem()
     const page::ItemTexte surLaFeuille = support::Trouve(atelier.Feuille("PctFeuille"), pied.Texte);
     QCOMPARE(pied.Y, surLaFeuille.Y);
     QCOMPARE(pied.Y, 297.0 - 10 + 9);
-    QCOMPARE(pied.X, 10.0);
+    QCOMPARE(qFuzzyCompare(pied.X, 10.0), aLaMarge);
     QCOMPARE(pied.Police, surLaFeuille.Police);
     QCOMPARE(pied.Encre, page::Rvb(0, 0, 128));
     support::Capture(*atelier.Fenetre, QStringLiteral("entete_dessinee"));

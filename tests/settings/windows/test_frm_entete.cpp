@@ -25,7 +25,9 @@ private Q_SLOTS:
     void AFailedSaveIsToldAndChangesNothing();
     void UnreadableRowsAreNotWrittenOver();
     void CloseBoxAndEscapeDoNothing();
-    void LeavingDropsTheEditsAndOpensTheOptions();
+    void LeavingKeepsTheEditsForTheRunAndOpensTheOptions();
+    void TheStoredLetterheadComesBackOnlyAfterAQuestion();
+    void TheRowInHandIsExplained();
     void EnterGoesToTheNextRow();
 };
 
@@ -242,7 +244,7 @@ void TestFrmEntete::CloseBoxAndEscapeDoNothing()
     QVERIFY(atelier.Fenetre->isVisible());
 }
 
-void TestFrmEntete::LeavingDropsTheEditsAndOpensTheOptions()
+void TestFrmEntete::LeavingKeepsTheEditsForTheRunAndOpensTheOptions()
 {
     Atelier atelier;
     atelier.Ouvre();
@@ -261,7 +263,47 @@ void TestFrmEntete::LeavingDropsTheEditsAndOpensTheOptions()
     QVERIFY(options);
     QCOMPARE(atelier.Stockees(), avant);
     atelier.Ouvre();
+    QCOMPARE(atelier.Txt(0).text(), QStringLiteral("12 rue des Lilas"));
+    QVERIFY(atelier.Modifie());
+}
+
+void TestFrmEntete::TheStoredLetterheadComesBackOnlyAfterAQuestion()
+{
+    Atelier atelier;
+    atelier.Ouvre();
+    auto& revient = atelier.Un<QPushButton>("CmdRevient");
+    QVERIFY(!revient.isVisibleTo(atelier.Fenetre));
+    atelier.Txt(0).setText(QStringLiteral("12 rue des Lilas"));
+    atelier.Un<QLineEdit>("TxtMG").setText(QStringLiteral("30"));
+    atelier.Boites.AttendInformation(messages::CouleurDeTouteLEntete()).AttendCouleur(page::Rvb(1, 2, 3));
+    atelier.Clique("CmdCouleur");
+    atelier.Boites.AttendQuestion(messages::RevenirAEnteteEnregistree(), outside::Bouton::Non,
+                                  outside::Bouton::Non);
+    revient.click();
+    QCOMPARE(atelier.Txt(0).text(), QStringLiteral("12 rue des Lilas"));
+    atelier.Boites.AttendQuestion(messages::RevenirAEnteteEnregistree(), outside::Bouton::Oui,
+                                  outside::Bouton::Non);
+    revient.click();
     QCOMPARE(atelier.Txt(0).text(), QStringLiteral("*"));
+    QCOMPARE(atelier.Un<QLineEdit>("TxtMG").text(), QStringLiteral("10"));
+    QCOMPARE(atelier.Etat.Reglages.Look.CouleurEntete, page::kNoir);
+    QVERIFY(!atelier.Modifie());
+    QVERIFY(!revient.isVisibleTo(atelier.Fenetre));
+}
+
+void TestFrmEntete::TheRowInHandIsExplained()
+{
+    Atelier atelier;
+    atelier.Ouvre();
+    const auto& effet = atelier.Un<QLabel>("LblEffet");
+    atelier.Txt(5).setFocus();
+    atelier.Txt(5).setText(QStringLiteral("Tél.*"));
+    QVERIFY(effet.text().contains(QStringLiteral("à la suite")));
+    atelier.Txt(6).setFocus();
+    atelier.Txt(6).setText(QStringLiteral("02 99"));
+    QVERIFY(effet.text().contains(QLatin1String("recouvre")));
+    atelier.Txt(6).setText(QStringLiteral("02 99$"));
+    QVERIFY(!effet.text().contains(QLatin1String("recouvre")));
 }
 
 void TestFrmEntete::EnterGoesToTheNextRow()

@@ -1,0 +1,38 @@
+// PctEntete shows the stored rows, and the order of the blocks at once; PctFeuille follows the typing.
+installer();
+clic("FrmDepart.CmdOptions");
+clic("FrmOptions.CmdET");
+const mots = s => feuille(s).filter(i => i.genre === "texte").map(i => i.texte).filter(t => t.trim() !== "");
+egal(mots("FrmEntete.PctEntete").filter(t => t !== "Tel" && t !== "Fax"), [], "une base neuve ne peint rien dans le corps");
+saisir("FrmEntete.Txt(0)", "12 rue Haute");
+saisir("FrmEntete.Txt(9)", "");
+saisir("FrmEntete.Txt(10)", "Docteur*");
+saisir("FrmEntete.Txt(11)", " NEIBRE$");
+saisir("FrmEntete.Txt(12)", "Généraliste");
+faux(mots("FrmEntete.PctEntete").includes("12 rue Haute"), "pas avant l'enregistrement");
+vrai(mots("FrmEntete.PctFeuille").includes("12 rue Haute"), "la feuille suit la frappe");
+clic("FrmEntete.CmdEnregistrer"); repondre("OK");
+let m = mots("FrmEntete.PctEntete");
+vrai(m.includes("12 rue Haute"), "après");
+let items = feuille("FrmEntete.PctEntete").filter(i => i.genre === "texte");
+let doc = items.find(i => i.texte === "Docteur"), nei = items.find(i => i.texte === " NEIBRE"), gen = items.find(i => i.texte === "Généraliste");
+egal(doc.y, nei.y, "étoile puis dollar : une ligne");
+proche(nei.x, doc.x + doc.largeur, 0.1, "le dollar suit la plume");
+vrai(gen.y > doc.y, "puis la ligne suivante");
+vrai(m.indexOf("12 rue Haute") < m.indexOf("Docteur"), "adresse d'abord");
+clic("FrmEntete.Opt(1)");
+m = mots("FrmEntete.PctEntete");
+vrai(m.indexOf("12 rue Haute") > m.indexOf("Docteur"), "praticien d'abord, aussitôt");
+egal(valeur("ModeEntete"), 1, "ModeEntete");
+// The focus is on saving: Enter saves.
+touche("FrmEntete.CmdEnregistrer", "Entree");
+egal(boite().texte, "En-tête enregistrée !", "Entrée sur l'enregistrement");
+repondre("OK");
+fermer("FrmEntete");
+vrai(ouverte("FrmEntete"), "la case de fermeture ne fait rien");
+touche("FrmEntete.Txt(0)", "Echap");
+vrai(ouverte("FrmEntete"), "Échap non plus");
+aucuneBoite();
+clic("FrmEntete.CmdQuitter");
+vrai(ouverte("FrmOptions"), "les options");
+clic("FrmOptions.CmdAnnule");

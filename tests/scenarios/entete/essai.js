@@ -1,0 +1,27 @@
+// The test print: one page, the foot measured from the bottom of the sheet.
+installer();
+clic("FrmDepart.CmdOptions");
+clic("FrmOptions.CmdET");
+saisir("FrmEntete.Txt(0)", "12 rue Haute");
+saisir("FrmEntete.Txt(22)", "Pied de page");
+focus("FrmEntete.Txt(22)");
+clic("FrmEntete.CmdPolice"); repondre({nom: "Arial", taille: 9, gras: false, italique: true, souligne: false});
+saisir("FrmEntete.TxtMB", "20");
+saisir("FrmEntete.TxtMG", "15");
+clic("FrmEntete.CmdEnregistrer"); repondre("OK");
+const avant = travaux().length;
+clic("FrmEntete.CmdImpression");
+aucuneBoite();
+const t = travaux();
+egal(t.length, avant + 1, "un travail");
+egal(t[avant].pages.length, 1, "une page");
+const p = t[avant].pages[0];
+const pied = p.filter(i => i.texte === "Pied de page");
+egal(pied.length, 1, "le pied une fois");
+proche(pied[0].y, 297 - 20 + 4, 0.01, "le pied, de la marge haute et du bas de la feuille");
+vrai(pied[0].italique, "son italique"); egal(pied[0].taille, 9, "sa taille");
+const rue = p.find(i => i.texte === "12 rue Haute");
+vrai(!!rue, "l'adresse");
+proche(rue.x, 15, 0.3, "à la marge gauche");
+clic("FrmEntete.CmdQuitter");
+clic("FrmOptions.CmdAnnule");
