@@ -48,8 +48,9 @@ QString EffetDuTexte(const RangsEntete& rangs, int rang)
         return QStringLiteral("« $ » à la fin : s'imprime à la suite de la ligne qui finit par « * ».");
     }
     if (rang > 0 && OuvreUneSuite(rangs.at(static_cast<size_t>(rang) - 1).Texte)) {
-        return QStringLiteral("La ligne d'avant finit par « * » : finissez celle-ci par « $ », sinon elle la "
-                              "recouvre.");
+        return QStringLiteral(
+            "La ligne d'avant finit par « * » : finissez celle-ci par « $ », sinon elle peut la "
+            "recouvrir.");
     }
     return Retrait(ligne.EspacesLigne);
 }

@@ -245,7 +245,7 @@ void TestEntete::aRowSaysWhatItDoesOnPaper_data()
     QTest::newRow("ends a line") << 3 << "Tél.*"
                                  << "02 99$" << 0 << "« $ » à la fin";
     QTest::newRow("would cover the row before") << 3 << "Tél.*"
-                                                << "02 99" << 0 << "recouvre";
+                                                << "02 99" << 0 << "recouvrir";
     QTest::newRow("a lone star covers nothing") << 3 << "*"
                                                 << "02 99" << 0 << "Pour la décaler";
     QTest::newRow("shifted") << 3 << ""

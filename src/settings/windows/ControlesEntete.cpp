@@ -1,6 +1,7 @@
 #include "settings/windows/ControlesEntete.h"
 
 #include "application/windows/Style.h"
+#include "application/windows/UnSeulClic.h"
 #include "page/windows/VueAjustee.h"
 #include "settings/windows/Pastille.h"
 #include "settings/windows/SaisieRangs.h"
@@ -162,6 +163,7 @@ QLayout* ControlesEntete::Commandes(QWidget* fenetre)
     style::Nomme(CmdAide, QStringLiteral("Aide"), QStringLiteral("F1"));
     CmdImpression = style::Bouton(QStringLiteral("CmdImpression"), QStringLiteral("&Imprimer un essai"),
                                   QStringLiteral("printer"), fenetre);
+    CmdImpression->installEventFilter(new application::UnSeulClic(CmdImpression)); // one sheet, not two
     CmdImpression->setToolTip(QStringLiteral("Imprime l'en-tête enregistrée et le bas de page (Alt+I)"));
     CmdQuitter = style::Bouton(QStringLiteral("CmdQuitter"), QStringLiteral("&Quitter"),
                                QStringLiteral("arrow-left"), fenetre);

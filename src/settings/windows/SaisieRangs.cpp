@@ -275,7 +275,7 @@ void SaisieRangs::MontreRetrait(int rang)
         ligne->setTextMargins(std::clamp(pixels, 0, kPlusGrandRetrait), 0, 0, 0);
     }
     const QString retrait = espaces > 0 ? QStringLiteral("\nDécalée de %1 mm").arg(espaces) : QString();
-    champ->setToolTip(NomPolice(rang) + retrait);
+    champ->setToolTip(champ->accessibleName() + QLatin1Char('\n') + NomPolice(rang) + retrait);
 }
 
 int SaisieRangs::RangDe(const QObject* objet) const

@@ -146,6 +146,7 @@ void TestFrmOrdo::ADoubleClickPrintsOnce()
     auto& imprime = bureau.Un<QPushButton>("CmdImprime");
     QTest::mouseClick(&imprime, Qt::LeftButton);
     QTest::mouseDClick(&imprime, Qt::LeftButton);
+    QTest::mouseRelease(&imprime, Qt::LeftButton);
     QCOMPARE(bureau.Imprimantes.Travaux.size(), 1);
 }
 

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void TheSheetFollowsTheTyping();
     void ThePrintedSheetIsThePreviewItemByItem_data();
     void ThePrintedSheetIsThePreviewItemByItem();
+    void ADoubleClickPrintsOneSheet();
     void WithoutDoctorNothingIsStoredOrPrinted();
 };
 
@@ -131,6 +132,17 @@ void TestFeuilleEntete::ThePrintedSheetIsThePreviewItemByItem()
     QCOMPARE(pied.Police, surLaFeuille.Police);
     QCOMPARE(pied.Encre, page::Rvb(0, 0, 128));
     support::Capture(*atelier.Fenetre, QStringLiteral("entete_dessinee"));
+}
+
+void TestFeuilleEntete::ADoubleClickPrintsOneSheet()
+{
+    Atelier atelier;
+    atelier.Ouvre();
+    auto& bouton = atelier.Un<QPushButton>("CmdImpression");
+    QTest::mouseClick(&bouton, Qt::LeftButton);
+    QTest::mouseDClick(&bouton, Qt::LeftButton);
+    QTest::mouseRelease(&bouton, Qt::LeftButton);
+    QCOMPARE(atelier.Imprimantes.Travaux.size(), 1);
 }
 
 void TestFeuilleEntete::WithoutDoctorNothingIsStoredOrPrinted()

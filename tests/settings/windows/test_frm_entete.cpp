@@ -301,9 +301,9 @@ void TestFrmEntete::TheRowInHandIsExplained()
     QVERIFY(effet.text().contains(QStringLiteral("à la suite")));
     atelier.Txt(6).setFocus();
     atelier.Txt(6).setText(QStringLiteral("02 99"));
-    QVERIFY(effet.text().contains(QLatin1String("recouvre")));
+    QVERIFY(effet.text().contains(QLatin1String("recouvrir")));
     atelier.Txt(6).setText(QStringLiteral("02 99$"));
-    QVERIFY(!effet.text().contains(QLatin1String("recouvre")));
+    QVERIFY(!effet.text().contains(QLatin1String("recouvrir")));
 }
 
 void TestFrmEntete::EnterGoesToTheNextRow()
