@@ -60,7 +60,7 @@ QLayout* FrmMemo::FaitPied()
         style::Lien(QStringLiteral("lblAS"), QStringLiteral("Comment &supprimer une ordonnance ?"), this);
     CmdQuitter_ =
         style::Bouton(QStringLiteral("CmdQuitter"), QStringLiteral("&Quitter"), QStringLiteral("x-lg"), this);
-    CmdEditer_ = style::BoutonPrincipal(QStringLiteral("CmdEditer"), QStringLiteral("&Éditer"),
+    CmdEditer_ = style::BoutonPrincipal(QStringLiteral("CmdEditer"), QStringLiteral("É&diter"),
                                         QStringLiteral("check-lg"), this);
     style::Nomme(CmdEditer_, QStringLiteral("Ajouter ses lignes à l'ordonnance en cours"),
                  QStringLiteral("Entrée"));
