@@ -1,10 +1,12 @@
 #include "prescription/ChoixMemo.h"
 
 #include "application/Signaux.h"
+#include "common/Erreur.h"
 #include "outside/Boites.h"
 #include "prescription/ListeMemo.h"
 #include "prescription/messages.h"
 #include "startup/Chemins.h"
+#include "storage/Base.h"
 #include "storage/Bases.h"
 
 #include <algorithm>
@@ -27,6 +29,20 @@ void AjouteRelues(QList<Entree>& entrees, LignesZone& lignes, const QList<LigneM
         }
     }
     lignes.AjouteToutes(rangees);
+}
+
+QList<LigneMemorisee> LignesChoisies(application::Contexte& contexte)
+{
+    const std::optional<CleMemo>& cle = contexte.Ordonnance.CleMemo;
+    if (!cle) {
+        return {};
+    }
+    storage::Base& medoc = contexte.Bases.Medoc(contexte.Chemins.CheminTravail);
+    QList<LigneMemorisee> lignes = LitMemorisee(medoc, *cle);
+    if (lignes.isEmpty() && !EstMemorisee(medoc, *cle)) {
+        throw common::Erreur(messages::MemoDisparue(cle->Titre), medoc.Chemin());
+    }
+    return lignes;
 }
 
 } // namespace
@@ -64,10 +80,7 @@ void ChoisitMemo(Ordonnance& ordonnance, const ListeMemo& liste, int rang)
 void ChargeMemo(application::Contexte& contexte, quint8 ald)
 {
     Ordonnance& ordonnance = contexte.Ordonnance;
-    QList<LigneMemorisee> lignes;
-    if (ordonnance.CleMemo) {
-        lignes = LitMemorisee(contexte.Bases.Medoc(contexte.Chemins.CheminTravail), *ordonnance.CleMemo);
-    }
+    const QList<LigneMemorisee> lignes = LignesChoisies(contexte);
     ordonnance.ChkALD = ald;
     ordonnance.AncienFormat = std::ranges::any_of(lignes, &LigneMemorisee::AncienFormat);
     AjouteRelues(ordonnance.OrdoZone1, ordonnance.LstChoix1, lignes, 1);

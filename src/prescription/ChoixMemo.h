@@ -26,7 +26,7 @@ QString TitreDuPatient(QString patient);
 void ChoisitMemo(Ordonnance& ordonnance, const ListeMemo& liste, int rang);
 
 /// Adds the lines of the prescription chosen behind those in hand. `ald`: the stored `ChkALD`. Throws
-/// `Erreur`; nothing is changed then.
+/// `Erreur`, also when another station has deleted it; nothing is changed then.
 void ChargeMemo(application::Contexte& contexte, quint8 ald);
 
 /// Asks and deletes the prescription chosen, then takes its row out. True when that was done. The one in

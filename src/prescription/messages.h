@@ -148,6 +148,14 @@ inline QString SelectionnezMemo()
     return QStringLiteral("Sélectionnez une ordonnance .");
 }
 
+inline QString MemoDisparue(const QString& titre)
+{
+    return QStringLiteral(
+               "L'ordonnance mémorisée « %1 » n'est plus dans la base : elle a été supprimée depuis un "
+               "autre poste.")
+        .arg(titre);
+}
+
 inline QString SupprimerMemo(const QString& titre)
 {
     return QStringLiteral("Supprimer  ") + titre + QStringLiteral("  ?");

@@ -63,6 +63,7 @@ private Q_SLOTS:
     void SansModeleUnMessage();
     void ChargeLesLignesEtLeurFormat();
     void NeChargeRienQuandLaBaseEchoue();
+    void DitCelleQuUnAutrePosteASupprimee();
     void DitLaZoneCachee_data();
     void DitLaZoneCachee();
     void NeDemandeRienSansZero_data();
@@ -114,6 +115,16 @@ void TestMemorisees::NeChargeRienQuandLaBaseEchoue()
     poste.Medoc().PoseCrochet({});
     QVERIFY(poste.Etat.Ordonnance.LstChoix1.Vide());
     QCOMPARE(poste.Etat.Ordonnance.OrdoMemorisee, 0);
+}
+
+void TestMemorisees::DitCelleQuUnAutrePosteASupprimee()
+{
+    Poste poste;
+    QVERIFY(support::PhraseDEchec([&] { poste.Charge(); }).contains(u"« HTA » n'est plus dans la base"_s));
+    QCOMPARE(poste.Etat.Ordonnance.OrdoMemorisee, 0);
+    support::AjouteLigne(poste.Medoc(), u"ListeOrdos"_s, {u"HTA"_s, u"*"_s, 0, u"0"_s});
+    poste.Charge(); // stored without lines
+    QCOMPARE(poste.Etat.Ordonnance.OrdoMemorisee, 1);
 }
 
 void TestMemorisees::DitLaZoneCachee_data()

@@ -37,3 +37,15 @@ charge(1);
 aucuneBoite();
 egal(lignes("FrmMedoc.LstChoix2").length, 2, "elle aussi s'allonge");
 clic("FrmMedoc.CmdAnnule");
+
+// Un autre poste supprime celle que la liste montre encore.
+clic("FrmOrdo.CmdPharma");
+clic("FrmMedoc.LblOrdoMem");
+vider("Medoc", "ListeOrdos");
+vider("Medoc", "OrdoEnr");
+doubleClic("FrmMemo.LstMemo(0)", 1);
+egal(boite().genre, "stop", "c'est dit");
+boites([["L'ordonnance mémorisée « Deux zones » n'est plus dans la base : elle a été supprimée depuis un autre poste.", "OK"]]);
+vrai(ouverte("FrmMemo"), "la liste reste");
+egal([coche("FrmMedoc.ChkALD"), valeur("OrdoMemorisee")], [0, 0], "rien ne change");
+clic("FrmMemo.CmdQuitter");
