@@ -12,15 +12,17 @@ namespace page {
 
 namespace {
 
-/// Families whose characters have the same widths, or nearly, each entry a set of them between bars.
+/// Families whose characters have the same widths, each entry a set of them between bars.
 constexpr std::array kMemesLargeurs = {
-    QLatin1String("|arial|helvetica|liberation sans|arimo|nimbus sans|nimbus sans l|tex gyre heros|"),
-    QLatin1String("|times new roman|times|liberation serif|tinos|nimbus roman|nimbus roman no9 l|"
-                  "tex gyre termes|"),
-    QLatin1String("|courier new|courier|liberation mono|cousine|nimbus mono ps|nimbus mono l|"
-                  "tex gyre cursor|"),
-    QLatin1String("|arial narrow|helvetica narrow|liberation sans narrow|nimbus sans narrow|"),
-    QLatin1String("|verdana|dejavu sans|bitstream vera sans|"),
+    QLatin1String("|arial|helvetica|liberation sans|arimo|albany|albany amt|nimbus sans|nimbus sans l|"
+                  "tex gyre heros|"),
+    QLatin1String("|times new roman|times|liberation serif|tinos|thorndale|thorndale amt|nimbus roman|"
+                  "nimbus roman no9 l|tex gyre termes|"),
+    QLatin1String("|courier new|courier|liberation mono|cousine|cumberland|cumberland amt|nimbus mono ps|"
+                  "nimbus mono l|nimbus mono|tex gyre cursor|"),
+    QLatin1String("|arial narrow|helvetica narrow|liberation sans narrow|nimbus sans narrow|"
+                  "tex gyre heros cn|"),
+    QLatin1String("|dejavu sans|bitstream vera sans|"),
     QLatin1String("|calibri|carlito|"),
     QLatin1String("|cambria|caladea|"),
     QLatin1String("|georgia|gelasio|"),

@@ -4,7 +4,7 @@
 #include "outside/Boites.h"
 #include "settings/FichiersReglages.h"
 #include "settings/MiseEnPage.h"
-#include "settings/messagesMiseEnPage.h"
+#include "settings/messages.h"
 #include "startup/Chemins.h"
 #include "startup/GestionMedecins.h"
 #include "storage/Bases.h"
@@ -23,7 +23,7 @@ bool TropGrand(const CaseMarge& champ, const SaisieMiseEnPage& saisie)
     constexpr double maximum = std::numeric_limits<qint16>::max();
     constexpr double minimum = std::numeric_limits<qint16>::min();
     const double valeur = std::nearbyint(common::Val(saisie.*champ.Texte));
-    return std::holds_alternative<qint16 Marges::*>(champ.Variable) && (valeur < minimum || valeur > maximum);
+    return valeur < minimum || valeur > maximum;
 }
 
 const CaseMarge* PremierTropGrand(const SaisieMiseEnPage& saisie)

@@ -1,7 +1,7 @@
 #include "settings/HauteurSaut.h"
 
 #include "common/Nombres.h"
-#include "settings/messagesMiseEnPage.h"
+#include "settings/messages.h"
 
 namespace settings {
 

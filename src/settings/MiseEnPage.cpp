@@ -6,7 +6,7 @@
 #include "outside/Boites.h"
 #include "settings/FichiersReglages.h"
 #include "settings/HauteurSaut.h"
-#include "settings/messagesMiseEnPage.h"
+#include "settings/messages.h"
 #include "startup/Chemins.h"
 #include "storage/Bases.h"
 
@@ -72,7 +72,7 @@ SaisieMiseEnPage ChargeMiseEnPage(const application::Contexte& contexte)
     saisie.CboM = TexteMesure(reglages.Marges.MargeHauteOrdo);
     saisie.ChkS = reglages.Options.SautTitrePoso == 1;
     saisie.ChKSLP = reglages.Options.SautPersonnalise == 1;
-    saisie.TxtSLP = saisie.ChKSLP ? reglages.TxtSLP : QString();
+    saisie.TxtSLP = reglages.TxtSLP;
     return saisie;
 }
 
@@ -140,6 +140,9 @@ bool QuitteTxtSLP(application::Contexte& contexte, const QString& texte)
             contexte.Dehors.Boites.Exclamation(messages::HauteurOubliee());
         }
         return reglages.Options.SautPersonnalise != 1;
+    }
+    if (texte == reglages.TxtSLP) {
+        return true;
     }
     const auto hauteur = LitHauteurSaut(texte);
     reglages.TxtSLP = hauteur ? AVirgule(texte) : TexteSautPersonnalise(reglages);

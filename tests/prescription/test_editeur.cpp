@@ -1,7 +1,7 @@
 #include "prescription/Editeur.h"
 #include "prescription/messages.h"
 #include "settings/FichiersReglages.h"
-#include "settings/messagesMiseEnPage.h"
+#include "settings/messages.h"
 #include "startup/GestionMedecins.h"
 #include "storage/Jeu.h"
 #include "support/Cabinet.h"

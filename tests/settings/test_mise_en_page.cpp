@@ -1,6 +1,6 @@
 #include "settings/FichiersReglages.h"
 #include "settings/MiseEnPage.h"
-#include "settings/messagesMiseEnPage.h"
+#include "settings/messages.h"
 #include "support/BaseDeTest.h"
 #include "support/Cabinet.h"
 
@@ -175,25 +175,31 @@ void TestMiseEnPage::uneDecimaleStockeeReste()
 void TestMiseEnPage::uneValeurTropGrandeArreteTout_data()
 {
     QTest::addColumn<QString>("texte");
-    QTest::newRow("plus") << u"32768"_s;
-    QTest::newRow("moins") << u"-40000"_s;
-    QTest::newRow("immense") << u"1e300"_s;
+    QTest::addColumn<int>("rang");
+    for (int rang = 0; rang < static_cast<int>(CasesMarges().size()); ++rang) {
+        const char* nom = CasesMarges()[static_cast<size_t>(rang)].Nom;
+        QTest::addRow("%s plus", nom) << u"32768"_s << rang;
+        QTest::addRow("%s moins", nom) << u"-40000"_s << rang;
+        QTest::addRow("%s immense", nom) << u"1e300"_s << rang;
+    }
 }
 
 void TestMiseEnPage::uneValeurTropGrandeArreteTout()
 {
     QFETCH(QString, texte);
+    QFETCH(int, rang);
+    const CaseMarge& marge = CasesMarges()[static_cast<size_t>(rang)];
     Bureau bureau;
     SaisieMiseEnPage saisie = bureau.Chargee();
     const QStringList avant = bureau.Misenpage();
     saisie.Txt[0].Taille = 20;
     saisie.TxtM = u"5"_s;
-    saisie.TxtGD = texte;
-    bureau.Boites.AttendStop(messages::ValeurTropGrande(u"Marge gauche impression date du jour"_s, texte));
+    saisie.*marge.Texte = texte;
+    bureau.Boites.AttendStop(messages::ValeurTropGrande(marge.Libelle(), texte));
     const BilanMiseEnPage bilan = EnregistreMiseEnPage(bureau.Contexte, saisie);
     QVERIFY(!bilan.Enregistree);
     QVERIFY(bilan.TropGrand);
-    QCOMPARE(QLatin1String(bilan.TropGrand->Nom), "TxtGD"_L1);
+    QCOMPARE(QLatin1String(bilan.TropGrand->Nom), QLatin1String(marge.Nom));
     QCOMPARE(bureau.Misenpage(), avant);
     QVERIFY(!common::FichierExiste(bureau.Fichier(u"Marges.cfg"_s)));
     QCOMPARE(bureau.Etat.Reglages.Marges.MargeGaucheOrdo, 20.0F);

@@ -1,7 +1,7 @@
 #include "settings/FichiersReglages.h"
 #include "settings/HauteurSaut.h"
 #include "settings/MiseEnPage.h"
-#include "settings/messagesMiseEnPage.h"
+#include "settings/messages.h"
 #include "support/Cabinet.h"
 
 #include <QTest>
@@ -21,6 +21,7 @@ private Q_SLOTS:
     void decocherGardeLaHauteur();
     void quitterTxtSLP_data();
     void quitterTxtSLP();
+    void uneHauteurStockeeHorsDeLaFeuilleNeRetientPas();
     void txtSLPSuitLesReglagesDuMedecin();
     void leMenuMetTxtSLP();
 };
@@ -126,6 +127,18 @@ void TestSautPersonnalise::quitterTxtSLP()
     QCOMPARE(reglages.Marges.HauteurSaut, hauteur);
 }
 
+// The doctor could not leave the window before he has changed what he did not type.
+void TestSautPersonnalise::uneHauteurStockeeHorsDeLaFeuilleNeRetientPas()
+{
+    Cabinet bureau;
+    Reglages& reglages = bureau.Etat.Reglages;
+    reglages.Options.SautPersonnalise = 1;
+    reglages.Marges.HauteurSaut = 500;
+    reglages.TxtSLP = u"500"_s;
+    QVERIFY(QuitteTxtSLP(bureau.Contexte, u"500"_s));
+    QCOMPARE(reglages.Marges.HauteurSaut, 500.0F);
+}
+
 void TestSautPersonnalise::txtSLPSuitLesReglagesDuMedecin()
 {
     Cabinet bureau;
@@ -151,9 +164,6 @@ void TestSautPersonnalise::leMenuMetTxtSLP()
     QVERIFY(DemandeHauteurSaut(reglages, bureau.Boites));
     QCOMPARE(reglages.TxtSLP, u"2,5"_s);
     QCOMPARE(ChargeMiseEnPage(bureau.Contexte).TxtSLP, u"2,5"_s);
-    reglages.Options.SautPersonnalise = 0;
-    reglages.TxtSLP = u"0"_s; // as a certificate leaves it
-    QCOMPARE(ChargeMiseEnPage(bureau.Contexte).TxtSLP, QString());
 }
 
 QTEST_MAIN(TestSautPersonnalise)

@@ -12,8 +12,8 @@ namespace page {
 
 namespace style = application::style;
 
-VueAjustee::VueAjustee(const QString& nom, const QString& titre, QWidget* parent)
-    : QScrollArea(parent), feuille_(new page::Feuille)
+VueAjustee::VueAjustee(const QString& nom, const QString& titre, QWidget* parent, Ajustement ajustement)
+    : QScrollArea(parent), feuille_(new page::Feuille), ajustement_(ajustement)
 {
     feuille_->setObjectName(nom);
     feuille_->setAccessibleName(titre);
@@ -22,12 +22,30 @@ VueAjustee::VueAjustee(const QString& nom, const QString& titre, QWidget* parent
     feuille_->setAutoFillBackground(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
+    if (ajustement_ == Ajustement::Entiere) {
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setAlignment(Qt::AlignCenter);
+    }
+}
+
+QSize VueAjustee::sizeHint() const
+{
+    if (ajustement_ == Ajustement::Largeur) {
+        return QScrollArea::sizeHint();
+    }
+    const Dessin& dessin = feuille_->Montree();
+    return {qRound(dessin.Largeur), qRound(dessin.Hauteur)}; // its shape, at any zoom
 }
 
 void VueAjustee::Montre(const Dessin& dessin)
 {
     feuille_->Montre(dessin);
     Ajuste();
+}
+
+void VueAjustee::MarqueBas(double y)
+{
+    feuille_->MarqueBas(y);
 }
 
 void VueAjustee::MontrePied(bool oui)
@@ -41,14 +59,24 @@ void VueAjustee::resizeEvent(QResizeEvent* evenement)
     Ajuste();
 }
 
-// The room of the scroll bar is kept free, so that its coming and going does not change the zoom.
 void VueAjustee::Ajuste()
 {
-    const int bords = 2 * style::kBordFeuille + verticalScrollBar()->sizeHint().width();
-    const double place = (width() - bords) / std::max(1.0, feuille_->Montree().Largeur);
-    if (place > 0) {
-        feuille_->Zoom(place);
+    if (const double zoom = ZoomAjuste(); zoom > 0) {
+        feuille_->Zoom(zoom);
     }
+}
+
+// The room of the scroll bar is kept free, so that its coming and going does not change the zoom.
+double VueAjustee::ZoomAjuste() const
+{
+    constexpr int kBords = 2 * style::kBordFeuille;
+    const Dessin& dessin = feuille_->Montree();
+    const int place = width() - kBords;
+    if (ajustement_ == Ajustement::Largeur) {
+        return (place - verticalScrollBar()->sizeHint().width()) / std::max(1.0, dessin.Largeur);
+    }
+    return std::min(place / std::max(1.0, dessin.Largeur),
+                    (height() - kBords) / std::max(1.0, dessin.Hauteur));
 }
 
 } // namespace page

@@ -7,8 +7,10 @@
 #include "page/FeuilleEssai.h"
 #include "page/Gabarit.h"
 #include "page/windows/Feuille.h"
+#include "page/windows/VueAjustee.h"
 #include "prescription/Editeur.h"
 #include "settings/Echantillon.h"
+#include "settings/HauteurSaut.h"
 #include "settings/windows/ChampMesure.h"
 #include "settings/windows/FrmOptions.h"
 #include "startup/Chemins.h"
@@ -75,11 +77,9 @@ void FrmConfOrdo::Branche()
     connect(CmdPolice_, &QPushButton::clicked, this, &FrmConfOrdo::ChoisitPolice);
     connect(CmdEnregistrer_, &QPushButton::clicked, this, &FrmConfOrdo::Enregistre);
     connect(CmdRetour_, &QPushButton::clicked, this, &FrmConfOrdo::Retourne);
-    connect(&contexte_.Signaux, &application::Signaux::ReglagesChanges, this, [this] {
-        if (!isVisible()) {
-            Charge();
-        }
-    });
+    connect(&contexte_.Signaux, &application::Signaux::ReglagesChanges, this, &FrmConfOrdo::SuitReglages);
+    connect(&contexte_.Signaux, &application::Signaux::ApercuChange, this,
+            &FrmConfOrdo::MontreSautPersonnalise);
 }
 
 void FrmConfOrdo::BrancheTextes()
@@ -190,6 +190,18 @@ SaisieMiseEnPage FrmConfOrdo::Saisie() const
     return saisie;
 }
 
+void FrmConfOrdo::SuitReglages()
+{
+    if (!isVisible()) {
+        Charge();
+        return;
+    }
+    stockes_ = ReglagesStockes(contexte_);
+    MontreSautPersonnalise();
+    Peint();
+    Suit();
+}
+
 void FrmConfOrdo::Peint()
 {
     page::Surface echantillon(page::Cible::Autre, PctMeP_->Montree().Largeur, PctMeP_->Montree().Hauteur);
@@ -237,9 +249,6 @@ void FrmConfOrdo::CliqueChKSLP(bool coche)
         return;
     }
     ChangeSautPersonnalise(contexte_, coche);
-    MontreSautPersonnalise();
-    Peint();
-    Suit();
 }
 
 bool FrmConfOrdo::FinitTxtSLP()
@@ -281,6 +290,7 @@ void FrmConfOrdo::Retourne()
     }
     prescription::Repeint(contexte_);
     done(QDialog::Accepted);
+    contexte_.Reglages.TxtSLP = TexteSautPersonnalise(contexte_.Reglages);
     Charge();
     fenetres_.Donne<FrmOptions>().Ouvre(1);
 }

@@ -16,7 +16,8 @@ class QPushButton;
 
 namespace page {
 class Feuille;
-}
+class VueAjustee;
+} // namespace page
 
 namespace settings {
 
@@ -61,6 +62,8 @@ private:
     void MontreMarges(const SaisieMiseEnPage& saisie);
     void MontreSautPersonnalise();
     void MontrePolice(size_t rang);
+    /// Another hand changed the settings: all of it while hidden, the personal height while shown.
+    void SuitReglages();
     /// The sample.
     void Peint();
     /// The whole sheet, and whether something is not stored yet.
@@ -93,7 +96,7 @@ private:
     std::array<ChampMesure*, 2> Txt_ = {};
     std::array<QLabel*, 2> LblMed_ = {};
     page::Feuille* PctMeP_ = nullptr;
-    page::Feuille* PctFeuille_ = nullptr;
+    page::VueAjustee* PctFeuille_ = nullptr;
     QLabel* LblModifie_ = nullptr;
     QPushButton* CmdPolice_ = nullptr;
     QPushButton* CmdEnregistrer_ = nullptr;

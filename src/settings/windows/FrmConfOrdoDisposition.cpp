@@ -1,7 +1,7 @@
 #include "application/windows/Style.h"
 #include "page/Surface.h"
 #include "page/windows/Feuille.h"
-#include "page/windows/FeuilleEntiere.h"
+#include "page/windows/VueAjustee.h"
 #include "settings/windows/ChampMesure.h"
 #include "settings/windows/FrmConfOrdo.h"
 
@@ -211,11 +211,10 @@ QWidget* FrmConfOrdo::FaitFeuille()
 {
     auto* carte = style::Carte(this);
     auto* colonne = Interieur<QVBoxLayout>(carte);
-    PctFeuille_ = new page::Feuille(carte);
-    PctFeuille_->setObjectName(QStringLiteral("PctFeuille"));
-    style::Nomme(PctFeuille_, QStringLiteral("Feuille telle qu'elle s'imprimera"));
-    colonne->addWidget(style::Titre({}, QStringLiteral("Feuille telle qu'elle s'imprimera"), carte));
-    colonne->addWidget(new page::FeuilleEntiere(PctFeuille_, carte), 1);
+    const QString titre = QStringLiteral("Feuille telle qu'elle s'imprimera");
+    PctFeuille_ = new page::VueAjustee(QStringLiteral("PctFeuille"), titre, carte, page::Ajustement::Entiere);
+    colonne->addWidget(style::Titre({}, titre, carte));
+    colonne->addWidget(PctFeuille_, 1);
     colonne->addLayout(FaitTailleFeuille(carte));
     return carte;
 }

@@ -6,7 +6,7 @@
 #include "page/windows/Feuille.h"
 #include "prescription/Editeur.h"
 #include "settings/FichiersReglages.h"
-#include "settings/messagesMiseEnPage.h"
+#include "settings/messages.h"
 #include "settings/windows/FrmOptions.h"
 #include "support/Cabinet.h"
 #include "support/PageDeTest.h"

@@ -16,7 +16,6 @@ private Q_SLOTS:
     void EveryTextBoxSelectsItself();
     void TheCloseBoxAndEscapeAreRefused();
     void TheSampleFollowsItsTriggers();
-    void TheSheetFollowsEachKey();
     void TheTopMarginChangesAtOnce();
     void AnOddTopMarginHasItsOwnItem();
     void TheCustomHeightIsAskedFor();
@@ -28,6 +27,8 @@ private Q_SLOTS:
     void AnOversizedMarginGetsTheFocus();
     void BackRepaintsAndReloads();
     void HiddenItFollowsTheSettings();
+    void ShownItFollowsTheHeightMenus();
+    void TheHeightShowsWhatACertificatePutThere();
     void ATornMarginStopsNoPainting();
     void Picture();
 };
@@ -110,23 +111,6 @@ void TestFrmConfOrdo::TheSampleFollowsItsTriggers()
     conf.Saisit("TxtL", u"30"_s);
     conf.Quitte("TxtE");
     QCOMPARE(support::EnTexte(conf.Un<page::Feuille>("PctMeP").DessinMontre()), avant);
-}
-
-void TestFrmConfOrdo::TheSheetFollowsEachKey()
-{
-    ConfDeTest conf;
-    const auto titre = [&] {
-        return support::Trouve(conf.Un<page::Feuille>("PctFeuille").DessinMontre(),
-                               u"BIRODOGYL cp pelliculé : B/10"_s);
-    };
-    QCOMPARE(titre().X, 20.0);
-    QVERIFY(!conf.Modifie());
-    conf.Saisit("TxtM", u"2"_s);
-    QCOMPARE(titre().X, 2.0);
-    QVERIFY(conf.Modifie());
-    QCOMPARE(conf.Etat.Reglages.Marges.MargeGaucheOrdo, 20.0F);
-    conf.Saisit("TxtM", u"20"_s);
-    QVERIFY(!conf.Modifie());
 }
 
 void TestFrmConfOrdo::TheTopMarginChangesAtOnce()
@@ -292,6 +276,45 @@ void TestFrmConfOrdo::HiddenItFollowsTheSettings()
     QVERIFY(!conf.Un<QCheckBox>("ChKSLP").isChecked());
     QCOMPARE(conf.Champ("TxtSLP").text(), QString());
     conf.Fenetre->show();
+    QVERIFY(!conf.Modifie());
+}
+
+// The tray's menu stays within reach while the window is open.
+void TestFrmConfOrdo::ShownItFollowsTheHeightMenus()
+{
+    ConfDeTest conf;
+    conf.Boites.AttendSaisie(messages::InviteHauteur(), u"9.5"_s, u"0"_s)
+        .AttendSaisie(messages::InviteHauteur(), u"9.5"_s, u"9,5"_s);
+    prescription::FixeHauteurPersonnelle(conf.Contexte);
+    QVERIFY(!conf.Modifie()); // the menu has written it
+    prescription::RetablitHauteurNormale(conf.Contexte);
+    QVERIFY(!conf.Modifie());
+    const double avant = conf.Echantillon().value(2).Y;
+    conf.Saisit("TxtL", u"150"_s);
+    prescription::FixeHauteurPersonnelle(conf.Contexte);
+    QVERIFY(conf.Un<QCheckBox>("ChKSLP").isChecked());
+    QVERIFY(conf.Champ("TxtSLP").isEnabled());
+    QCOMPARE(conf.Champ("TxtSLP").text(), u"9,5"_s);
+    QVERIFY(conf.Echantillon().value(2).Y > avant);
+    QCOMPARE(conf.Champ("TxtL").text(), u"150"_s); // what he typed stays
+    prescription::RetablitHauteurNormale(conf.Contexte);
+    QVERIFY(!conf.Un<QCheckBox>("ChKSLP").isChecked());
+    QVERIFY(!conf.Champ("TxtSLP").isEnabled());
+    QCOMPARE(conf.Echantillon().value(2).Y, avant);
+    conf.Saisit("TxtL", u"170"_s);
+    QVERIFY(!conf.Modifie());
+}
+
+void TestFrmConfOrdo::TheHeightShowsWhatACertificatePutThere()
+{
+    ConfDeTest conf;
+    conf.Fenetre->hide();
+    conf.PoseCertificat(u"Repos"_s);
+    prescription::Repeint(conf.Contexte);
+    QCOMPARE(conf.Champ("TxtSLP").text(), u"0"_s);
+    conf.Fenetre->show();
+    QVERIFY(!conf.Champ("TxtSLP").isEnabled());
+    QVERIFY(!conf.Un<QCheckBox>("ChKSLP").isChecked());
     QVERIFY(!conf.Modifie());
 }
 
