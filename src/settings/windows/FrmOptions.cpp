@@ -254,7 +254,7 @@ void FrmOptions::resizeEvent(QResizeEvent* evenement)
     QDialog::resizeEvent(evenement);
     style::SerreOnglets(TS_, width() < kLargeurDesOnglets);
     for (Onglet* onglet : std::as_const(onglets_)) {
-        onglet->Adapte(width() - 2 * style::kMarge);
+        onglet->Adapte(size());
     }
 }
 

@@ -6,6 +6,9 @@
 
 namespace settings {
 
+/// Below that height of the window, in pixels, a tab that shows a picture makes it smaller.
+constexpr int kFenetreBasse = 480;
+
 /// One tab of `FrmOptions`: its controls, and what they hold at `CmdOK`.
 class Onglet : public QWidget
 {
@@ -19,8 +22,8 @@ public:
     virtual QString Titre() const = 0;
     /// Puts in what the controls hold; those that act at once have nothing to say.
     virtual void Lit(SaisieOptions& saisie) const = 0;
-    /// Lays the tab out for a width in pixels.
-    virtual void Adapte(int /*largeur*/) {}
+    /// Lays the tab out for a window of that size, in pixels.
+    virtual void Adapte(QSize /*fenetre*/) {}
 
 Q_SIGNALS:
     /// A control acted on the page and gives the focus away.

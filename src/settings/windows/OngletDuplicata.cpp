@@ -20,6 +20,7 @@ namespace style = application::style;
 namespace {
 
 constexpr int kHauteurDuMot = 150; ///< two lines of 40 points
+constexpr int kHauteurReduite = 84;
 
 } // namespace
 
@@ -49,7 +50,6 @@ QWidget* OngletDuplicata::CarteDuMot()
     LblDup_->setObjectName(QStringLiteral("LblDup"));
     LblDup_->setAccessibleName(QStringLiteral("Texte inscrit sur les copies"));
     LblDup_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    LblDup_->setFixedHeight(kHauteurDuMot);
     auto* groupe = new QVBoxLayout(carte);
     groupe->setSpacing(style::kEntreGroupes);
     groupe->addWidget(ChkDup_, 0, Qt::AlignLeft);
@@ -79,7 +79,8 @@ QLayout* OngletDuplicata::RangeeDesBoutons(QWidget* carte)
         controle->setSizePolicy(garde);
         rangee->addWidget(controle);
     }
-    rangee->addStretch();
+    LblPolice_->setWordWrap(true);
+    rangee->setStretchFactor(LblPolice_, 1);
     return rangee;
 }
 
@@ -170,6 +171,11 @@ void OngletDuplicata::MontreCouleur(page::Couleur couleur)
 {
     LblDup_->MontreCouleur(couleur);
     LblColor_->Montre(couleur);
+}
+
+void OngletDuplicata::Adapte(QSize fenetre)
+{
+    LblDup_->setFixedHeight(fenetre.height() < kFenetreBasse ? kHauteurReduite : kHauteurDuMot);
 }
 
 void OngletDuplicata::Lit(SaisieOptions& saisie) const

@@ -24,6 +24,7 @@ public:
     int Numero() const override { return 7; }
     QString Titre() const override { return QStringLiteral("Duplicata"); }
     void Lit(SaisieOptions& saisie) const override;
+    void Adapte(QSize fenetre) override;
 
 private:
     QWidget* CarteDuMot();

@@ -135,8 +135,9 @@ void OngletGeneral::MontreIcone(bool oui)
     }
 }
 
-void OngletGeneral::Adapte(int largeur)
+void OngletGeneral::Adapte(QSize fenetre)
 {
+    const int largeur = fenetre.width() - 2 * style::kMarge;
     colonnes_->setDirection(largeur < largeurEntiere_ ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 

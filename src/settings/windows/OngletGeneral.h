@@ -22,7 +22,7 @@ public:
     int Numero() const override { return 2; }
     QString Titre() const override { return QStringLiteral("Options générales"); }
     void Lit(SaisieOptions& saisie) const override;
-    void Adapte(int largeur) override;
+    void Adapte(QSize fenetre) override;
 
 private:
     struct Case

@@ -19,6 +19,7 @@ OngletImprimantes::OngletImprimantes(application::Contexte& contexte, QWidget* p
 {
     CboPrint_->setObjectName(QStringLiteral("CboPrint"));
     CboPrint_->setPlaceholderText(QStringLiteral("Choisissez une imprimante"));
+    CboPrint_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // names can be long
     style::Nomme(CboPrint_, QStringLiteral("Imprimante des ordonnances"));
     Chkimp_->setObjectName(QStringLiteral("Chkimp"));
     Chkimp_->setText(QStringLiteral("&Ne plus montrer"));

@@ -19,6 +19,8 @@ namespace style = application::style;
 namespace {
 
 constexpr QSize kPlaceDeLImage(521, 185); ///< in pixels at 100 %
+constexpr QSize kPlaceReduite(521, 84);
+constexpr QSize kCadre(4, 4);
 
 } // namespace
 
@@ -46,7 +48,6 @@ QWidget* OngletLogo::CarteDeLImage()
     Img_->setObjectName(QStringLiteral("Img"));
     Img_->setAccessibleName(QStringLiteral("Image du logo"));
     style::Encadre(Img_);
-    Img_->setMinimumSize(kPlaceDeLImage + QSize(4, 4));
     auto* rangee = new QHBoxLayout;
     rangee->setSpacing(style::kEntreGroupes);
     rangee->addWidget(ChkLog_);
@@ -133,7 +134,7 @@ void OngletLogo::Charge()
                    QString::number(options.LogoX), QString::number(options.LogoY)});
     PermetMesures(actif && !options.FichierLogo.isEmpty());
     if (actif) {
-        MontreImage();
+        MontreImage(AjusteLogo(contexte_));
     }
 }
 
@@ -145,14 +146,13 @@ void OngletLogo::Insere(bool oui)
     }
     PermetMesures(oui && !options.FichierLogo.isEmpty());
     if (!oui) {
-        avecImage_ = false;
-        Img_->clear();
+        MontreImage({});
         MontreMesures(QStringList(4, QStringLiteral("0")));
         return;
     }
     MontreMesures({QString::number(options.LogoHauteur), QString::number(options.LogoLargeur),
                    QString::number(options.LogoX), QString::number(options.LogoY)});
-    MontreImage();
+    MontreImage(AjusteLogo(contexte_));
 }
 
 void OngletLogo::ChoisitFichier()
@@ -160,21 +160,30 @@ void OngletLogo::ChoisitFichier()
     if (ChoisitLogo(contexte_)) {
         PermetMesures(true);
         MontreMesures(QStringList(4, QStringLiteral("0")));
-        MontreImage();
+        MontreImage(AjusteLogo(contexte_));
     }
 }
 
-void OngletLogo::MontreImage()
+void OngletLogo::MontreImage(const QImage& image)
 {
-    const QImage image = AjusteLogo(contexte_);
-    avecImage_ = !image.isNull();
+    image_ = image;
     QPixmap vue = QPixmap::fromImage(image);
-    if (avecImage_) {
+    if (!image.isNull()) {
         const double densite = devicePixelRatioF();
-        vue = vue.scaled(kPlaceDeLImage * densite, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        vue = vue.scaled(place_ * densite, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         vue.setDevicePixelRatio(densite);
     }
     Img_->setPixmap(vue);
+}
+
+void OngletLogo::Adapte(QSize fenetre)
+{
+    const QSize place = fenetre.height() < kFenetreBasse ? kPlaceReduite : kPlaceDeLImage;
+    if (place != place_) {
+        place_ = place;
+        Img_->setMinimumSize(place + kCadre);
+        MontreImage(image_);
+    }
 }
 
 void OngletLogo::MontreMesures(const QStringList& textes)
@@ -212,7 +221,7 @@ void OngletLogo::SuitLargeur(const QString& texte)
 void OngletLogo::Lit(SaisieOptions& saisie) const
 {
     saisie.ChkLog = ChkLog_->isChecked();
-    saisie.AvecImage = avecImage_;
+    saisie.AvecImage = !image_.isNull();
     saisie.TxtH = TxtH_->text();
     saisie.TxtL = TxtL_->text();
     saisie.TxtX = TxtX_->text();

@@ -3,6 +3,8 @@
 #include "application/Contexte.h"
 #include "settings/windows/Onglet.h"
 
+#include <QImage>
+
 class QCheckBox;
 class QLabel;
 class QPushButton;
@@ -23,6 +25,7 @@ public:
     int Numero() const override { return 6; }
     QString Titre() const override { return QStringLiteral("Logo"); }
     void Lit(SaisieOptions& saisie) const override;
+    void Adapte(QSize fenetre) override;
 
 private:
     QWidget* CarteDeLImage();
@@ -32,7 +35,7 @@ private:
     void Charge();
     void Insere(bool oui);
     void ChoisitFichier();
-    void MontreImage();
+    void MontreImage(const QImage& image);
     void MontreMesures(const QStringList& textes);
     void PermetMesures(bool oui);
     void SuitHauteur(const QString& texte);
@@ -48,7 +51,8 @@ private:
     BoiteMillimetres* TxtL_ = nullptr;
     BoiteMillimetres* TxtX_ = nullptr;
     BoiteMillimetres* TxtY_ = nullptr;
-    bool avecImage_ = false;
+    QImage image_;
+    QSize place_{1, 1}; ///< of the picture, in pixels
 };
 
 } // namespace settings

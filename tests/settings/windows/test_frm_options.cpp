@@ -23,6 +23,7 @@ private Q_SLOTS:
     void OpensOnItsTab_data();
     void OpensOnItsTab();
     void ATabGivesTheFocusAway();
+    void ALowWindowKeepsTheButtonsOfThePicturesInSight();
     void OkWritesTheThreeFiles();
     void ARefusalShowsItsTabAndWritesNothing();
     void AFailedWriteLeavesTheWindowOpen();
@@ -86,6 +87,32 @@ void TestFrmOptions::ATabGivesTheFocusAway()
         QCOMPARE(TS.currentIndex(), 4);
         QCOMPARE(fenetre.focusWidget()->objectName(), QStringLiteral("CmdFoc"));
         PosteOptions::Presse(fenetre, "CmdAnnule(4)");
+    });
+}
+
+void TestFrmOptions::ALowWindowKeepsTheButtonsOfThePicturesInSight()
+{
+    PosteOptions poste;
+    poste.Etat.Reglages.Options.Imprimante = QString(200, QLatin1Char('M'));
+    poste.Etat.Reglages.Dupli.DupliPolice = QString(100, QLatin1Char('M'));
+    poste.Imprimantes.Presentes = {poste.Etat.Reglages.Options.Imprimante};
+    poste.Pendant(7, [](FrmOptions& fenetre) {
+        fenetre.resize(667, 336); // a screen of 1366 by 768 at 200 %
+        QTest::qWait(1);
+        const auto entier = [&fenetre](const char* nom) {
+            const auto& controle = PosteOptions::Un<QWidget>(fenetre, nom);
+            return controle.visibleRegion().boundingRect() == controle.rect();
+        };
+        QVERIFY(entier("CmdTexte"));
+        QVERIFY(entier("CmdColPol"));
+        PosteOptions::Un<QTabBar>(fenetre, "TS").setCurrentIndex(5);
+        QTest::qWait(1);
+        QVERIFY(entier("CmdChemin"));
+        QVERIFY(entier("Img"));
+        PosteOptions::Un<QTabBar>(fenetre, "TS").setCurrentIndex(2);
+        QTest::qWait(1);
+        QVERIFY(entier("CboPrint"));
+        PosteOptions::Presse(fenetre, "CmdAnnule(2)");
     });
 }
 
