@@ -1,5 +1,7 @@
 #include "page/FlotCertificat.h"
 
+#include "common/Lignes.h"
+
 #include <algorithm>
 
 namespace page {
@@ -16,7 +18,7 @@ bool FlotCertificat::Tient(const Mot& mot) const
     if (cible_.TextWidth(ligne_ + mot.Mesure) >= largeur_) {
         return false;
     }
-    const bool aCote = apresAdresse_ || PartiesDeTexte(mot.Mesure).size() > 1;
+    const bool aCote = apresAdresse_ || common::PartiesDeTexte(mot.Mesure).size() > 1;
     const double surFeuille = cible_.CurrentX() - cible_.ScaleLeft();
     return !aCote || ligne_.isEmpty() || surFeuille + cible_.TextWidth(mot.Mesure) <= cible_.ScaleWidth();
 }
@@ -61,7 +63,7 @@ void FlotCertificat::Ecrit(const Mot& mot)
     cible_.Font(StyleDuMot(police_, mot));
     Place(mot);
     if (!adresse_.isEmpty() && mot.Mesure.contains(adresse_)) {
-        EcritAdresse(PartiesDeTexte(mot.Mesure));
+        EcritAdresse(common::PartiesDeTexte(mot.Mesure));
     } else {
         cible_.PrintSuite(mot.Imprime());
     }

@@ -1,5 +1,6 @@
 #include "page/Mesure.h"
 
+#include "common/Lignes.h"
 #include "page/Caracteres.h"
 
 #include <QFontMetricsF>
@@ -123,7 +124,7 @@ double MesureLargeur(const QString& texte, const Police& police)
         return LargeurDeLigne(texte, police);
     }
     double largeur = 0;
-    for (const QString& ligne : PartiesDeTexte(texte)) {
+    for (const QString& ligne : common::PartiesDeTexte(texte)) {
         largeur = std::max(largeur, LargeurDeLigne(ligne, police));
     }
     return largeur;
@@ -159,17 +160,6 @@ QFont PoliceQt(const Police& police, double facteur)
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
-}
-
-QStringList PartiesDeTexte(const QString& texte)
-{
-    if (std::ranges::none_of(texte, EstFinDeLigne)) {
-        return {texte};
-    }
-    QString unies = texte;
-    unies.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    unies.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    return unies.split(QLatin1Char('\n'));
 }
 
 } // namespace page

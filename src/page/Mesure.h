@@ -35,7 +35,4 @@ Soulignement MesureSoulignement(const Police& police);
 /// points; `facteur` multiplies it.
 QFont PoliceQt(const Police& police, double facteur = 1);
 
-/// The lines of a text: CR LF, LF and CR part them.
-QStringList PartiesDeTexte(const QString& texte);
-
 } // namespace page

@@ -1,3 +1,4 @@
+#include "common/Lignes.h"
 #include "common/Nombres.h"
 #include "page/FlotCertificat.h"
 #include "page/Macros.h"
@@ -19,15 +20,6 @@ bool EstTitreDeZone(const QString& ligne)
         QStringLiteral("affection de longue durée"), QStringLiteral("______________________"),
         QStringLiteral("AFFECTION* EXONERANTE"), QStringLiteral("MALADIES* INTERCURRENTES")};
     return std::ranges::any_of(signes, [&](const QString& signe) { return ligne.contains(signe); });
-}
-
-QStringList LignesDuTexte(const QString& texte)
-{
-    QStringList lignes = PartiesDeTexte(texte);
-    if (lignes.constLast().isEmpty()) {
-        lignes.removeLast();
-    }
-    return lignes;
 }
 
 // Compared letter by letter, as the box holds it: a height of "10" is below "2".
@@ -78,7 +70,7 @@ void PeintCertificat(Surface& cible, Modele& modele, const TexteCertificat& cert
     const settings::Marges& marges = modele.Reglages.Marges;
     PoseOrigine(cible, marges, decalage);
     cible.DebuteCorps();
-    for (const QString& ligne : LignesDuTexte(certificat.Texte)) {
+    for (const QString& ligne : common::LignesDeTexte(certificat.Texte)) {
         const page::Police& police =
             EstTitreDeZone(ligne) ? certificat.Certificat.TxtCert : modele.Reglages.Look.Certif;
         FlotCertificat flot(cible, police, marges.LongueurLigne - decalage, modele.Patient.AdressePatient);

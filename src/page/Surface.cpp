@@ -1,5 +1,7 @@
 #include "page/Surface.h"
 
+#include "common/Lignes.h"
+
 #include <algorithm>
 
 namespace page {
@@ -109,7 +111,7 @@ void Surface::PrintSuite(const QString& texte)
 
 void Surface::Ecrit(const QString& texte)
 {
-    const QStringList parties = PartiesDeTexte(texte);
+    const QStringList parties = common::PartiesDeTexte(texte);
     for (qsizetype rang = 0; rang < parties.size(); ++rang) {
         if (rang > 0) {
             PasseALaLigne();

@@ -1,6 +1,7 @@
 #include "startup/MedecinIni.h"
 
 #include "common/Fichiers.h"
+#include "common/Lignes.h"
 #include "common/Nombres.h"
 #include "common/Texte8.h"
 #include "settings/Enregistrement.h"
@@ -43,12 +44,6 @@ LigneMedecin AnalyseLigne(const QString& ligne)
     return {ligne, {nom, numero}};
 }
 
-QStringList LignesDuTexte(QString texte)
-{
-    texte.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    return texte.split(QLatin1Char('\n'));
-}
-
 /// The first line's number. One that cannot be read becomes the highest number of the lines below.
 void LitPremiereLigne(ContenuMedecinIni& contenu, const QString& ligne)
 {
@@ -81,7 +76,7 @@ QString LigneDe(const ContenuMedecinIni& ancien, const Medecin& medecin)
 ContenuMedecinIni AnalyseMedecinIni(const QByteArray& octets)
 {
     ContenuMedecinIni contenu;
-    QStringList lignes = LignesDuTexte(common::DepuisWindows1252(octets));
+    QStringList lignes = common::PartiesDeTexte(common::DepuisWindows1252(octets));
     const QString premiere = lignes.takeFirst();
     for (const QString& ligne : lignes) {
         if (!ligne.trimmed().isEmpty()) {

@@ -1,5 +1,6 @@
 #include "certificates/Bandeaux.h"
 #include "certificates/Certificat.h"
+#include "common/Lignes.h"
 #include "page/Mesure.h"
 
 #include <QTest>
@@ -32,7 +33,7 @@ void TestBandeaux::LesDeuxTextesSontExacts()
 void TestBandeaux::LaPoliceEstLaPlusGrandeQuiTientSurUneLigne()
 {
     const QString texte = certificates::BandeauALD1() + QLatin1Char('\n') + certificates::BandeauALD2();
-    const QStringList lignes = page::PartiesDeTexte(texte);
+    const QStringList lignes = common::PartiesDeTexte(texte);
     const auto tiennent = [&](page::Police police) {
         return std::ranges::all_of(
             lignes, [&](const QString& ligne) { return page::MesureLargeur(ligne, police) < 170; });
