@@ -15,7 +15,7 @@ constexpr int kPosologie = 1;
 
 storage::Jeu EntreeDe(storage::Base& medoc, const QString& titre)
 {
-    return medoc.Selection(kTable, QStringLiteral("Titre = ?"), {titre});
+    return medoc.Selection(kTable, QStringLiteral("ifnull(Titre, '') = ?"), {titre});
 }
 
 void Ecris(storage::Jeu& entree, const Saisie& saisie)

@@ -12,7 +12,8 @@ class Base;
 namespace medication {
 
 /// The doctor's own titles beside a drug bank, each with a posology or a comment: the table `Biblio`.
-/// A title is found exactly as it is stored; of equal ones, the first. Whatever fails throws `Erreur`.
+/// A title is found exactly as it is stored, a null one as the empty text; of equal ones, the first.
+/// Whatever fails throws `Erreur`.
 class PharmaciePersonnelle
 {
 public:

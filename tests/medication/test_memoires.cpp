@@ -83,6 +83,16 @@ private Q_SLOTS:
         QVERIFY(!PharmaciePersonnelle(Medoc()).Posologie(QStringLiteral("B")));
     }
 
+    void ANullTitleIsTheEmptyOne()
+    {
+        support::AjouteLigne(Medoc(), QStringLiteral("Biblio"), {{}, QStringLiteral("p")});
+        PharmaciePersonnelle personnelle(Medoc());
+        QCOMPARE(personnelle.Titres(), QStringList({QString()}));
+        QCOMPARE(personnelle.Posologie(QString()), std::optional(QStringLiteral("p")));
+        QVERIFY(personnelle.Supprime(QStringLiteral("")));
+        QVERIFY(Lignes("Biblio").isEmpty());
+    }
+
     void AnEmptyPharmacyHasNoTitle() { QVERIFY(PharmaciePersonnelle(Medoc()).Titres().isEmpty()); }
 
     void APosologyIsKeptPerPack()

@@ -91,12 +91,18 @@ private Q_SLOTS:
 
     void TheLastDayOfTheBaseIsShown()
     {
+        const auto entier = [&] {
+            const auto* etiquette = Trouve<QLabel>("LblDatExp");
+            return etiquette->width() >= etiquette->sizeHint().width();
+        };
         monde_->Etat.Banque.DateExpirationBase = QStringLiteral("31/12/2999");
         Montre();
         QCOMPARE(Trouve<QLabel>("LblDatExp")->text(), QStringLiteral("La base expire le 31/12/2999"));
+        QTRY_VERIFY(entier());
         monde_->Etat.Banque.DateExpirationBase = QStringLiteral("31/12/1999");
         Montre();
         QCOMPARE(Trouve<QLabel>("LblDatExp")->text(), QStringLiteral("Fin d'exploitation de la base."));
+        QTRY_VERIFY(entier());
     }
 
     void ABlankSearchShowsThePersonalPharmacy()
