@@ -132,8 +132,8 @@ SaisieRangs::SaisieRangs(SaisieEntete& saisie, QWidget* parent) : QWidget(parent
     gauche->addWidget(CarteBasDePage());
     gauche->addWidget(CarteSignature());
     gauche->addStretch();
-    colonnes->addLayout(gauche, 1);
-    colonnes->addWidget(CartePraticien(), 1);
+    colonnes->addLayout(gauche, 6);
+    colonnes->addWidget(CartePraticien(), 5);
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins({});
     page->addLayout(colonnes);
@@ -184,7 +184,7 @@ QWidget* SaisieRangs::CarteAdresse()
     groupe->addWidget(Champ(1));
     groupe->addLayout(Ligne({{Champ(2), 2}, {Champ(3), 1}}));
     groupe->addWidget(Champ(4));
-    groupe->addLayout(Ligne({{Champ(5), 2}, {Champ(6), 3}, {Champ(7), 2}, {Champ(8), 3}}));
+    groupe->addLayout(Ligne({{Champ(5), 1}, {Champ(6), 2}, {Champ(7), 1}, {Champ(8), 2}}));
     groupe->addWidget(Champ(9));
     return carte;
 }

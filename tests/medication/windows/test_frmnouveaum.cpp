@@ -152,6 +152,7 @@ private Q_SLOTS:
         Tape(QStringLiteral("a"), {});
         Presse("CmdOK");
         QTest::mouseDClick(Du<QWidget>("CmdOK"), Qt::LeftButton);
+        QTest::mouseRelease(Du<QWidget>("CmdOK"), Qt::LeftButton);
         QCOMPARE(Lignes("BddMed").size(), 4);
         Presse("CmdOK");
         QCOMPARE(Lignes("BddMed").size(), 5);
