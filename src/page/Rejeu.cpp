@@ -1,6 +1,7 @@
 #include "page/Rejeu.h"
 
 #include "page/Caracteres.h"
+#include "page/CouleurQt.h"
 #include "page/Mesure.h"
 
 #include <QColor>
@@ -18,11 +19,6 @@ namespace {
 
 constexpr double kMillimetresParPointTypo = 25.4 / 72;
 constexpr double kArrondi = 1e-6; // what a place on a whole point of the target may be off by
-
-QColor CouleurQt(Couleur couleur)
-{
-    return QColor(couleur & 0xFF, couleur >> 8 & 0xFF, couleur >> 16 & 0xFF);
-}
 
 struct PoliceRejouee
 {

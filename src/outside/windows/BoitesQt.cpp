@@ -2,6 +2,7 @@
 
 #include "application/windows/Style.h"
 #include "outside/FiltreQt.h"
+#include "page/CouleurQt.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -79,12 +80,6 @@ page::Police DepuisQt(const QFont& police)
 {
     return {police.family(), static_cast<float>(police.pointSizeF()), police.bold(), police.italic(),
             police.underline()};
-}
-
-QColor VersQColor(page::Couleur couleur)
-{
-    return QColor(static_cast<int>(couleur & 255), static_cast<int>(couleur >> 8 & 255),
-                  static_cast<int>(couleur >> 16 & 255));
 }
 
 } // namespace
@@ -173,7 +168,7 @@ std::optional<page::Police> BoitesQt::ChoisitPolice(const page::Police& depart)
 std::optional<page::Couleur> BoitesQt::ChoisitCouleur(page::Couleur depart)
 {
     const QColor couleur =
-        QColorDialog::getColor(VersQColor(depart), Dessous(), QStringLiteral("Choisir la couleur"));
+        QColorDialog::getColor(page::CouleurQt(depart), Dessous(), QStringLiteral("Choisir la couleur"));
     if (!couleur.isValid()) {
         return std::nullopt;
     }

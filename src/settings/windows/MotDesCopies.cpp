@@ -1,6 +1,7 @@
 #include "settings/windows/MotDesCopies.h"
 
 #include "application/windows/Style.h"
+#include "page/CouleurQt.h"
 #include "settings/Reglages.h"
 
 #include <QPainter>
@@ -13,12 +14,6 @@ namespace settings {
 namespace {
 
 constexpr int kMarge = 8;
-
-QColor EnQColor(page::Couleur couleur)
-{
-    return QColor::fromRgb(static_cast<int>(couleur & 255), static_cast<int>(couleur >> 8 & 255),
-                           static_cast<int>(couleur >> 16 & 255));
-}
 
 } // namespace
 
@@ -42,7 +37,7 @@ void MotDesCopies::MontreCouleur(page::Couleur couleur)
 {
     couleur_ = couleur;
     QPalette teintes = palette();
-    teintes.setColor(QPalette::WindowText, EnQColor(couleur));
+    teintes.setColor(QPalette::WindowText, page::CouleurQt(couleur));
     setPalette(teintes);
     update();
 }
@@ -59,7 +54,7 @@ void MotDesCopies::paintEvent(QPaintEvent*)
     const double echelle = std::min(
         {1.0, place.width() / std::max(1, etendue.width()), place.height() / std::max(1, etendue.height())});
     peintre.setFont(font());
-    peintre.setPen(EnQColor(couleur_));
+    peintre.setPen(page::CouleurQt(couleur_));
     peintre.translate(place.center());
     peintre.scale(echelle, echelle);
     peintre.drawText(QRectF(-etendue.width(), -etendue.height(), 2 * etendue.width(), 2 * etendue.height()),

@@ -1,5 +1,7 @@
 #include "settings/windows/Pastille.h"
 
+#include "page/CouleurQt.h"
+
 #include <QPalette>
 
 namespace settings {
@@ -18,11 +20,8 @@ Pastille::Pastille(QWidget* parent) : QWidget(parent)
 
 void Pastille::Montre(page::Couleur couleur)
 {
-    constexpr page::Couleur kOctet = 255;
     QPalette palette = this->palette();
-    palette.setColor(backgroundRole(),
-                     QColor(static_cast<int>(couleur & kOctet), static_cast<int>(couleur >> 8 & kOctet),
-                            static_cast<int>(couleur >> 16 & kOctet)));
+    palette.setColor(backgroundRole(), page::CouleurQt(couleur));
     setPalette(palette);
 }
 
