@@ -2,9 +2,15 @@
 
 #include "page/Corps.h"
 
+#include <algorithm>
+
 namespace settings {
 
 namespace {
+
+constexpr double kLargeur = 100; // of the sample's paper, millimetres
+constexpr double kHauteur = 56;
+constexpr double kBord = 4; // kept free beyond what is written
 
 void PeintLignes(page::Surface& cible, const Reglages& reglages, const QString& titre,
                  const QString& posologie)
@@ -32,6 +38,23 @@ void PeintEchantillon(page::Surface& cible, const Reglages& reglages)
     }
     PeintLignes(cible, reglages, QStringLiteral("EFFERALGAN CODEINE cp efferv séc : 2T/8"),
                 QStringLiteral("2 comprimés matin, midi et soir"));
+}
+
+page::Dessin DessinEchantillon(const Reglages& reglages)
+{
+    page::Surface cible(page::Cible::Autre, kLargeur, kHauteur);
+    PeintEchantillon(cible, reglages);
+    page::Dessin dessin = cible.Resultat();
+    for (const page::Item& item : std::as_const(dessin.Items)) {
+        if (const auto* texte = std::get_if<page::ItemTexte>(&item)) {
+            dessin.Largeur = std::max(dessin.Largeur, texte->X + texte->Largeur + kBord);
+            dessin.Hauteur = std::max(dessin.Hauteur, texte->Y + texte->Hauteur + kBord);
+        }
+    }
+    const page::Dessin feuille;
+    dessin.Largeur = std::min(dessin.Largeur, feuille.Largeur);
+    dessin.Hauteur = std::min(dessin.Hauteur, feuille.Hauteur);
+    return dessin;
 }
 
 } // namespace settings

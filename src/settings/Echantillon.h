@@ -9,4 +9,8 @@ namespace settings {
 /// at half its size, the rest at its own.
 void PeintEchantillon(page::Surface& cible, const Reglages& reglages);
 
+/// The sample on its paper, about half of a sheet wide, which grows with what is written on it up to a whole
+/// sheet.
+page::Dessin DessinEchantillon(const Reglages& reglages);
+
 } // namespace settings

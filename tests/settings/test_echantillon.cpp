@@ -46,6 +46,7 @@ private Q_SLOTS:
     void leSautPersonnalise();
     void leSautEntreTitreEtPosologie();
     void peintDeuxFoisLaMemeChose();
+    void lePapierPorteToutLEchantillon();
 };
 
 void TestEchantillon::leDessinAttendu()
@@ -122,6 +123,25 @@ void TestEchantillon::peintDeuxFoisLaMemeChose()
     settings::PeintEchantillon(cible, ReglagesEssai());
     settings::PeintEchantillon(cible, ReglagesEssai());
     QCOMPARE(support::EnTexte(cible.Resultat()), support::EnTexte(Peint(ReglagesEssai())));
+}
+
+void TestEchantillon::lePapierPorteToutLEchantillon()
+{
+    Reglages reglages = ReglagesEssai();
+    const page::Dessin normal = settings::DessinEchantillon(reglages);
+    QCOMPARE(QSizeF(normal.Largeur, normal.Hauteur), QSizeF(100, 56));
+    reglages.Options.SautsPrescription = 4;
+    reglages.Look.Poso.Taille = 20;
+    const page::Dessin grand = settings::DessinEchantillon(reglages);
+    for (const page::ItemTexte& texte : support::Textes(grand)) {
+        QVERIFY(texte.X + texte.Largeur < grand.Largeur && texte.Y + texte.Hauteur < grand.Hauteur);
+    }
+    QCOMPARE(support::EnTexte(grand), support::EnTexte(Peint(reglages)));
+    reglages.Options.SautPersonnalise = 1;
+    reglages.Marges.HauteurSaut = 297;
+    reglages.Marges.MargeGaucheOrdo = 32767;
+    const page::Dessin immense = settings::DessinEchantillon(reglages);
+    QCOMPARE(QSizeF(immense.Largeur, immense.Hauteur), QSizeF(210, 297));
 }
 
 QTEST_MAIN(TestEchantillon)

@@ -6,13 +6,13 @@
 #include "outside/Horloge.h"
 #include "page/FeuilleEssai.h"
 #include "page/Gabarit.h"
-#include "page/windows/Feuille.h"
 #include "page/windows/VueAjustee.h"
 #include "prescription/Editeur.h"
 #include "settings/Echantillon.h"
 #include "settings/HauteurSaut.h"
 #include "settings/windows/ChampMesure.h"
 #include "settings/windows/FrmOptions.h"
+#include "settings/windows/LibelleCoupe.h"
 #include "startup/Chemins.h"
 #include "storage/Bases.h"
 
@@ -172,6 +172,7 @@ void FrmConfOrdo::MontrePolice(size_t rang)
     QFont police = page::PoliceQt(polices_[rang]);
     police.setUnderline(polices_[rang].Souligne);
     Txt_[rang]->setFont(police);
+    Txt_[rang]->setMinimumHeight(std::min(Txt_[rang]->sizeHint().height(), Txt_[rang]->maximumHeight()));
     Txt_[rang]->home(false);
 }
 
@@ -204,9 +205,7 @@ void FrmConfOrdo::SuitReglages()
 
 void FrmConfOrdo::Peint()
 {
-    page::Surface echantillon(page::Cible::Autre, PctMeP_->Montree().Largeur, PctMeP_->Montree().Hauteur);
-    PeintEchantillon(echantillon, ReglagesSaisis(contexte_.Reglages, Saisie()));
-    PctMeP_->Montre(echantillon.Resultat());
+    PctMeP_->Montre(DessinEchantillon(ReglagesSaisis(contexte_.Reglages, Saisie())));
 }
 
 void FrmConfOrdo::Suit()

@@ -15,13 +15,13 @@ class QLabel;
 class QPushButton;
 
 namespace page {
-class Feuille;
 class VueAjustee;
 } // namespace page
 
 namespace settings {
 
 class ChampMesure;
+class LibelleCoupe;
 
 /// The page layout designer: where the parts of the printed page stand, and the fonts of the prescription
 /// lines, with a sample and the whole sheet. It stays loaded, hidden between its uses, and then follows the
@@ -94,8 +94,8 @@ private:
     ChampMesure* TxtLF_ = nullptr;
     ChampMesure* TxtHF_ = nullptr;
     std::array<ChampMesure*, 2> Txt_ = {};
-    std::array<QLabel*, 2> LblMed_ = {};
-    page::Feuille* PctMeP_ = nullptr;
+    std::array<LibelleCoupe*, 2> LblMed_ = {};
+    page::VueAjustee* PctMeP_ = nullptr;
     page::VueAjustee* PctFeuille_ = nullptr;
     QLabel* LblModifie_ = nullptr;
     QPushButton* CmdPolice_ = nullptr;

@@ -1,9 +1,8 @@
 #include "application/windows/Style.h"
-#include "page/Surface.h"
-#include "page/windows/Feuille.h"
 #include "page/windows/VueAjustee.h"
 #include "settings/windows/ChampMesure.h"
 #include "settings/windows/FrmConfOrdo.h"
+#include "settings/windows/LibelleCoupe.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,10 +18,9 @@ namespace style = application::style;
 
 namespace {
 
-constexpr double kLargeurEchantillon = 100; // millimetres, about half of the sheet
-constexpr double kHauteurEchantillon = 56;
 constexpr int kChiffres = 8;                // width of a margin's box
 constexpr int kChiffresFeuille = 6;         // of the sheet's own
+constexpr int kLignesDeLaRegle = 3;         // of text, of the rule for the dates
 constexpr size_t kPremiereMargePatient = 2; // of the boxes; those before place the prescriptions
 
 template <typename Disposition> Disposition* Interieur(QWidget* carte)
@@ -61,6 +59,7 @@ void FrmConfOrdo::Dispose()
     grille->addWidget(FaitEchantillon(), 1, 1);
     grille->addWidget(FaitFeuille(), 0, 2, 2, 1);
     grille->setColumnStretch(2, 1);
+    grille->setRowStretch(1, 1);
     fenetre->addLayout(grille, 1);
     fenetre->addLayout(FaitPied());
     OrdonneTabulations();
@@ -160,6 +159,7 @@ QWidget* FrmConfOrdo::FaitPatient()
                        "nom."),
         carte);
     regle->setWordWrap(true);
+    regle->setMinimumHeight(kLignesDeLaRegle * regle->fontMetrics().lineSpacing());
     grille->addWidget(regle, grille->rowCount(), 0, 1, 2);
     grille->setRowStretch(grille->rowCount(), 1);
     return carte;
@@ -180,11 +180,11 @@ QWidget* FrmConfOrdo::FaitPolices()
         Txt_[rang] = new ChampMesure(exemples[rang], carte);
         Txt_[rang]->setObjectName(QStringLiteral("Txt(%1)").arg(rang));
         Txt_[rang]->setReadOnly(true);
+        Txt_[rang]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         Txt_[rang]->setMaximumHeight(2 * style::kHauteurBouton);
-        LblMed_[rang] = style::Legende(QStringLiteral("LblMed(%1)").arg(rang), {}, carte);
-        LblMed_[rang]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        LblMed_[rang] = new LibelleCoupe(QStringLiteral("LblMed(%1)").arg(rang), carte);
         grille->addWidget(style::Legende({}, titres[rang], carte, Txt_[rang]), rangee, 0);
-        grille->addWidget(LblMed_[rang], rangee, 1, Qt::AlignRight);
+        grille->addWidget(LblMed_[rang], rangee, 1);
         grille->addWidget(Txt_[rang], rangee + 1, 0, 1, 2);
     }
     grille->addWidget(CmdPolice_, grille->rowCount(), 0, 1, 2, Qt::AlignRight);
@@ -197,13 +197,10 @@ QWidget* FrmConfOrdo::FaitEchantillon()
 {
     auto* carte = style::Carte(this);
     auto* colonne = Interieur<QVBoxLayout>(carte);
-    PctMeP_ = new page::Feuille(carte);
-    PctMeP_->setObjectName(QStringLiteral("PctMeP"));
-    PctMeP_->Montre(page::Surface(page::Cible::Autre, kLargeurEchantillon, kHauteurEchantillon).Resultat());
-    style::Nomme(PctMeP_, QStringLiteral("Exemple de prescription"));
+    PctMeP_ = new page::VueAjustee(QStringLiteral("PctMeP"), QStringLiteral("Exemple de prescription"), carte,
+                                   page::Ajustement::Entiere);
     colonne->addWidget(style::Titre({}, QStringLiteral("Exemple"), carte));
-    colonne->addWidget(PctMeP_, 0, Qt::AlignCenter);
-    colonne->addStretch(1);
+    colonne->addWidget(PctMeP_, 1);
     return carte;
 }
 

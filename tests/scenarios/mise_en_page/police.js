@@ -1,0 +1,32 @@
+// CmdPolice is for the row that last had the focus; its label, the sample, the table.
+installer();
+clic("FrmDepart.CmdOptions");
+clic("FrmOptions.CmdMEP");
+const sienne = rang => texte("FrmConfOrdo.LblMed(" + rang + ")");
+const choisit = (nom, taille, gras, italique, souligne) => {
+  clic("FrmConfOrdo.CmdPolice");
+  repondre({nom: nom, taille: taille, gras: gras, italique: italique, souligne: souligne});
+};
+egal([sienne(0), sienne(1)], ["Arial(G)", "Arial()"], "chargées sans taille");
+clic("FrmConfOrdo.CmdPolice");
+egal(boite().valeur, {nom: "Arial", taille: 11, gras: true, italique: false, souligne: false}, "d'abord celle du médicament");
+repondre(null);
+focus("FrmConfOrdo.Txt(1)");
+focus("FrmConfOrdo.TxtM");
+choisit("Courier New", 14, true, true, true);
+egal([sienne(0), sienne(1)], ["Arial(G)", "Courier New  (14  G  I  U)"], "la dernière ligne visitée");
+const [titre, poso] = feuille("FrmConfOrdo.PctMeP");
+egal([titre.police, titre.souligne], ["Arial", false], "le titre garde la sienne");
+egal([poso.police, poso.taille, poso.gras, poso.italique, poso.souligne], ["Courier New", 14, true, true, true], "l'échantillon la prend");
+focus("FrmConfOrdo.Txt(0)");
+focus("FrmConfOrdo.TxtE");
+choisit("Times New Roman", 9.5, false, false, false);
+egal(sienne(0), "Times New Roman  (9,5      )", "sans lettres les blancs restent");
+egal(table("Ordo", "Misenpage")[0][1], "Arial", "rien n'est encore stocké");
+clic("FrmConfOrdo.CmdEnregistrer");
+repondre("OK");
+egal(table("Ordo", "Misenpage"), [[0, "Times New Roman", 9.5, 0, 0, 0], [1, "Courier New", 14, 1, 1, 1]], "les deux rangées");
+egal(["PoliceTitre", "TailleTitre", "PolicePoso", "TaillePoso", "GrasPoso", "ItaliquePoso", "SoulignePoso"].map(valeur), ["Times New Roman", 9.5, "Courier New", 14, 1, 1, 1], "et les variables");
+clic("FrmConfOrdo.CmdRetour");
+clic("FrmOptions.CmdMEP");
+egal([sienne(0), sienne(1)], ["Times New Roman()", "Courier New(GIU)"], "relues");
