@@ -21,8 +21,9 @@ private Q_SLOTS:
 void TestRemplacement::unePoliceServie_data()
 {
     QTest::addColumn<QString>("famille");
-    for (const char* famille : {"Arial", "arial", "Times New Roman", "Courier New", "Helvetica", "Courier",
-                                "Liberation Sans", "Arial Narrow"}) {
+    for (const char* famille :
+         {"Arial", "arial", "Times New Roman", "Courier New", "Helvetica", "Courier", "Liberation Sans",
+          "Arial Narrow", "Albany AMT", "Thorndale", "Nimbus Roman"}) {
         QTest::newRow(famille) << QString::fromLatin1(famille);
     }
 }
