@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <filesystem>
 
 #ifdef Q_OS_WIN
 #include <io.h>
@@ -283,6 +284,22 @@ void DeplaceFichier(const QString& source, const QString& destination)
     CopieFichier(source, destination);
     if (QFileInfo(source).canonicalFilePath() != QFileInfo(destination).canonicalFilePath()) {
         SupprimeFichier(source);
+    }
+}
+
+void MetEnPlace(const QString& ebauche, const QString& destination)
+{
+    QFile fichier(ebauche);
+    if (!fichier.open(QIODevice::ReadWrite) || !PousseAuDisque(fichier.handle())) {
+        EchoueEcriture(fichier, destination);
+    }
+    fichier.close();
+    std::error_code refus;
+    std::filesystem::rename(fichier.filesystemFileName(), QFile(destination).filesystemFileName(), refus);
+    if (refus) {
+        Echoue(QStringLiteral("d'enregistrer le fichier"), destination,
+               refus == std::errc::no_space_on_device ? QStringLiteral("le disque est plein")
+                                                      : QStringLiteral("l'accès est refusé"));
     }
 }
 

@@ -37,6 +37,10 @@ void CopieFichier(const QString& source, const QString& destination);
 /// Copy, then delete of the source. Throws `Erreur`.
 void DeplaceFichier(const QString& source, const QString& destination);
 
+/// Flushes a file to the disk and puts it in the place of another one of the same directory, at one stroke.
+/// Throws `Erreur`; both stand as they were then.
+void MetEnPlace(const QString& ebauche, const QString& destination);
+
 /// Throws `Erreur`; a missing file is no failure.
 void SupprimeFichier(const QString& chemin);
 

@@ -1,0 +1,50 @@
+#include "bank/Importateur.h"
+
+#include "bank/Ecriture.h"
+#include "bank/Remplissage.h"
+#include "bank/Schema.h"
+#include "bank/Sources.h"
+#include "bank/messages.h"
+#include "common/Fichiers.h"
+
+namespace banque {
+
+namespace {
+
+constexpr int kMoisDeValidite = 12;
+
+void EcritInformation(Ecriture& ecriture, const QDate& date)
+{
+    Insertion information = ecriture.Prepare(QStringLiteral("information"));
+    information.Ajoute({QStringLiteral("date_donnees"), date.toString(Qt::ISODate)});
+    information.Ajoute({QStringLiteral("expiration"), date.addMonths(kMoisDeValidite).toString(Qt::ISODate)});
+    information.Ajoute(
+        {QStringLiteral("source"),
+         QStringLiteral("Base de données publique des médicaments (ANSM, HAS, Assurance Maladie)")});
+    information.Ajoute({QStringLiteral("version"), QString::number(kVersionBanque)});
+}
+
+} // namespace
+
+Bilan Importe(const Demande& demande, const Avancement& avancement, const Complement& complement)
+{
+    const Sources sources(demande.Dossier);
+    Bilan bilan;
+    bilan.Avertissements = sources.Avertissements();
+    Ecriture ecriture(demande.Vers);
+    Remplissage remplissage(ecriture, sources, bilan, avancement);
+    remplissage.Tout();
+    const QDate date = demande.DateDonnees.isValid() ? demande.DateDonnees : remplissage.DateLaPlusRecente();
+    if (!date.isValid()) {
+        throw common::Erreur(messages::DateInconnue(), common::CheminAffiche(demande.Dossier));
+    }
+    EcritInformation(ecriture, date);
+    bilan.DateDonnees = date.toString(Qt::ISODate);
+    if (complement) {
+        complement(ecriture, bilan);
+    }
+    ecriture.Valide();
+    return bilan;
+}
+
+} // namespace banque

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace banque {
+
+/// The public files, under their published names.
+namespace sources {
+inline const QString kSpecialites = QStringLiteral("CIS_bdpm.txt");
+inline const QString kPresentations = QStringLiteral("CIS_CIP_bdpm.txt");
+inline const QString kCompositions = QStringLiteral("CIS_COMPO_bdpm.txt");
+inline const QString kGroupes = QStringLiteral("CIS_GENER_bdpm.txt");
+inline const QString kConditions = QStringLiteral("CIS_CPD_bdpm.txt");
+inline const QString kDisponibilites = QStringLiteral("CIS_CIP_Dispo_Spec.txt");
+inline const QString kMitm = QStringLiteral("CIS_MITM.txt");
+inline const QString kLiensAvis = QStringLiteral("HAS_LiensPageCT_bdpm.txt");
+inline const QString kAvisSmr = QStringLiteral("CIS_HAS_SMR_bdpm.txt");
+inline const QString kAvisAsmr = QStringLiteral("CIS_HAS_ASMR_bdpm.txt");
+} // namespace sources
+
+/// The files of a directory, found whatever the case of their names.
+class Sources
+{
+public:
+    /// Throws `Erreur` when the directory or a file that no bank can miss is absent.
+    explicit Sources(const QString& dossier);
+
+    /// The path of a file; empty when it is absent.
+    QString Chemin(const QString& nom) const;
+    /// Files that are unknown, or absent though a bank can do without them: a sentence each.
+    QStringList Avertissements() const;
+
+private:
+    QString dossier_;
+    QStringList presents_;
+};
+
+} // namespace banque
