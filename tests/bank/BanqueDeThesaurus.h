@@ -14,7 +14,7 @@ namespace essai {
 /// A file of the project's own extract.
 inline QByteArray Extrait(const QString& nom)
 {
-    QFile fichier(QStringLiteral(RACINE_PROJET "/bank/extrait/") + nom);
+    QFile fichier(QStringLiteral(RACINE_PROJET "/bank/extrait/thesaurus/") + nom);
     return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
 }
 
