@@ -163,6 +163,11 @@ void CompteMedicaments(prescription::Ordonnance& ordonnance)
     ordonnance.NbMedZone2 = Nombre(ordonnance.LstChoix2);
 }
 
+bool ZoneHorsPage(const prescription::Ordonnance& ordonnance)
+{
+    return ordonnance.ChkALD == 0 && !ordonnance.LstChoix2.Vide();
+}
+
 void CocheDup(prescription::Ordonnance& ordonnance, quint8 etat)
 {
     ordonnance.ChkDup = etat;

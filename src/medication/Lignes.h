@@ -56,6 +56,9 @@ Fleches FlechesDe(const prescription::LignesZone& lignes, int rang);
 /// `NbMedZone1` and `NbMedZone2` from the rows: all but those whose title ends in "#".
 void CompteMedicaments(prescription::Ordonnance& ordonnance);
 
+/// Whether the second zone holds lines that the page, of one zone, leaves out.
+bool ZoneHorsPage(const prescription::Ordonnance& ordonnance);
+
 /// The two boxes of copies exclude each other: the state of one just clicked, 0 or 1.
 void CocheDup(prescription::Ordonnance& ordonnance, quint8 etat);
 void CocheTri(prescription::Ordonnance& ordonnance, quint8 etat);

@@ -47,18 +47,6 @@ QList<prescription::Memorisee> PrepareMemorisees(application::Contexte& contexte
     return memorisees;
 }
 
-bool MontreZone2(const prescription::Ordonnance& ordonnance)
-{
-    return ordonnance.ChkALD == 1 && !ordonnance.LstChoix2.Vide();
-}
-
-void SignaleZone2Cachee(application::Contexte& contexte, bool montreeAvant)
-{
-    if (montreeAvant && !MontreZone2(contexte.Ordonnance)) {
-        contexte.Dehors.Boites.Information(messages::Zone2Cachee());
-    }
-}
-
 bool ProposeConversion(application::Contexte& contexte)
 {
     outside::Boites& boites = contexte.Dehors.Boites;

@@ -150,10 +150,10 @@ inline QString Aide()
         "ignorera ces lignes.");
 }
 
-inline QString Zone2Cachee()
+inline QString HorsPage()
 {
-    return QStringLiteral("Cette ordonnance mémorisée n'a qu'une zone : les lignes non ALD déjà choisies ne "
-                          "figurent plus sur l'ordonnance.\nCochez « Ordonnance ALD » pour les retrouver.");
+    return QStringLiteral(
+        "Lignes non ALD gardées hors de l'ordonnance : cochez « Ordonnance ALD » pour les retrouver.");
 }
 
 inline QString AncienFormat()

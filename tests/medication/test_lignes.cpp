@@ -287,6 +287,29 @@ private Q_SLOTS:
         QCOMPARE(int(ordonnance.NbMedZone1), 255);
     }
 
+    void ASecondZoneStandsByOnAPageOfOne_data()
+    {
+        QTest::addColumn<int>("ald");
+        QTest::addColumn<bool>("lignes");
+        QTest::addColumn<bool>("horsPage");
+        QTest::newRow("left out") << 0 << true << true;
+        QTest::newRow("on the page") << 1 << true << false;
+        QTest::newRow("no line") << 0 << false << false;
+    }
+
+    void ASecondZoneStandsByOnAPageOfOne()
+    {
+        QFETCH(int, ald);
+        QFETCH(bool, lignes);
+        QFETCH(bool, horsPage);
+        Ordonnance ordonnance;
+        ordonnance.ChkALD = static_cast<quint8>(ald);
+        if (lignes) {
+            AjouteSaut(ordonnance, Zone::Deux);
+        }
+        QCOMPARE(ZoneHorsPage(ordonnance), horsPage);
+    }
+
     void CopiesExcludeEachOther()
     {
         Ordonnance ordonnance;

@@ -64,8 +64,6 @@ private Q_SLOTS:
     void ChargeLesLignesEtLeurFormat();
     void NeChargeRienQuandLaBaseEchoue();
     void DitCelleQuUnAutrePosteASupprimee();
-    void DitLaZoneCachee_data();
-    void DitLaZoneCachee();
     void NeDemandeRienSansZero_data();
     void NeDemandeRienSansZero();
     void ConvertitEtRecommence();
@@ -125,39 +123,6 @@ void TestMemorisees::DitCelleQuUnAutrePosteASupprimee()
     support::AjouteLigne(poste.Medoc(), u"ListeOrdos"_s, {u"HTA"_s, u"*"_s, 0, u"0"_s});
     poste.Charge(); // stored without lines
     QCOMPARE(poste.Etat.Ordonnance.OrdoMemorisee, 1);
-}
-
-void TestMemorisees::DitLaZoneCachee_data()
-{
-    QTest::addColumn<int>("avant"); // ChkALD
-    QTest::addColumn<bool>("lignes");
-    QTest::addColumn<int>("apres");
-    QTest::addColumn<bool>("dit");
-    QTest::newRow("hidden") << 1 << true << 0 << true;
-    QTest::newRow("still shown") << 1 << true << 1 << false;
-    QTest::newRow("not shown before") << 0 << true << 0 << false;
-    QTest::newRow("empty") << 1 << false << 0 << false;
-}
-
-void TestMemorisees::DitLaZoneCachee()
-{
-    QFETCH(int, avant);
-    QFETCH(bool, lignes);
-    QFETCH(int, apres);
-    QFETCH(bool, dit);
-    Poste poste;
-    prescription::Ordonnance& ordonnance = poste.Etat.Ordonnance;
-    ordonnance.ChkALD = static_cast<quint8>(avant);
-    if (lignes) {
-        ordonnance.LstChoix2.Ajoute({u"  X"_s, 0});
-    }
-    const bool montree = MontreZone2(ordonnance);
-    ordonnance.ChkALD = static_cast<quint8>(apres);
-    if (dit) {
-        poste.Boites.AttendInformation(messages::Zone2Cachee());
-    }
-    SignaleZone2Cachee(poste.Contexte, montree);
-    QVERIFY(poste.Boites.Epuise());
 }
 
 void TestMemorisees::NeDemandeRienSansZero_data()

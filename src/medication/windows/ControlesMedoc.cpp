@@ -2,6 +2,7 @@
 
 #include "application/messages.h"
 #include "application/windows/Style.h"
+#include "medication/messages.h"
 #include "medication/windows/CaseEtiquetee.h"
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/ChampMedicament.h"
@@ -244,6 +245,8 @@ QLayout* Zones(ControlesMedoc& c, QWidget* carte)
     c.ZoneNonALD = style::Legende({}, QStringLiteral("Zone non ALD"), carte);
     c.LstChoix1 = Liste(QStringLiteral("LstChoix1"), QStringLiteral("Lignes de l'ordonnance"), carte);
     c.LstChoix2 = Liste(QStringLiteral("LstChoix2"), QStringLiteral("Lignes de la zone non ALD"), carte);
+    c.LblHorsPage = style::Avertissement(QStringLiteral("LblHorsPage"), messages::HorsPage(), carte);
+    c.LblHorsPage->hide();
     style::RaccourciVers(c.LstChoix1, QStringLiteral("Alt+1"));
     style::RaccourciVers(c.LstChoix2, QStringLiteral("Alt+2"));
     c.ImgUp = Fleche(QStringLiteral("ImgUp"), QStringLiteral("Monter la ligne (Alt+Haut)"),
@@ -255,6 +258,7 @@ QLayout* Zones(ControlesMedoc& c, QWidget* carte)
     listes->addWidget(c.LstChoix1, 1);
     listes->addWidget(c.ZoneNonALD);
     listes->addWidget(c.LstChoix2, 1);
+    listes->addWidget(c.LblHorsPage);
     return listes;
 }
 

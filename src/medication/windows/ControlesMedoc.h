@@ -44,6 +44,7 @@ struct ControlesMedoc
     QLabel* ZoneNonALD = nullptr;
     ListeLignes* LstChoix1 = nullptr;
     ListeLignes* LstChoix2 = nullptr;
+    QLabel* LblHorsPage = nullptr; ///< lines of the second zone stand by while the page has one
     QToolButton* ImgUp = nullptr;
     QToolButton* ImgDown = nullptr;
     QLabel* Txt = nullptr; ///< the row under the mouse while it is dragged

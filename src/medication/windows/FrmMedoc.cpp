@@ -129,6 +129,8 @@ void FrmMedoc::RelieSignaux()
         CocheTri(contexte_.Ordonnance, cochee);
         CocheCases();
     });
+    connect(&contexte_.Ordonnance.LstChoix2, &QAbstractItemModel::modelReset, this,
+            &FrmMedoc::MontreHorsPage);
     connect(&contexte_.Signaux, &application::Signaux::DocumentVide, c_.TxtCherche, &QLineEdit::clear);
     connect(&contexte_.Signaux, &application::Signaux::OrdonnanceChange, this, &FrmMedoc::SuitOrdonnance);
     connect(&contexte_.Signaux, &application::Signaux::MedecinChange, this, &FrmMedoc::VideArbre);

@@ -83,6 +83,7 @@ private:
 
     void SuitOrdonnance();
     void MontreZones();
+    void MontreHorsPage();
     void CocheCases();
 
     ListeLignes* Liste(Zone zone) const { return zone == Zone::Un ? c_.LstChoix1 : c_.LstChoix2; }

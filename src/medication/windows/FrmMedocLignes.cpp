@@ -169,6 +169,12 @@ void FrmMedoc::MontreZones()
                               static_cast<QWidget*>(c_.ZoneALD), static_cast<QWidget*>(c_.ZoneNonALD)}) {
         controle->setVisible(ald);
     }
+    MontreHorsPage();
+}
+
+void FrmMedoc::MontreHorsPage()
+{
+    c_.LblHorsPage->setVisible(ZoneHorsPage(contexte_.Ordonnance));
 }
 
 void FrmMedoc::CocheCases()

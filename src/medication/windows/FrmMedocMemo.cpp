@@ -27,7 +27,6 @@ bool FrmMedoc::ChoisitMemorisee()
         return false;
     }
     const prescription::Ordonnance& ordonnance = contexte_.Ordonnance;
-    const bool zone2 = MontreZone2(ordonnance);
     const int premiere1 = ordonnance.LstChoix1.rowCount();
     const int premiere2 = ordonnance.LstChoix2.rowCount();
     const bool chargee = fenetres_.Donne<prescription::FrmMemo>().Ouvre(memorisees);
@@ -40,7 +39,6 @@ bool FrmMedoc::ChoisitMemorisee()
     c_.LstChoix1->scrollTo(ordonnance.LstChoix1.index(premiere1), QListView::PositionAtTop);
     c_.LstChoix2->scrollTo(ordonnance.LstChoix2.index(premiere2), QListView::PositionAtTop);
     FocusRecherche();
-    SignaleZone2Cachee(contexte_, zone2);
     return ProposeConversion(contexte_);
 }
 

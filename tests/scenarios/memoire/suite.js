@@ -19,11 +19,13 @@ aucuneBoite();
 egal(lignes("FrmMedoc.LstChoix1").map(l => l.trim().split("  ")[0]), ["#", "AFFECTION"], "à la suite");
 egal(lignes("FrmMedoc.LstChoix2"), ["  SANS RAPPORT" + " ".repeat(300) + "1"], "l'autre zone");
 
-// Une seule zone : ce qui disparaît de la page est dit, et rien ne se perd.
+// Une seule zone : la fenêtre dit ce qui disparaît de la page, sans boîte, et rien ne se perd.
+faux(visible("FrmMedoc.LblHorsPage"), "les deux zones se voient");
 charge(0);
-egal(boite().genre, "information", "un mot du programme");
-boites([["Cette ordonnance mémorisée n'a qu'une zone : les lignes non ALD déjà choisies ne figurent plus sur " +
-    "l'ordonnance.\nCochez « Ordonnance ALD » pour les retrouver.", "OK"]]);
+aucuneBoite();
+vrai(visible("FrmMedoc.LblHorsPage"), "un mot sous la liste");
+egal(texte("FrmMedoc.LblHorsPage"),
+    "Lignes non ALD gardées hors de l'ordonnance : cochez « Ordonnance ALD » pour les retrouver.", "ce qu'il dit");
 faux(visible("FrmMedoc.LstChoix2"), "une seule liste");
 egal(lignes("FrmMedoc.LstChoix1").length, 32, "les lignes suivent");
 capture("suite");
@@ -33,9 +35,16 @@ charge(0);
 aucuneBoite();
 cocher("FrmMedoc.ChkALD", true);
 egal(lignes("FrmMedoc.LstChoix2").length, 1, "la seconde zone revient");
+faux(visible("FrmMedoc.LblHorsPage"), "le mot s'en va");
+cocher("FrmMedoc.ChkALD", false);
+vrai(visible("FrmMedoc.LblHorsPage"), "la case décochée le ramène");
+cocher("FrmMedoc.ChkALD", true);
 charge(1);
 aucuneBoite();
 egal(lignes("FrmMedoc.LstChoix2").length, 2, "elle aussi s'allonge");
+cocher("FrmMedoc.ChkALD", false);
+clic("FrmMedoc.CmdClear");
+faux(visible("FrmMedoc.LblHorsPage"), "plus rien à retrouver");
 clic("FrmMedoc.CmdAnnule");
 
 // Un autre poste supprime celle que la liste montre encore.
