@@ -53,6 +53,9 @@ FrmOptions::FrmOptions(application::Contexte& contexte, application::Fenetres& f
 
 FrmOptions::~FrmOptions()
 {
+    if (terminee_) {
+        return; // the state of the run may be gone by now
+    }
     // The program ends with the dialogue open: nothing was confirmed, and no one is left to be told.
     common::Tolere([&] { RendLogos(contexte_.Reglages); });
 }
@@ -157,10 +160,13 @@ bool FrmOptions::OuvrePourPremiereImpression()
 void FrmOptions::Execute()
 {
     QEventLoop boucle;
+    const QPointer<FrmOptions> ouverte(this); // it unloads itself at its end
     boucle_ = &boucle;
     show();
     boucle.exec(QEventLoop::DialogExec);
-    boucle_ = nullptr;
+    if (ouverte) {
+        boucle_ = nullptr;
+    }
 }
 
 void FrmOptions::setVisible(bool visible)
@@ -245,6 +251,7 @@ void FrmOptions::Annule()
 
 void FrmOptions::Termine()
 {
+    terminee_ = true;
     done(QDialog::Accepted);
     fenetres_.Decharge<FrmOptions>();
 }

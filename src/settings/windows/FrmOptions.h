@@ -71,6 +71,7 @@ private:
     QList<Onglet*> onglets_;
     QList<Boutons> boutons_;
     QEventLoop* boucle_ = nullptr; ///< of the use under way
+    bool terminee_ = false;        ///< confirmed or cancelled
     QPointer<QDialog> concepteur_; ///< the designer that stands in its place
 };
 
