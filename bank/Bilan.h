@@ -38,6 +38,7 @@ struct Bilan
 {
     QList<BilanFichier> Fichiers;
     QStringList Avertissements; ///< files passed over or absent
+    QStringList Interactions;   ///< what became of the thesaurus, in French
     QString DateDonnees;        ///< aaaa-mm-jj
 
     bool AUnRefus() const

@@ -41,6 +41,8 @@ public:
     /// An insertion of every column of a table, in the order of the schema.
     Insertion Prepare(const QString& table);
     void Execute(const QString& instruction);
+    /// The bank being written, for what fills tables of its own within the same transaction.
+    const QSqlDatabase& Base() const { return base_; }
     /// Makes the indexes, flushes the file to the disk and puts it in the place of the former one. Throws
     /// `Erreur`.
     void Valide();

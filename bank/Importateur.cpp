@@ -4,6 +4,7 @@
 #include "bank/Remplissage.h"
 #include "bank/Schema.h"
 #include "bank/Sources.h"
+#include "bank/ThesaurusEcriture.h"
 #include "bank/messages.h"
 #include "common/Fichiers.h"
 
@@ -40,6 +41,11 @@ Bilan Importe(const Demande& demande, const Avancement& avancement, const Comple
     }
     EcritInformation(ecriture, date);
     bilan.DateDonnees = date.toString(Qt::ISODate);
+    if (!demande.Interactions.isEmpty()) {
+        const ChiffresThesaurus chiffres =
+            ImporteThesaurus(ecriture.Base(), common::LitFichier(demande.Interactions));
+        bilan.Interactions = chiffres.Lignes() + chiffres.Desaccords;
+    }
     if (complement) {
         complement(ecriture, bilan);
     }

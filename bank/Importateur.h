@@ -12,9 +12,10 @@ class Ecriture;
 /// What to import and where to.
 struct Demande
 {
-    QString Dossier;        ///< of the public files, under their published names
-    QString Vers;           ///< the bank file
-    QDate DateDonnees = {}; ///< the day the files were published; else the newest date that they hold
+    QString Dossier;           ///< of the public files, under their published names
+    QString Vers;              ///< the bank file
+    QString Interactions = {}; ///< the text of the thesaurus of interactions; without it the bank has none
+    QDate DateDonnees = {};    ///< the day the files were published; else the newest date that they hold
 };
 
 /// The import was interrupted by its caller.

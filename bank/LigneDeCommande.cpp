@@ -36,6 +36,8 @@ std::optional<Demande> LitArguments(const QStringList& arguments)
         const QString& valeur = arguments[i + 1];
         if (arguments[i] == QLatin1String("--vers")) {
             demande.Vers = valeur;
+        } else if (arguments[i] == QLatin1String("--interactions")) {
+            demande.Interactions = valeur;
         } else if (arguments[i] == QLatin1String("--date")) {
             demande.DateDonnees = QDate::fromString(valeur, Qt::ISODate);
             if (!demande.DateDonnees.isValid()) {
@@ -52,9 +54,11 @@ std::optional<Demande> LitArguments(const QStringList& arguments)
 QString Usage()
 {
     return QStringLiteral(
-        "Usage : scriptelle-banque importer DOSSIER --vers banque.sqlite [--date aaaa-mm-jj]\n"
+        "Usage : scriptelle-banque importer DOSSIER [--interactions FICHIER] --vers banque.sqlite\n"
+        "       [--date aaaa-mm-jj]\n"
         "DOSSIER contient les fichiers de la Base de données publique des médicaments,\n"
         "sous leur nom d'origine (CIS_bdpm.txt, CIS_CIP_bdpm.txt, ...).\n"
+        "FICHIER est le texte du Thésaurus des interactions médicamenteuses.\n"
         "Fin : 0 importée, 3 importée avec des lignes refusées, 1 échec, 2 usage, 130 "
         "interrompue.\n");
 }
@@ -64,6 +68,9 @@ QString TexteBilan(const Bilan& bilan)
     QString texte = QStringLiteral("Données du %1\n").arg(bilan.DateDonnees);
     for (const BilanFichier& fichier : bilan.Fichiers) {
         texte += LigneDuFichier(fichier);
+    }
+    for (const QString& ligne : bilan.Interactions) {
+        texte += ligne + u'\n';
     }
     for (const QString& avertissement : bilan.Avertissements) {
         texte += avertissement + u'\n';

@@ -169,6 +169,14 @@ void Assemblage::Ajoute(const Interaction& lue)
     Rapproche(*connue, lue);
 }
 
+/// The levels by name, then the advice with their conditions. An advice that is left out stands in what the
+/// document says of the class.
+QString PrecautionSelonLeCas(const TitreImprime& titre, const CoteImprime& cote)
+{
+    const QString conseil = cote.Precaution.isEmpty() ? titre.Introduction : cote.Precaution;
+    return NomsDesNiveaux(cote.Niveaux) + (conseil.isEmpty() ? QString() : u'\n' + conseil);
+}
+
 void Assemblage::LitCotes(const TitreImprime& titre)
 {
     for (const CoteImprime& cote : titre.Cotes) {
@@ -180,7 +188,7 @@ void Assemblage::LitCotes(const TitreImprime& titre)
         ++thesaurus_.Bilan.Lues;
         const CoteTrouve autre = Trouve(cote.Nom);
         Ajoute({Entree(titre.Nom), autre.Entree, niveaux->Plus, autre.Autre, niveaux->Plusieurs, cote.Risque,
-                cote.Precaution});
+                niveaux->Plusieurs ? PrecautionSelonLeCas(titre, cote) : cote.Precaution});
     }
 }
 

@@ -26,7 +26,7 @@ struct Interaction
     int B = 0;
     banque::Niveau Niveau = banque::Niveau::APrendreEnCompte; ///< the highest, when it depends on conditions
     bool Autre = false;          ///< needs two different substances: "AUTRES X" under X
-    bool Conditionnelle = false; ///< the advice tells which level holds when
+    bool Conditionnelle = false; ///< the advice begins with the levels and tells which holds when
     QString Risque;
     QString Precaution;
 };

@@ -218,6 +218,8 @@ void Lecteur::LitNotes()
             }
         } else if (suite.startsWith(u'(')) {
             titre_.Membres.append(MembresDeListe(suite));
+        } else {
+            Joint(titre_.Introduction, suite);
         }
         suite.clear();
     };
@@ -258,7 +260,7 @@ void Lecteur::LitLigne(const QString& ligne)
     } else if (retrait == 0) {
         OuvreTitre(ligne);
     } else if (dansCote_ && retrait < kMargeTexte && rangees_.isEmpty()) {
-        cote_.Nom = TexteDeColonne({cote_.Nom, ligne});
+        cote_.Nom = TexteDeColonne({cote_.Nom, ligne}).replace(u'\n', u' ');
     } else if (dansCote_ && retrait >= kMargeTexte) {
         rangees_.append(Coupe(ligne, colonne_));
     } else {

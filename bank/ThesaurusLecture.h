@@ -23,6 +23,7 @@ struct TitreImprime
     QString Nom;
     QStringList Membres;
     QStringList VoirAussi;
+    QString Introduction; ///< what the document says of the class as a whole
     QList<CoteImprime> Cotes;
 };
 

@@ -2,10 +2,13 @@
 
 #include <QRegularExpression>
 
+#include <array>
+
 namespace banque {
 
 namespace {
 
+constexpr qsizetype kLigneCourte = 48;  // characters; the columns hold 60 to 75
 constexpr qsizetype kDebutColonne = 30; // the level never stands left of it
 
 const QRegularExpression& EnFinDeLigne()
@@ -34,8 +37,15 @@ bool CommenceUneLigne(const QString& ligne)
 {
     static const QRegularExpression debut(
         QStringLiteral("^(?:[-•·] ?\\S|(?:Contre-indication|Association déconseillée|Précaution d['’]emploi"
-                       "|A prendre en compte)(?: *:| (?:avec|chez|en|dans|pour|si|sauf)\\b))"));
+                       "|A prendre en compte)(?: *:| *$| (?:avec|chez|en|dans|pour|si|sauf)\\b))"));
     return debut.match(ligne).hasMatch();
+}
+
+/// True when the first line ends long before the column does and the next one begins a sentence: whoever
+/// wrote them broke the line there.
+bool RompueExpres(qsizetype avant, const QString& apres)
+{
+    return apres.front().isUpper() && avant + 1 + apres.section(u' ', 0, 0).size() <= kLigneCourte;
 }
 
 /// True when nothing parts two lines: the first one ends inside a word.
@@ -62,6 +72,18 @@ std::optional<NiveauxLus> LitNiveaux(QStringView texte)
     return lus;
 }
 
+QString NomsDesNiveaux(QStringView texte)
+{
+    static const std::array<QString, 4> noms = {
+        QStringLiteral("A prendre en compte"), QStringLiteral("Précaution d'emploi"),
+        QStringLiteral("Association déconseillée"), QStringLiteral("Contre-indication")};
+    QStringList lus;
+    for (const QString& nom : texte.trimmed().toString().split(QStringLiteral(" - "))) {
+        lus.append(noms[static_cast<std::size_t>(NiveauDe(nom))]);
+    }
+    return lus.join(QStringLiteral(" - "));
+}
+
 qsizetype ColonneDuNiveau(const QString& ligne)
 {
     const QRegularExpressionMatch trouve = EnFinDeLigne().match(ligne);
@@ -71,6 +93,7 @@ qsizetype ColonneDuNiveau(const QString& ligne)
 QString TexteDeColonne(const QStringList& lignes)
 {
     QString texte;
+    qsizetype precedente = 0;
     bool paragraphe = false;
     for (const QString& brute : lignes) {
         const QString ligne = QString(brute).remove(QChar(0xAD)).simplified();
@@ -80,12 +103,13 @@ QString TexteDeColonne(const QStringList& lignes)
         }
         if (paragraphe) {
             texte += QStringLiteral("\n\n");
-        } else if (!texte.isEmpty() && CommenceUneLigne(ligne)) {
+        } else if (!texte.isEmpty() && (CommenceUneLigne(ligne) || RompueExpres(precedente, ligne))) {
             texte += u'\n';
         } else if (!texte.isEmpty() && !DansUnMot(texte, ligne)) {
             texte += u' ';
         }
         paragraphe = false;
+        precedente = ligne.size();
         texte += ligne;
     }
     return texte;

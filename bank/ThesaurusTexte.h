@@ -16,6 +16,10 @@ struct NiveauxLus
 /// The level that a text names, and nothing besides it.
 std::optional<NiveauxLus> LitNiveaux(QStringView texte);
 
+/// The names of the levels, the highest first, as a doctor reads them: "Contre-indication - A prendre en
+/// compte".
+QString NomsDesNiveaux(QStringView texte);
+
 /// Where the level stands at the end of a line of two columns; -1 when the line has none.
 qsizetype ColonneDuNiveau(const QString& ligne);
 

@@ -39,12 +39,12 @@ private Q_SLOTS:
         const Interaction une = Trouve("ACIDE ACETYLSALICYLIQUE", "ANTICOAGULANTS ORAUX");
         QCOMPARE(une.Niveau, Niveau::ContreIndication);
         QVERIFY(une.Conditionnelle);
-        QCOMPARE(
-            une.Precaution,
-            QStringLiteral(
-                "Contre-indication avec :\n- une dose forte (>= 1 g par prise)\n- une dose moyenne, quand "
-                "l'estomac a déjà saigné\n\nAssociation déconseillée avec :\n- une dose moyenne sans "
-                "ulcère connu\n\nA prendre en compte avec :\n- une dose faible, une fois par jour"));
+        QCOMPARE(une.Precaution,
+                 QStringLiteral(
+                     "Contre-indication - Association déconseillée - A prendre en compte\nContre-indication "
+                     "avec :\n- une dose forte (>= 1 g par prise)\n- une dose moyenne, quand "
+                     "l'estomac a déjà saigné\n\nAssociation déconseillée avec :\n- une dose moyenne sans "
+                     "ulcère connu\n\nA prendre en compte avec :\n- une dose faible, une fois par jour"));
     }
 
     void AHyphenAtTheEndOfALineStays()

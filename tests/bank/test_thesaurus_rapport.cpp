@@ -1,4 +1,6 @@
+#include "BanqueDeTest.h"
 #include "BanqueDeThesaurus.h"
+#include "bank/LigneDeCommande.h"
 #include "bank/ThesaurusEcriture.h"
 #include "bank/ThesaurusNoms.h"
 #include "bank/ThesaurusRapport.h"
@@ -180,6 +182,38 @@ private Q_SLOTS:
         QVERIFY(source.next());
         QCOMPARE(source.value(0).toString(),
                  QStringLiteral("ANSM, Thésaurus des interactions médicamenteuses, mars 2021"));
+    }
+
+    void TheImportTakesTheThesaurusIn()
+    {
+        const QTemporaryDir dossier;
+        const QString vers = common::Joint(dossier.path(), QStringLiteral("banque.sqlite"));
+        const auto demande = LitArguments(
+            {QStringLiteral("importer"), support::DossierExtrait(), QStringLiteral("--interactions"),
+             support::DossierExtrait() + QStringLiteral("/thesaurus/interactions.txt"),
+             QStringLiteral("--vers"), vers});
+        QVERIFY(demande.has_value());
+        const Bilan bilan = Importe(*demande);
+        QVERIFY(TexteBilan(bilan).contains(QStringLiteral("Interactions lues : 56 (0 sans niveau lisible)")));
+        const QSqlDatabase base =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("import"));
+        QSqlDatabase ouverte = base;
+        ouverte.setDatabaseName(vers);
+        QVERIFY(ouverte.open());
+        QCOMPARE(Interactions::DepuisBase(ouverte).Liste().size(), thesaurus_.Interactions.size());
+        ouverte.close();
+    }
+
+    void ATextWithoutInteractionsLeavesTheFormerBank()
+    {
+        const QTemporaryDir dossier;
+        const QString vers = common::Joint(dossier.path(), QStringLiteral("banque.sqlite"));
+        common::EcritFichier(vers, "former");
+        const Demande demande{.Dossier = support::DossierExtrait(),
+                              .Vers = vers,
+                              .Interactions = support::DossierExtrait() + QStringLiteral("/CIS_MITM.txt")};
+        QVERIFY_THROWS_EXCEPTION(common::Erreur, Importe(demande));
+        QCOMPARE(common::LitFichier(vers), QByteArray("former"));
     }
 
 private:
