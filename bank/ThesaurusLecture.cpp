@@ -119,13 +119,15 @@ void Ajoute(const Bloc& bloc, CoteImprime& cote)
     QStringList gauche;
     QStringList droite;
     QString niveaux;
+    bool enTete = true; // nothing stands on the right so far
     for (const Rangee& rangee : bloc) {
         gauche.append(rangee.Gauche);
-        if (niveaux.isEmpty() && droite.join(QString()).isEmpty() && LitNiveaux(rangee.Droite)) {
-            niveaux = rangee.Droite;
-        } else {
+        if (!enTete || !LitNiveaux(rangee.Droite)) {
             droite.append(rangee.Droite);
+        } else {
+            niveaux = rangee.Droite;
         }
+        enTete = enTete && rangee.Droite.isEmpty();
     }
     Joint(cote.Risque, TexteDeColonne(gauche));
     Joint(cote.Precaution, TexteDeColonne(droite));
@@ -150,11 +152,13 @@ private:
     void FermeCote();
     void FermeTitre();
     void LitNotes();
+    void LitNote(const QStringList& lignes);
 
     DocumentImprime document_;
     TitreImprime titre_;
     QStringList notes_; ///< below the heading, blank lines among them
     CoteImprime cote_;
+    QStringList nomDuCote_; ///< the lines of its name
     QList<Rangee> rangees_;
     bool dansTitre_ = false;
     bool dansCote_ = false;
@@ -182,13 +186,14 @@ void Lecteur::OuvreCote(const QString& nom)
         ++document_.CotesSansTitre;
         return;
     }
-    cote_.Nom = nom.simplified();
+    nomDuCote_ = {nom};
     cote_.Ligne = ligne_;
     dansCote_ = true;
 }
 
 void Lecteur::FermeCote()
 {
+    cote_.Nom = TexteDeColonne(nomDuCote_).replace(u'\n', u' ');
     if (dansCote_ && !cote_.Nom.isEmpty()) {
         for (const Bloc& bloc : Blocs(rangees_)) {
             Ajoute(bloc, cote_);
@@ -196,39 +201,51 @@ void Lecteur::FermeCote()
         titre_.Cotes.append(cote_);
     }
     cote_ = {};
+    nomDuCote_.clear();
     rangees_.clear();
     dansCote_ = false;
 }
 
-/// Reads the "Voir aussi" and the list of members out of what stands below a heading.
-void Lecteur::LitNotes()
+/// Sorts what stands below a heading, one run of lines: a reference, a list of members, or a text.
+void Lecteur::LitNote(const QStringList& lignes)
 {
     static const QRegularExpression voirAussi(QStringLiteral("^\\(?voir aussi\\b *:? *"),
                                               QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression tiret(QStringLiteral(" -(?: |$)"));
-    QString suite;
-    const auto finit = [&] {
-        const QRegularExpressionMatch renvoi = voirAussi.match(suite);
-        if (renvoi.hasMatch()) {
-            for (QString nom : suite.mid(renvoi.capturedLength()).split(tiret, Qt::SkipEmptyParts)) {
-                nom.remove(u'"');
-                titre_.VoirAussi.append(suite.startsWith(u'(') && nom.endsWith(u')')
-                                            ? nom.chopped(1).simplified()
-                                            : nom.simplified());
-            }
-        } else if (suite.startsWith(u'(')) {
-            titre_.Membres.append(MembresDeListe(suite));
-        } else {
-            Joint(titre_.Introduction, suite);
+    const QString note = TexteDeColonne(lignes).replace(u'\n', u' ');
+    const QRegularExpressionMatch renvoi = voirAussi.match(note);
+    if (renvoi.hasMatch()) {
+        const bool entreParentheses = note.startsWith(u'(') && note.endsWith(u')');
+        const QString noms = note.mid(renvoi.capturedLength()).chopped(entreParentheses ? 1 : 0);
+        for (const QString& nom : QString(noms).remove(u'"').split(tiret, Qt::SkipEmptyParts)) {
+            titre_.VoirAussi.append(nom.simplified());
         }
-        suite.clear();
+    } else if (note.startsWith(u'(')) {
+        titre_.Membres.append(MembresDeListe(note));
+    } else {
+        Joint(titre_.Introduction, note);
+    }
+}
+
+/// A blank line ends a run, and so does the bracket that closes a list or opens one.
+void Lecteur::LitNotes()
+{
+    QStringList lignes;
+    qsizetype ouvertes = 0;
+    const auto finit = [&] {
+        LitNote(lignes);
+        lignes.clear();
+        ouvertes = 0;
     };
     for (const QString& note : std::as_const(notes_)) {
-        const bool complet = suite.startsWith(u'(') && suite.count(u'(') <= suite.count(u')');
-        if (note.isEmpty() || complet || (note.startsWith(u'(') && !suite.startsWith(u'('))) {
+        const bool liste = !lignes.isEmpty() && lignes.first().startsWith(u'(');
+        if (note.isEmpty() || (liste && ouvertes <= 0) || (note.startsWith(u'(') && !liste)) {
             finit();
         }
-        suite = note.isEmpty() ? QString() : TexteDeColonne({suite, note}).replace(u'\n', u' ');
+        if (!note.isEmpty()) {
+            lignes.append(note);
+            ouvertes += note.count(u'(') - note.count(u')');
+        }
     }
     finit();
 }
@@ -260,7 +277,7 @@ void Lecteur::LitLigne(const QString& ligne)
     } else if (retrait == 0) {
         OuvreTitre(ligne);
     } else if (dansCote_ && retrait < kMargeTexte && rangees_.isEmpty()) {
-        cote_.Nom = TexteDeColonne({cote_.Nom, ligne}).replace(u'\n', u' ');
+        nomDuCote_.append(ligne);
     } else if (dansCote_ && retrait >= kMargeTexte) {
         rangees_.append(Coupe(ligne, colonne_));
     } else {

@@ -131,6 +131,24 @@ private Q_SLOTS:
         QVERIFY(lu.Interactions.isEmpty());
     }
 
+    void NoTextIsTooLong_data()
+    {
+        QTest::addColumn<QByteArray>("texte");
+        const int lignes = 200000;
+        QTest::newRow("notes") << QByteArray("A\n") + QByteArray(" note\n").repeated(lignes);
+        QTest::newRow("a list") << QByteArray("A\n (a,\n") + QByteArray(" a(,\n").repeated(lignes);
+        QTest::newRow("a name") << QByteArray("A\n+ B\n") + QByteArray("   suite\n").repeated(lignes);
+        QTest::newRow("a heading") << QByteArray("A\n").repeated(lignes);
+        QTest::newRow("rows") << QByteArray("A\n+ B\n") + QByteArray("          x\n").repeated(lignes);
+        QTest::newRow("blanks") << QByteArray("A\n+ B\n          x") + QByteArray(lignes, ' ') + "y\n";
+        QTest::newRow("pages") << QByteArray("A\n\f\n").repeated(lignes);
+    }
+    void NoTextIsTooLong()
+    {
+        QFETCH(const QByteArray, texte);
+        QVERIFY(LitThesaurus(texte).Interactions.isEmpty());
+    }
+
     void NoTextIsTooStrange_data()
     {
         QTest::addColumn<QByteArray>("texte");
