@@ -15,11 +15,17 @@ QString ImprimanteEnUsage(application::Contexte& contexte)
     if (contexte.Dehors.Imprimantes.Noms().contains(choisie)) {
         return choisie;
     }
-    const QString utilisee = contexte.Dehors.Imprimantes.ParDefaut();
-    if (!choisie.isEmpty()) {
-        contexte.Dehors.Boites.Information(messages::ImprimanteIntrouvable(choisie, utilisee));
+    return contexte.Dehors.Imprimantes.ParDefaut();
+}
+
+QString AvisImprimante(application::Contexte& contexte)
+{
+    const QString& choisie = contexte.Reglages.Options.Imprimante;
+    if (choisie.isEmpty()) {
+        return {};
     }
-    return utilisee;
+    const QString utilisee = ImprimanteEnUsage(contexte);
+    return utilisee == choisie ? QString() : messages::ImprimanteIntrouvable(choisie, utilisee);
 }
 
 QString DossierPdf(const startup::Chemins& chemins)

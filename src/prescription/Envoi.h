@@ -9,9 +9,12 @@ struct Chemins;
 
 namespace prescription {
 
-/// The doctor's printer while the system has it, else the system's default one; a chosen printer that has
-/// gone is told of, with the one that prints instead.
+/// The doctor's printer while the system has it, else the system's default one.
 QString ImprimanteEnUsage(application::Contexte& contexte);
+
+/// What the editor shows while the chosen printer has gone: its name and the one that prints instead. Empty
+/// otherwise.
+QString AvisImprimante(application::Contexte& contexte);
 
 /// Where "Fichier PDF" writes.
 QString DossierPdf(const startup::Chemins& chemins);

@@ -47,9 +47,7 @@ inline QString CertificatIllisible()
 
 inline QString ImprimanteIntrouvable(const QString& choisie, const QString& utilisee)
 {
-    return QStringLiteral("L'imprimante « %1 » n'est plus installée sur cet ordinateur.\n"
-                          "Le document sera imprimé sur « %2 ».")
-        .arg(choisie, utilisee);
+    return QStringLiteral("« %1 » n'est plus installée : impression sur « %2 »").arg(choisie, utilisee);
 }
 
 inline QString LignesHorsDeLaFeuille(int nombre, bool certificat)

@@ -111,7 +111,11 @@ void ChangeMedecin(Contexte& contexte, int rang)
     medecins.NumMedecin = static_cast<qint16>(medecin.Numero);
     contexte.Choix.NoeudChoisi = medication::kAucunNoeud;
     contexte.Bases.FermeOrdo();
-    contexte.Chemins.CheminMedecin = common::Joint(contexte.Chemins.CheminTravail, medecin.Nom);
+    const QString chemin = common::Joint(contexte.Chemins.CheminTravail, medecin.Nom);
+    if (chemin != contexte.Chemins.CheminMedecin) {
+        contexte.Certificat.TxtCert = certificates::Certificat().TxtCert;
+    }
+    contexte.Chemins.CheminMedecin = chemin;
     CreeLogo(contexte.Chemins.CheminMedecin);
     settings::ChargeReglages(contexte.Reglages, contexte.Chemins.CheminMedecin);
     ChargeBanque(contexte.Banque, contexte.Chemins.CheminMedecin);

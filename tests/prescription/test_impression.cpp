@@ -1,4 +1,5 @@
 #include "common/Erreur.h"
+#include "prescription/Envoi.h"
 #include "prescription/Feuillets.h"
 #include "prescription/Impression.h"
 #include "prescription/Journal.h"
@@ -267,8 +268,8 @@ void TestImpression::AVanishedPrinterIsNamed()
 {
     Cabinet cabinet;
     cabinet.Etat.Reglages.Options.Imprimante = QStringLiteral("Laser du couloir");
-    cabinet.Boites.AttendInformation(
-        messages::ImprimanteIntrouvable(QStringLiteral("Laser du couloir"), QStringLiteral("Bureau")));
+    QCOMPARE(AvisImprimante(cabinet.Contexte),
+             messages::ImprimanteIntrouvable(QStringLiteral("Laser du couloir"), QStringLiteral("Bureau")));
     QVERIFY(ImprimeDocument(cabinet.Contexte));
     QCOMPARE(cabinet.Imprimantes.Travaux.constFirst().Imprimante, QStringLiteral("Bureau"));
     QCOMPARE(cabinet.Etat.Reglages.Options.Imprimante, QStringLiteral("Laser du couloir"));

@@ -131,6 +131,7 @@ void FrmOrdo::Imprime()
         !fenetres_.Donne<settings::FrmOptions>().OuvrePourPremiereImpression()) {
         return;
     }
+    SuitImprimante();
     if (ImprimeDocument(contexte_) && contexte_.Reglages.Options.MinimiseImpression == 1) {
         showMinimized();
     }

@@ -59,6 +59,7 @@ private:
     void SuitMedecins();
     void SuitReglages();
     void SuitApercu();
+    void SuitImprimante();
     void SuitOrdonnance();
     void Active();
     void SuitReduction();
@@ -73,6 +74,7 @@ private:
     QLabel* ImgMemo_ = nullptr;
     QLabel* titreMemo_ = nullptr;
     QLabel* deborde_ = nullptr;
+    QLabel* imprimante_ = nullptr;
     QCheckBox* ChkCiv_ = nullptr;
     QComboBox* CboMed_ = nullptr;
     VueFeuille* vue_;

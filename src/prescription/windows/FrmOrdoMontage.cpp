@@ -2,6 +2,7 @@
 #include "prescription/Apercu.h"
 #include "prescription/Commandes.h"
 #include "prescription/Editeur.h"
+#include "prescription/Envoi.h"
 #include "prescription/Memoire.h"
 #include "prescription/Ordonnance.h"
 #include "prescription/messages.h"
@@ -127,6 +128,8 @@ QWidget* FrmOrdo::CreeEntete()
     rangee->addWidget(PctMemo_);
     deborde_ = style::Avertissement(QStringLiteral("LblDeborde"), {}, entete);
     rangee->addWidget(deborde_);
+    imprimante_ = style::Avertissement(QStringLiteral("LblImprimante"), {}, entete);
+    rangee->addWidget(imprimante_);
     rangee->addStretch();
     rangee->addWidget(ChkCiv_);
     rangee->addWidget(
@@ -162,6 +165,14 @@ void FrmOrdo::SuitReglages()
     PctMenu2_->setVisible(options.BarreMenu != 0);
     vue_->MontreRegle(options.AfficheRegle == 1);
     menus_.PermetHauteurN(options.SautPersonnalise == 1);
+    SuitImprimante();
+}
+
+void FrmOrdo::SuitImprimante()
+{
+    const QString avis = AvisImprimante(contexte_);
+    imprimante_->setText(avis);
+    imprimante_->setVisible(!avis.isEmpty());
 }
 
 void FrmOrdo::SuitApercu()
