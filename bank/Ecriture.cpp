@@ -37,6 +37,7 @@ Insertion::Insertion(Ecriture& ecriture, const QString& table, int colonnes)
     for (int i = 0; i < colonnes; ++i) {
         places_.append(QStringLiteral(":v%1").arg(i));
     }
+    liees_.fill(QVariant(), colonnes);
     if (!requete_.prepare(
             QStringLiteral("insert into %1 values (%2)").arg(table, places_.join(QStringLiteral(", "))))) {
         ecriture_.Echoue(requete_.lastError());
@@ -45,11 +46,18 @@ Insertion::Insertion(Ecriture& ecriture, const QString& table, int colonnes)
 
 void Insertion::Ajoute(std::initializer_list<QVariant> valeurs)
 {
-    // By name: the toolkit composes a name anew for each value that is bound by its position.
-    auto place = places_.cbegin();
+    // Binding is what takes longest: a value stays bound, and one in two is that of the row before. By name,
+    // since the toolkit composes a name anew for each value that is bound by its position.
+    qsizetype place = 0;
     for (const QVariant& valeur : valeurs) {
-        requete_.bindValue(*place++, valeur);
+        QVariant& liee = liees_[place];
+        if (premiere_ || liee != valeur) {
+            liee = valeur;
+            requete_.bindValue(places_[place], valeur);
+        }
+        ++place;
     }
+    premiere_ = false;
     if (!requete_.exec()) {
         ecriture_.Echoue(requete_.lastError());
     }

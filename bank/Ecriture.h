@@ -25,6 +25,8 @@ private:
     Ecriture& ecriture_;
     QSqlQuery requete_;
     QStringList places_;
+    QVariantList liees_; ///< of the row before
+    bool premiere_ = true;
 };
 
 /// A bank being written: a neighbour of the file to come, filled in one transaction, which takes its place at

@@ -21,33 +21,70 @@ constexpr quint32 kAbsent = std::numeric_limits<quint32>::max();
 constexpr quint32 kPasEnTete = 1U << 20; ///< the first word does not begin the name
 constexpr quint32 kPasEntier = 1U << 12; ///< a word is only begun
 
-QSqlQuery Requete(const QSqlDatabase& base, const QString& instruction, const QVariantList& valeurs = {})
+[[noreturn]] void Echoue(const QSqlDatabase& base, const QSqlQuery& requete)
+{
+    const QString chemin = base.databaseName();
+    throw common::Erreur(messages::LectureRefusee(QFileInfo(chemin).fileName(), requete.lastError().text()),
+                         common::CheminAffiche(chemin));
+}
+
+QSqlQuery Prepare(const QSqlDatabase& base, const QString& instruction)
 {
     QSqlQuery requete(base);
     requete.setForwardOnly(true);
-    bool lance = requete.prepare(instruction);
-    for (const QVariant& valeur : valeurs) {
-        requete.addBindValue(valeur);
-    }
-    lance = lance && requete.exec();
-    if (!lance) {
-        const QString chemin = base.databaseName();
-        throw common::Erreur(
-            messages::LectureRefusee(QFileInfo(chemin).fileName(), requete.lastError().text()),
-            common::CheminAffiche(chemin));
+    if (!requete.prepare(instruction)) {
+        Echoue(base, requete);
     }
     return requete;
+}
+
+QSqlQuery Lance(const QSqlDatabase& base, const QString& instruction)
+{
+    QSqlQuery requete = Prepare(base, instruction);
+    if (!requete.exec()) {
+        Echoue(base, requete);
+    }
+    return requete;
+}
+
+/// One pack by its number.
+QSqlQuery RequeteDesPacks(const QSqlDatabase& base)
+{
+    return Prepare(
+        base,
+        QStringLiteral("select p.id, p.cis, p.cip7, p.cip13, p.nom, p.prix_total, p.taux, s.homeopathie "
+                       "from presentations p join specialites s on s.cis = p.cis where p.id = ?"));
+}
+
+PackTrouve Lis(const QSqlDatabase& base, QSqlQuery& requete, quint32 id)
+{
+    requete.bindValue(0, id);
+    if (!requete.exec()) {
+        Echoue(base, requete);
+    }
+    PackTrouve pack;
+    if (requete.next()) {
+        pack.Id = requete.value(0).toInt();
+        pack.Cis = requete.value(1).toInt();
+        pack.Cip7 = requete.value(2).toString();
+        pack.Cip13 = requete.value(3).toString();
+        pack.Nom = requete.value(4).toString();
+        pack.Prix = requete.isNull(5) ? std::nullopt : std::optional(requete.value(5).toDouble());
+        pack.Taux = requete.isNull(6) ? std::nullopt : std::optional(requete.value(6).toInt());
+        pack.Homeopathie = requete.value(7).toBool();
+    }
+    return pack;
 }
 
 } // namespace
 
 Recherche::Recherche(const QSqlDatabase& base) : base_(base)
 {
-    QSqlQuery noms = Requete(base_, QStringLiteral("select packs from recherche_noms order by rang"));
+    QSqlQuery noms = Lance(base_, QStringLiteral("select packs from recherche_noms order by rang"));
     while (noms.next()) {
         noms_.append({DepuisOctets(noms.value(0).toByteArray())});
     }
-    QSqlQuery mots = Requete(base_, QStringLiteral("select mot, places from recherche_mots"));
+    QSqlQuery mots = Lance(base_, QStringLiteral("select mot, places from recherche_mots"));
     while (mots.next()) {
         mots_.append({mots.value(0).toString(), DepuisOctets(mots.value(1).toByteArray())});
     }
@@ -109,37 +146,17 @@ PageTrouvee Recherche::Cherche(const QString& question, int page, int parPage) c
         }
     }
     PageTrouvee resultat;
+    QSqlQuery packs = RequeteDesPacks(base_);
     const qint64 debut = qint64(page) * parPage;
     for (const Trouve& trouve : std::as_const(trouves)) {
         for (const quint32 id : noms_[trouve.Rang].Packs) {
             if (resultat.Total >= debut && resultat.Total < debut + parPage) {
-                resultat.Packs.append(Lis(id));
+                resultat.Packs.append(Lis(base_, packs, id));
             }
             ++resultat.Total;
         }
     }
     return resultat;
-}
-
-PackTrouve Recherche::Lis(quint32 id) const
-{
-    QSqlQuery requete = Requete(
-        base_,
-        QStringLiteral("select p.id, p.cis, p.cip7, p.cip13, p.nom, p.prix_total, p.taux, s.homeopathie "
-                       "from presentations p join specialites s on s.cis = p.cis where p.id = ?"),
-        {id});
-    PackTrouve pack;
-    if (requete.next()) {
-        pack.Id = requete.value(0).toInt();
-        pack.Cis = requete.value(1).toInt();
-        pack.Cip7 = requete.value(2).toString();
-        pack.Cip13 = requete.value(3).toString();
-        pack.Nom = requete.value(4).toString();
-        pack.Prix = requete.isNull(5) ? std::nullopt : std::optional(requete.value(5).toDouble());
-        pack.Taux = requete.isNull(6) ? std::nullopt : std::optional(requete.value(6).toInt());
-        pack.Homeopathie = requete.value(7).toBool();
-    }
-    return pack;
 }
 
 } // namespace banque

@@ -59,7 +59,6 @@ private:
 
     QList<Trouve> Noms(const QStringList& mots) const;
     void Note(const QString& debut, bool premier, QList<quint32>& notes) const;
-    PackTrouve Lis(quint32 id) const;
 
     QSqlDatabase base_;
     QList<Mot> mots_; ///< sorted
