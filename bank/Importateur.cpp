@@ -27,7 +27,7 @@ void EcritInformation(Ecriture& ecriture, const QDate& date)
 
 } // namespace
 
-Bilan Importe(const Demande& demande, const Avancement& avancement, const Complement& complement)
+Bilan Importe(const Demande& demande, const Avancement& avancement)
 {
     const Sources sources(demande.Dossier);
     Bilan bilan;
@@ -45,9 +45,6 @@ Bilan Importe(const Demande& demande, const Avancement& avancement, const Comple
         const ChiffresThesaurus chiffres =
             ImporteThesaurus(ecriture.Base(), common::LitFichier(demande.Interactions));
         bilan.Interactions = chiffres.Lignes() + chiffres.Desaccords;
-    }
-    if (complement) {
-        complement(ecriture, bilan);
     }
     ecriture.Valide();
     return bilan;

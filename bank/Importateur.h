@@ -7,8 +7,6 @@
 
 namespace banque {
 
-class Ecriture;
-
 /// What to import and where to.
 struct Demande
 {
@@ -24,13 +22,10 @@ class Interruption : public common::Erreur
     using common::Erreur::Erreur;
 };
 
-/// What else goes into the bank, within the same transaction, when the public files are in.
-using Complement = std::function<void(Ecriture& ecriture, Bilan& bilan)>;
-
 /// Reads the public files of a directory into a new bank that takes the place of the former one when it is
 /// whole. Lines that cannot be read are refused one by one, and said; a file that is missing or holds
 /// something else fails the import. Throws `Erreur`, `Interruption` when `avancement` answers false: the
 /// former bank stands then.
-Bilan Importe(const Demande& demande, const Avancement& avancement = {}, const Complement& complement = {});
+Bilan Importe(const Demande& demande, const Avancement& avancement = {});
 
 } // namespace banque

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void FailuresLeaveTheFormerBank();
     void FullDiskLeavesTheFormerBank();
     void OptionalAndUnknownFilesAreSaid();
+    void InteractionsComeWithTheRest();
     void Arguments();
 };
 
@@ -295,10 +296,26 @@ void TestImportBanque::OptionalAndUnknownFilesAreSaid()
     QCOMPARE(bilan.Fichiers.size(), 9);
 }
 
+void TestImportBanque::InteractionsComeWithTheRest()
+{
+    const Essai essai;
+    Demande demande = essai.Demandee();
+    demande.Interactions = DossierExtrait() + QStringLiteral("/thesaurus/interactions.txt");
+    QVERIFY(!Importe(demande).Interactions.isEmpty());
+    common::EcritFichier(essai.Banque, "ancienne");
+    demande.Interactions = essai.Fichier("CIS_MITM.txt");
+    QVERIFY(!PhraseDEchec([&] { Importe(demande); }).isEmpty());
+    demande.Interactions = essai.Fichier("rien.txt");
+    const QString absent = PhraseDEchec([&] { Importe(demande); });
+    QVERIFY2(absent.contains(QStringLiteral("« rien.txt » : le fichier n'existe pas")), qPrintable(absent));
+    QVERIFY(essai.Intacte());
+}
+
 void TestImportBanque::Arguments()
 {
     const auto lit = [](const char* texte) { return LitArguments(QString::fromLatin1(texte).split(u' ')); };
     QCOMPARE(lit("importer ici --vers la --date 2026-05-18")->DateDonnees, QDate(2026, 5, 18));
+    QCOMPARE(lit("importer ici --interactions t --vers la")->Interactions, QStringLiteral("t"));
     QCOMPARE(lit("importer ici --vers la")->Vers, QStringLiteral("la"));
     for (const char* faux : {"", "importer", "importer ici", "importer ici --vers", "lire ici --vers la",
                              "importer ici --vers la --date hier", "importer ici --autre la"}) {
