@@ -196,7 +196,8 @@ QString BasculeBlancs(const QString& texte)
 
 bool RienEnMain(const prescription::Ordonnance& ordonnance, const Saisie& saisie)
 {
-    return ordonnance.LstChoix1.Vide() && ordonnance.LstChoix2.Vide() && saisie.TxtMedoc.isEmpty();
+    return ordonnance.LstChoix1.Vide() && ordonnance.LstChoix2.Vide() && saisie.TxtMedoc.isEmpty() &&
+           saisie.TxtPoso.isEmpty();
 }
 
 } // namespace medication

@@ -67,7 +67,7 @@ bool PresseRecherche(Choix& choix);
 /// F4 in the name: 30 blanks behind a trimmed text that has none, otherwise the trimmed text.
 QString BasculeBlancs(const QString& texte);
 
-/// True when leaving loses nothing: no line in either zone, no medication in the boxes.
+/// True when leaving loses nothing: no line in either zone, nothing in the boxes.
 bool RienEnMain(const prescription::Ordonnance& ordonnance, const Saisie& saisie);
 
 } // namespace medication

@@ -120,10 +120,9 @@ inline QString AucunMedicament()
     return QStringLiteral("Aucun médicament n'a été choisi !");
 }
 
-inline QString Abandon()
+inline QString AnnulerPourQuitter()
 {
-    return QStringLiteral(
-        "Tout effacer et quitter la pharmacie ?\n\nLes lignes de l'ordonnance seront perdues.");
+    return QStringLiteral("« Annuler » efface ce qui est en main et quitte la pharmacie.");
 }
 
 inline QString AucunModele()

@@ -252,6 +252,7 @@ private Q_SLOTS:
     {
         QVERIFY(RienEnMain(Ordo(), {}));
         QVERIFY(!RienEnMain(Ordo(), {QStringLiteral("A"), {}}));
+        QVERIFY(!RienEnMain(Ordo(), {{}, QStringLiteral("1 matin")}));
         AjouteSaut(Ordo(), Zone::Deux);
         QVERIFY(!RienEnMain(Ordo(), {}));
     }

@@ -18,6 +18,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QToolButton>
+#include <QToolTip>
 #include <QTreeView>
 
 namespace medication {
@@ -292,10 +293,11 @@ void FrmMedoc::closeEvent(QCloseEvent* event)
 
 void FrmMedoc::reject()
 {
-    if (RienEnMain(contexte_.Ordonnance, Boites()) ||
-        contexte_.Dehors.Boites.Question(messages::Abandon(), outside::Bouton::Non)) {
+    if (RienEnMain(contexte_.Ordonnance, Boites())) {
         ToutEfface();
         hide();
+    } else {
+        QToolTip::showText(c_.CmdAnnule->mapToGlobal(QPoint()), messages::AnnulerPourQuitter(), c_.CmdAnnule);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "PosteMedoc.h"
 
+#include <QToolTip>
+
 using outside::Bouton;
 
 class TestFrmMedoc : public QObject, private support::PosteMedoc
@@ -184,17 +186,17 @@ private Q_SLOTS:
         QVERIFY(fenetre_->isVisible());
     }
 
-    void EscapeAsksBeforeItEmpties()
+    void EscapeLeavesWithEmptyHandsOnly()
     {
         ClicNoeud(1, false);
-        monde_->Boites.AttendContenant(outside::Genre::Question, QStringLiteral("Tout effacer"), Bouton::Non);
         QTest::keyClick(fenetre_, Qt::Key_Escape);
         QVERIFY(fenetre_->isVisible());
         QCOMPARE(Ordo().LstChoix1.rowCount(), 1);
-        monde_->Boites.AttendContenant(outside::Genre::Question, QStringLiteral("Tout effacer"), Bouton::Oui);
+        QCOMPARE(QToolTip::text(),
+                 QStringLiteral("« Annuler » efface ce qui est en main et quitte la pharmacie."));
+        Clic("CmdClear");
         QTest::keyClick(fenetre_, Qt::Key_Escape);
         QVERIFY(!fenetre_->isVisible());
-        QVERIFY(Ordo().LstChoix1.Vide());
     }
 
     void CancelEmptiesAndHides()

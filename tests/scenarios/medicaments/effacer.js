@@ -26,12 +26,15 @@ clic("FrmMedoc.CmdAjouter1");
 egal(lignes("FrmMedoc.LstChoix1").length, 1, "une ligne neuve");
 
 touche("FrmMedoc.TxtCherche", "Echap");
-egal(boite().defaut, "Non", "Echap demande d'abord");
-repondre("Non");
+aucuneBoite();
+vrai(ouverte("FrmMedoc"), "Echap ne quitte pas une ordonnance en main");
 egal(lignes("FrmMedoc.LstChoix1").length, 1, "rien n'est perdu");
-touche("FrmMedoc.TxtCherche", "Echap");
-repondre("Oui");
-faux(ouverte("FrmMedoc"), "Echap a quitté");
+clic("FrmMedoc.TV", 0);
+clic("FrmMedoc.CmdClear");
+clic("FrmMedoc.TV", 0);
+touche("FrmMedoc.TxtMedoc", "Echap");
+egal(texte("FrmMedoc.TxtMedoc"), "AMLOR", "ni un médicament choisi");
+clic("FrmMedoc.CmdAnnule");
 
 clic("FrmOrdo.CmdPharma");
 egal(lignes("FrmMedoc.LstChoix1"), [], "l'ordonnance est vide");
