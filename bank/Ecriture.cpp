@@ -68,6 +68,11 @@ Ecriture::Ecriture(const QString& chemin)
       verrou_(chemin + QStringLiteral(".verrou")), connexion_(NouvelleConnexion())
 {
     const QString nom = QFileInfo(chemin).fileName();
+    const QString dossier = QFileInfo(chemin).absolutePath();
+    if (!common::DossierExiste(dossier)) {
+        throw common::Erreur(messages::DossierAbsent(common::CheminAffiche(dossier)),
+                             common::CheminAffiche(chemin));
+    }
     if (!verrou_.tryLock()) {
         const bool occupee = verrou_.error() == QLockFile::LockFailedError;
         throw common::Erreur(occupee                   ? messages::ImportEnCours(nom)

@@ -163,6 +163,11 @@ void Remplissage::Presentations()
         }
         return connue ? Sort() : Sort{.Correction = messages::PresentationSansSpecialite()};
     });
+    // Other words for the state of the market would leave the search without a single pack.
+    if (aTrouver_.isEmpty()) {
+        throw common::Erreur(messages::RienDeCommercialise(sources::kPresentations),
+                             common::CheminAffiche(sources_.Chemin(sources::kPresentations)));
+    }
 }
 
 void Remplissage::Groupes()

@@ -88,6 +88,14 @@ inline QString TropDeRefus(const QString& nom, int refusees, int lues, int ligne
         .arg(motif);
 }
 
+inline QString RienDeCommercialise(const QString& nom)
+{
+    return QStringLiteral(
+               "Aucune présentation du fichier « %1 » n'est commercialisée : il n'a pas la forme attendue. "
+               "La banque n'a pas été remplacée.")
+        .arg(nom);
+}
+
 inline QString DateInconnue()
 {
     return QStringLiteral("Aucune date ne dit de quand sont ces données. La banque n'a pas été remplacée.");

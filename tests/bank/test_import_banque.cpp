@@ -68,6 +68,7 @@ private Q_SLOTS:
     void FailuresLeaveTheFormerBank_data();
     void FailuresLeaveTheFormerBank();
     void FullDiskLeavesTheFormerBank();
+    void OtherWordsForTheMarketFail();
     void OptionalAndUnknownFilesAreSaid();
     void InteractionsComeWithTheRest();
     void Arguments();
@@ -262,6 +263,10 @@ void TestImportBanque::FailuresLeaveTheFormerBank()
     const QString absent = PhraseDEchec(
         [&] { Importe({.Dossier = essai.Sources + QStringLiteral("/rien"), .Vers = essai.Banque}); });
     QVERIFY2(absent.contains(QStringLiteral("n'existe pas")), qPrintable(absent));
+    const QString nulle = PhraseDEchec([&] {
+        Importe({.Dossier = DossierExtrait(), .Vers = essai.Racine.path() + QStringLiteral("/nul/b")});
+    });
+    QVERIFY2(nulle.contains(QStringLiteral("n'existe pas")), qPrintable(nulle));
 }
 
 /// A limit on the size of a file stands for the disk that fills up.
@@ -282,6 +287,16 @@ void TestImportBanque::FullDiskLeavesTheFormerBank()
 #else
     QSKIP("this system has no limit on the size of a file");
 #endif
+}
+
+void TestImportBanque::OtherWordsForTheMarketFail()
+{
+    const Essai essai;
+    const QString chemin = essai.Fichier("CIS_CIP_bdpm.txt");
+    common::EcritFichier(chemin, common::LitFichier(chemin).replace("Présentation active", "Active"));
+    const QString dite = PhraseDEchec([&] { Importe(essai.Demandee()); });
+    QVERIFY2(dite.contains(QStringLiteral("Aucune présentation")), qPrintable(dite));
+    QVERIFY(essai.Intacte());
 }
 
 void TestImportBanque::OptionalAndUnknownFilesAreSaid()
