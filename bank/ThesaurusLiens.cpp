@@ -48,7 +48,7 @@ QSet<QString> Debuts(const QStringList& noms)
     QSet<QString> debuts;
     for (const QString& nom : noms) {
         for (const QString& mot : CleDeNom(nom).split(u' ')) {
-            if (mot.size() >= kDebutCommun) {
+            if (mot.size() >= kDebutCommun && !EstMotCommun(mot)) {
                 debuts.insert(mot.left(kDebutCommun));
             }
         }

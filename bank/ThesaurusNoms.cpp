@@ -152,4 +152,11 @@ QSet<QString> FormesPubliques(const QString& nom)
     return formes;
 }
 
+bool EstMotCommun(const QString& mot)
+{
+    static const QSet<QString> communs = Mots(u"ACIDE COMPLEXE EXTRAIT HUMAIN HUMAINE SOLUTION VIRUS");
+    return communs.contains(mot) || Sels().contains(mot) || Suites().contains(mot) ||
+           Elements().contains(mot);
+}
+
 } // namespace banque

@@ -19,4 +19,7 @@ QStringList ClesDEntree(const QString& nom);
 /// element is never reached by taking a salt away: "IODURE DE POTASSIUM" is no potassium.
 QSet<QString> FormesPubliques(const QString& nom);
 
+/// True for a word that many substances share: a salt, a hydrate, an element, "ACIDE".
+bool EstMotCommun(const QString& mot);
+
 } // namespace banque
