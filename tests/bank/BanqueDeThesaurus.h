@@ -18,17 +18,23 @@ inline QByteArray Extrait(const QString& nom)
     return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
 }
 
-/// A file of the public data that lie beside the project, unpacked; empty where they are not.
+inline QDir DonneesPubliques()
+{
+    return QDir(QStringLiteral(RACINE_PROJET "/../shared/data"));
+}
+
+/// True where the public data lie beside the project.
+inline bool DonneesPubliquesPresentes()
+{
+    return DonneesPubliques().exists();
+}
+
+/// One of their files, unpacked; empty when that fails.
 inline QByteArray DonneePublique(const QString& nom)
 {
-    const QString chemin = QDir(QStringLiteral(RACINE_PROJET "/../shared/data")).filePath(nom);
-    if (!QFile::exists(chemin)) {
-        return {};
-    }
     QProcess xz;
-    xz.start(QStringLiteral("xz"), {QStringLiteral("-dc"), chemin});
-    xz.waitForFinished(60000);
-    return xz.readAllStandardOutput();
+    xz.start(QStringLiteral("xz"), {QStringLiteral("-dc"), DonneesPubliques().filePath(nom)});
+    return xz.waitForFinished(60000) && xz.exitCode() == 0 ? xz.readAllStandardOutput() : QByteArray();
 }
 
 /// A bank in memory with the tables that the thesaurus reads and writes.
