@@ -29,17 +29,6 @@ QString PourLaPage(QString texte)
     return texte.endsWith(kFinDeLigne) ? texte : texte + kFinDeLigne;
 }
 
-/// True when the doctor may write there: the name can be a template's, and one that stands may go.
-bool Accepte(outside::Boites& boites, const QString& cheminTravail, const NomChoisi& choix)
-{
-    if (!choix.Refus.isEmpty()) {
-        boites.Exclamation(choix.Refus);
-        return false;
-    }
-    return !choix.Complete || !ModeleExiste(cheminTravail, choix.Nom) ||
-           boites.Question(messages::Remplacer(choix.Nom), outside::Bouton::Non);
-}
-
 } // namespace
 
 QString CocheALD(Certificat& certificat, bool coche)
@@ -79,7 +68,8 @@ bool EnregistreSous(application::Contexte& contexte, const QString& texte)
         return false;
     }
     const NomChoisi choix = LitNomChoisi(travail, *chemin);
-    if (!Accepte(boites, travail, choix)) {
+    if (!choix.Refus.isEmpty()) {
+        boites.Exclamation(choix.Refus);
         return false;
     }
     EcritModele(travail, choix.Nom, texte, contexte.Certificat);

@@ -134,8 +134,7 @@ NomChoisi LitNomChoisi(const QString& cheminTravail, const QString& chemin)
     const qsizetype barre = uni.lastIndexOf(u'/');
     const QString fichier = uni.sliced(barre + 1);
     NomChoisi choix;
-    choix.Complete = !FinitPar(fichier, kTxt);
-    choix.Nom = choix.Complete ? fichier : fichier.chopped(kTxt.size());
+    choix.Nom = FinitPar(fichier, kTxt) ? fichier.chopped(kTxt.size()) : fichier;
     const QString dossier = CheminCertificats(cheminTravail);
     if (barre >= 0 && QFileInfo(uni.left(barre + 1)) != QFileInfo(dossier + u'/')) {
         choix.Refus = messages::HorsDuDossier(common::CheminAffiche(dossier));

@@ -29,9 +29,8 @@ void EcritTmp(const QString& cheminTravail, const QString& texte);
 /// What the save dialogue gave.
 struct NomChoisi
 {
-    QString Nom;           ///< of the template, without extension
-    QString Refus;         ///< why it cannot be one, in French; empty when it can
-    bool Complete = false; ///< ".txt" was added: the dialogue has not seen the file's name
+    QString Nom;   ///< of the template, without extension
+    QString Refus; ///< why it cannot be one, in French; empty when it can
 };
 
 /// The template that a path of the save dialogue means; a bare name lies in "Certificats".

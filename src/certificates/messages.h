@@ -109,11 +109,6 @@ inline QString NomRefuse(const QString& nom)
         .arg(nom);
 }
 
-inline QString Remplacer(const QString& nom)
-{
-    return QStringLiteral("Le modèle « %1 » existe déjà.\nVoulez-vous le remplacer ?").arg(nom);
-}
-
 inline QString PoliceSansMedecin()
 {
     return QStringLiteral("Aucun médecin n'est choisi : cette police vaut jusqu'à la fermeture du programme, "

@@ -12,4 +12,12 @@ inline QString FiltreQt(const QString& filtre)
         description, filtre.section(QLatin1Char('|'), 1).replace(QLatin1Char(';'), QLatin1Char(' ')));
 }
 
+/// The file that a save dialogue means when its name lacks the ending of the filter's first pattern: the same
+/// with that ending. Empty when the name has it, so that the dialogue has seen the whole name.
+inline QString NomComplete(const QString& chemin, const QString& filtre)
+{
+    const QString fin = filtre.section(QLatin1Char('|'), 1).section(QLatin1Char(';'), 0, 0).mid(1);
+    return chemin.endsWith(fin, Qt::CaseInsensitive) ? QString() : chemin + fin;
+}
+
 } // namespace outside

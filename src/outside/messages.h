@@ -10,6 +10,11 @@ inline QString Panne(const QString& phrase, const QString& lieu)
     return phrase + QLatin1Char('\n') + lieu;
 }
 
+inline QString Remplacer(const QString& nom)
+{
+    return QStringLiteral("« %1 » existe déjà.\nVoulez-vous le remplacer ?").arg(nom);
+}
+
 inline QString PdfNonEcrit(const QString& fichier)
 {
     return QStringLiteral("Le fichier PDF n'a pas pu être écrit :\n%1").arg(fichier);

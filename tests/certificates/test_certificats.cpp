@@ -42,7 +42,7 @@ private Q_SLOTS:
     void AnAldSheetHasNoShift();
     void WithoutADoctorNothingReachesThePage();
     void SavesUnderANewName();
-    void AsksBeforeItReplaces();
+    void ReplacesTheNameThatWasChosen();
     void RefusesNames();
     void Deletes();
     void TheFontIsTheOneRowOfItsTable();
@@ -154,16 +154,11 @@ void TestCertificats::SavesUnderANewName()
     QCOMPARE(ListeModeles(editeur.Travail()), QStringList{QStringLiteral("Sport")});
 }
 
-void TestCertificats::AsksBeforeItReplaces()
+void TestCertificats::ReplacesTheNameThatWasChosen()
 {
     Editeur editeur;
     EcritModele(editeur.Travail(), QStringLiteral("Sport"), QStringLiteral("ancien"), {});
     editeur.AttendNom(QStringLiteral("Sport"));
-    editeur.Boites.AttendQuestion(messages::Remplacer(QStringLiteral("Sport")), Bouton::Non, Bouton::Non);
-    QVERIFY(!EnregistreSous(editeur.Contexte, QStringLiteral("nouveau")));
-    QCOMPARE(editeur.Octets(QStringLiteral("Sport.txt")), QByteArray("ancien"));
-    editeur.AttendNom(QStringLiteral("Sport"));
-    editeur.Boites.AttendQuestion(messages::Remplacer(QStringLiteral("Sport")), Bouton::Oui, Bouton::Non);
     QVERIFY(EnregistreSous(editeur.Contexte, QStringLiteral("nouveau")));
     QCOMPARE(editeur.Octets(QStringLiteral("Sport.txt")), QByteArray("nouveau"));
 }

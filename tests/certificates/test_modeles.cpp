@@ -193,36 +193,40 @@ void TestModeles::NomChoisi_data()
 {
     QTest::addColumn<QString>("reponse"); // '/' for "Certificats" before it
     QTest::addColumn<QString>("nom");
-    QTest::addColumn<bool>("complete");
     QTest::addColumn<QString>("refus");
     const QString refuse = messages::NomRefuse(QStringLiteral("[nom]"));
     const QString reserve = messages::NomReserve(QStringLiteral("[nom]"));
     QTest::newRow("without ending") << "/Sport"
-                                    << "Sport" << true << "";
+                                    << "Sport"
+                                    << "";
     QTest::newRow("with it") << "/Sport.txt"
-                             << "Sport" << false << "";
+                             << "Sport"
+                             << "";
     QTest::newRow("in capitals") << "/Sport.TXT"
-                                 << "Sport" << false << "";
+                                 << "Sport"
+                                 << "";
     QTest::newRow("another ending") << "/Sport.doc"
-                                    << "Sport.doc" << true << "";
+                                    << "Sport.doc"
+                                    << "";
     QTest::newRow("bare") << "Sport"
-                          << "Sport" << true << "";
+                          << "Sport"
+                          << "";
     QTest::newRow("Tmp") << "/tmp.TXT"
-                         << "tmp" << false << reserve;
+                         << "tmp" << reserve;
     QTest::newRow("bare Tmp") << "Tmp"
-                              << "Tmp" << true << reserve;
+                              << "Tmp" << reserve;
     QTest::newRow("nothing") << "/.txt"
-                             << "" << false << refuse;
+                             << "" << refuse;
     QTest::newRow("hidden from the list") << "/....txt"
-                                          << "..." << false << refuse;
+                                          << "..." << refuse;
     QTest::newRow("a device") << "/con"
-                              << "con" << true << refuse;
+                              << "con" << refuse;
     QTest::newRow("a device with its ending") << "/LPT1.txt"
-                                              << "LPT1" << false << refuse;
+                                              << "LPT1" << refuse;
     QTest::newRow("a colon") << "C:Sport"
-                             << "C:Sport" << true << refuse;
+                             << "C:Sport" << refuse;
     QTest::newRow("a star") << "/S*rt"
-                            << "S*rt" << true << refuse;
+                            << "S*rt" << refuse;
 }
 
 void TestModeles::NomChoisi()
@@ -233,7 +237,6 @@ void TestModeles::NomChoisi()
     const certificates::NomChoisi choix = LitNomChoisi(
         dossier_->path(), reponse.startsWith(u'/') ? CheminCertificats(dossier_->path()) + reponse : reponse);
     QCOMPARE(choix.Nom, nom);
-    QTEST(choix.Complete, "complete");
     QCOMPARE(choix.Refus, refus.replace(QLatin1String("[nom]"), nom));
 }
 

@@ -9,6 +9,7 @@ class TestFiltreQt : public QObject
 private Q_SLOTS:
     void Filtre_data();
     void Filtre();
+    void NomComplete();
 };
 
 void TestFiltreQt::Filtre_data()
@@ -27,6 +28,14 @@ void TestFiltreQt::Filtre()
 {
     QFETCH(QString, filtre);
     QTEST(outside::FiltreQt(filtre), "attendu");
+}
+
+void TestFiltreQt::NomComplete()
+{
+    const QString filtre = QStringLiteral("*.txt|*.txt");
+    QCOMPARE(outside::NomComplete(QStringLiteral("/c/Sport"), filtre), QStringLiteral("/c/Sport.txt"));
+    QCOMPARE(outside::NomComplete(QStringLiteral("/c/Dr. X"), filtre), QStringLiteral("/c/Dr. X.txt"));
+    QCOMPARE(outside::NomComplete(QStringLiteral("/c/Sport.TXT"), filtre), QString());
 }
 
 QTEST_APPLESS_MAIN(TestFiltreQt)

@@ -2,12 +2,14 @@
 
 #include "application/windows/Style.h"
 #include "outside/FiltreQt.h"
+#include "outside/messages.h"
 #include "page/CouleurQt.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -154,7 +156,14 @@ std::optional<QString> BoitesQt::Ouvre(const ChoixFichier& choix)
 
 std::optional<QString> BoitesQt::Enregistre(const ChoixFichier& choix)
 {
-    return OuRien(QFileDialog::getSaveFileName(Dessous(), choix.Titre, choix.Depart, FiltreQt(choix.Filtre)));
+    const QString chemin =
+        QFileDialog::getSaveFileName(Dessous(), choix.Titre, choix.Depart, FiltreQt(choix.Filtre));
+    const QFileInfo complete(NomComplete(chemin, choix.Filtre));
+    if (!chemin.isEmpty() && complete.exists() &&
+        !Question(messages::Remplacer(complete.fileName()), Bouton::Non)) {
+        return {};
+    }
+    return OuRien(chemin);
 }
 
 std::optional<page::Police> BoitesQt::ChoisitPolice(const page::Police& depart)
