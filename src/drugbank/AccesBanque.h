@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace drugbank {
 
@@ -15,7 +16,7 @@ struct Pack
     QString Nom;
 };
 
-/// What the picker asks of an open drug bank.
+/// What is asked of an open drug bank.
 class AccesBanque
 {
 public:
@@ -24,8 +25,17 @@ public:
     /// The first page of the packs of a name, at most 50, in the order of the bank. `filtre` is the
     /// document filter, 64, 128 or 255.
     virtual QList<Pack> RecherchePacks(const QString& texte, qint32 filtre) = 0;
-    /// The common name of a product; empty when the bank has none.
+    /// The common names of a product, the first in capitals, with ", " between; a null text when the bank
+    /// has none, an empty one when it gives no name.
     virtual QString NomDCI(qint32 produit) = 0;
+    /// The address of the monograph of a pack; empty when it has none.
+    virtual QString Monographie(qint32 pack) = 0;
+    /// The rows of `LstGen`: an empty one for each generic group of the product, and behind it the packs
+    /// that have a price.
+    virtual QStringList Generiques(qint32 produit) = 0;
+    /// `RapportInteractions` of these products at that level, 0 to 3; empty without interactions. An id of
+    /// 0 is no product.
+    virtual QString Interactions(const QList<qint32>& produits, qint32 niveau) = 0;
 };
 
 } // namespace drugbank

@@ -9,7 +9,10 @@ class BanqueFeinte : public drugbank::AccesBanque
 {
 public:
     QList<drugbank::Pack> Contenu;
-    QStringList Demandes; ///< text and filter of each search
+    QHash<qint32, QString> Monographies;        ///< by pack
+    QHash<qint32, QStringList> RangsGeneriques; ///< by product
+    QHash<QList<qint32>, QString> Rapports;     ///< by the products in question
+    QStringList Demandes;                       ///< text and filter of each search
 
     QList<drugbank::Pack> RecherchePacks(const QString& texte, qint32 filtre) override
     {
@@ -26,6 +29,9 @@ public:
     {
         return produit == 101 ? QStringLiteral("PARACETAMOL") : QString();
     }
+    QString Monographie(qint32 pack) override { return Monographies.value(pack); }
+    QStringList Generiques(qint32 produit) override { return RangsGeneriques.value(produit); }
+    QString Interactions(const QList<qint32>& produits, qint32) override { return Rapports.value(produits); }
 };
 
 } // namespace support

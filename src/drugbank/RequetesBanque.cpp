@@ -1,0 +1,174 @@
+#include "drugbank/RequetesBanque.h"
+
+#include "common/Capitales.h"
+#include "common/Nombres.h"
+#include "common/Texte8.h"
+#include "drugbank/Rapport.h"
+#include "drugbank/Tenu.h"
+
+#include <array>
+
+namespace drugbank {
+
+namespace {
+
+constexpr Entier kPage = 1;
+constexpr Entier kTaillePage = 50;
+constexpr Entier kDocumentsLus = 17;
+constexpr int kFiltreVidal = 64;
+constexpr int kFiltreSaumon = 128;
+
+constexpr std::array<QLatin1String, 17> kTypes = {
+    QLatin1String("Mono"),      QLatin1String("Iris"),       QLatin1String("Saumon"), QLatin1String("VDF"),
+    QLatin1String("Mono supp"), QLatin1String("Mono thera"), QLatin1String("RCP"),    QLatin1String("VMP fr"),
+    QLatin1String("VMP class"), QLatin1String("FIT"),        QLatin1String("PGR"),    QLatin1String("BUM"),
+    QLatin1String("PTT"),       QLatin1String("RCP Vidal"),  QLatin1String("SNA"),    QLatin1String("IDD"),
+    QLatin1String("ALD")};
+
+/// The document codes that go with a name.
+QList<Entier> CodesDuFiltre(qint32 filtre)
+{
+    switch (filtre) {
+    case kFiltreVidal:
+        return {0, 6, 0};
+    case kFiltreSaumon:
+        return {1, 3, 4, 5, 6, 7};
+    default:
+        return {0, 1, 3, 4, 5, 6, 7};
+    }
+}
+
+Entier BorneHaute(const QList<Entier>& codes)
+{
+    return static_cast<Entier>(codes.size() - 1);
+}
+
+Pack LitPack(const TenuPack& tenu)
+{
+    Pack pack;
+    pack.Cip = tenu.Texte(&LiaisonBanque::Pack_getCip);
+    pack.Id = tenu.Demande(&LiaisonBanque::Pack_getId);
+    pack.Produit = tenu.Demande(&LiaisonBanque::Pack_getProductId);
+    pack.Prix = static_cast<float>(tenu.Demande(&LiaisonBanque::Pack_getPublicPrice));
+    pack.Nom = tenu.Texte(&LiaisonBanque::Pack_getName);
+    return pack;
+}
+
+/// A row of `LstGen`, nothing for a pack without a price.
+void AjoutePack(QStringList& rangs, const TenuPack& tenu)
+{
+    const QString nom = tenu.Texte(&LiaisonBanque::Pack_getName);
+    const auto prix = static_cast<float>(tenu.Demande(&LiaisonBanque::Pack_getPublicPrice));
+    if (prix != 0) {
+        rangs.append(QStringLiteral("  ") + nom + QString(10, u' ') + common::TexteSimple(prix) +
+                     QStringLiteral("  €"));
+    }
+}
+
+} // namespace
+
+QString TypeDeDocument(qint32 type)
+{
+    const bool connu = type >= 0 && static_cast<std::size_t>(type) < kTypes.size();
+    return connu ? QString(kTypes.at(static_cast<std::size_t>(type))) : QString();
+}
+
+RequetesBanque::RequetesBanque(std::shared_ptr<const LiaisonBanque> banque, Poignee session)
+    : banque_(std::move(banque)), session_(session)
+{}
+
+QList<Pack> RequetesBanque::RecherchePacks(const QString& texte, qint32 filtre)
+{
+    const QByteArray nom = common::VersWindows1252(texte);
+    const QList<Entier> codes = CodesDuFiltre(filtre);
+    const QList<Entier> secondsCodes = {0, 3, 5};
+    const TenuPageDePacks page(*banque_,
+                               banque_->PackService_searchByNameWithPagedResult(
+                                   session_, nom.constData(), codes.constData(), BorneHaute(codes),
+                                   secondsCodes.constData(), BorneHaute(secondsCodes), kPage, kTaillePage));
+    page.Demande(&LiaisonBanque::PagedResultPack_getRowCount); // part of the protocol, not needed here
+    QList<Pack> packs;
+    page.Donne<TenuPacks>(&LiaisonBanque::PagedResultPack_getResult)
+        .PourChacun([&](const TenuPack& tenu) { packs.append(LitPack(tenu)); }, kTaillePage);
+    return packs;
+}
+
+QString RequetesBanque::NomDCI(qint32 produit)
+{
+    const TenuNomCommun groupe(*banque_,
+                               banque_->CommonNameGroupService_searchByProductId(session_, produit));
+    if (!groupe) {
+        return {};
+    }
+    const QString nom = groupe.Texte(&LiaisonBanque::CommonNameGroup_getName).remove(u'*');
+    if (nom.isEmpty()) {
+        return QStringLiteral("");
+    }
+    QStringList noms = nom.split(u';');
+    noms.first() = common::EnCapitales(noms.first());
+    return noms.join(QStringLiteral(", "));
+}
+
+QString RequetesBanque::TypesDesDocuments(qint32 pack) const
+{
+    const TenuDocuments documents(*banque_, banque_->DocumentService_getAllDocumentForPackId(session_, pack));
+    QString types;
+    documents.PourChacun(
+        [&](const TenuDocument& document) {
+            types += u'*' + TypeDeDocument(document.Demande(&LiaisonBanque::Document_getType));
+        },
+        kDocumentsLus);
+    return types;
+}
+
+QString RequetesBanque::Monographie(qint32 pack)
+{
+    const QString types = TypesDesDocuments(pack);
+    if (!types.contains(QLatin1String("Saumon")) && !types.contains(QLatin1String("Mono"))) {
+        return {};
+    }
+    const TenuDocument document(*banque_, banque_->DocumentService_getMonoForPackId(session_, pack));
+    return document.Texte(&LiaisonBanque::Document_getURL);
+}
+
+QStringList RequetesBanque::Generiques(qint32 produit)
+{
+    QStringList rangs;
+    const TenuGroupes groupes(*banque_, banque_->GenericGroupService_searchByProductId(session_, produit));
+    groupes.PourChacun([&](const TenuGroupeDuProduit& entree) {
+        rangs.append(QString());
+        const auto groupe = entree.Donne<TenuGroupe>(&LiaisonBanque::ProductGenericGroup_getGenericGroup);
+        if (groupe) {
+            AjouteGroupe(rangs, groupe.Demande(&LiaisonBanque::GenericGroup_getId));
+        }
+    });
+    return rangs;
+}
+
+void RequetesBanque::AjouteGroupe(QStringList& rangs, qint32 groupe) const
+{
+    const TenuProduits produits(*banque_, banque_->ProductService_searchByGenericGroupId(session_, groupe));
+    produits.PourChacun([&](const TenuProduit& produit) {
+        const Entier id = produit.Demande(&LiaisonBanque::Product_getId);
+        const TenuPacks packs(*banque_, banque_->PackService_searchByProductId(session_, id));
+        packs.PourChacun([&](const TenuPack& pack) { AjoutePack(rangs, pack); });
+    });
+}
+
+QString RequetesBanque::Interactions(const QList<qint32>& produits, qint32 niveau)
+{
+    const TenuInteractions resultat(
+        *banque_, banque_->InteractionService_searchInteractionCouplesForProductIds(
+                      session_, produits.constData(), static_cast<Entier>(produits.size()), niveau));
+    return Rapport(resultat);
+}
+
+std::optional<qint32> RequetesBanque::ProduitDuCip(const QString& cip) const
+{
+    const QByteArray code = common::VersWindows1252(cip);
+    const TenuPack pack(*banque_, banque_->PackService_searchByCip(session_, code.constData()));
+    const Entier produit = pack.Demande(&LiaisonBanque::Pack_getProductId);
+    return produit == 0 ? std::nullopt : std::optional<qint32>(produit);
+}
+
+} // namespace drugbank

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "drugbank/AccesBanque.h"
+#include "drugbank/LiaisonBanque.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace drugbank {
+
+/// The 17 types of document, by `Document_getType`; an empty text for any other number.
+QString TypeDeDocument(qint32 type);
+
+/// What is asked of a session of the bank. A failed session, 0 too, is asked like any other.
+class RequetesBanque : public AccesBanque
+{
+public:
+    RequetesBanque(std::shared_ptr<const LiaisonBanque> banque, Poignee session);
+
+    QList<Pack> RecherchePacks(const QString& texte, qint32 filtre) override;
+    QString NomDCI(qint32 produit) override;
+    QString Monographie(qint32 pack) override;
+    QStringList Generiques(qint32 produit) override;
+    QString Interactions(const QList<qint32>& produits, qint32 niveau) override;
+
+    /// The product of a CIP code; nothing when the bank does not know it.
+    std::optional<qint32> ProduitDuCip(const QString& cip) const;
+
+private:
+    QString TypesDesDocuments(qint32 pack) const;
+    void AjouteGroupe(QStringList& rangs, qint32 groupe) const;
+
+    std::shared_ptr<const LiaisonBanque> banque_;
+    Poignee session_;
+};
+
+} // namespace drugbank
