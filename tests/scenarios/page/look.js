@@ -12,14 +12,14 @@ for (const nom of ["Misenpage", "CouleurPET", "Certificat"]) vider(ordo, nom);
 ajouter(ordo, "Misenpage", [1, "Courier New", 9.5, 0, 1, 0]);
 ajouter(ordo, "Misenpage", [0, "Times New Roman", 13, 1, 0, 1]);
 ajouter(ordo, "CouleurPET", [200 + 256 * 100 + 65536 * 50]);
-ajouter(ordo, "Certificat", ["DejaVu Sans", 12, 1, 0, 0]);
+ajouter(ordo, "Certificat", ["Liberation Sans Narrow", 12, 1, 0, 0]);
 ajouter(ordo, "Entete", [23, "  Docteur Anne NEIBRE ", "Arial", 10, 0, 0, 0, 0]);
 recommence();
 const police = role => ["Police", "Taille"].map(champ => valeur(champ + role))
   .concat(["Gras", "Italique", "Souligne"].map(champ => Number(valeur(champ + role))));
 egal(police("Titre"), ["Times New Roman", 13, 1, 0, 1], "les titres");
 egal(police("Poso"), ["Courier New", 9.5, 0, 1, 0], "les posologies");
-egal(police("Certif"), ["DejaVu Sans", 12, 1, 0, 0], "les certificats");
+egal(police("Certif"), ["Liberation Sans Narrow", 12, 1, 0, 0], "les certificats");
 egal(valeur("CouleurEntete"), 200 + 256 * 100 + 65536 * 50, "la couleur");
 egal(valeur("NomSignature"), "Docteur Anne NEIBRE", "la signature sans ses blancs");
 
