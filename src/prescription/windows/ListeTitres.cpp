@@ -48,28 +48,30 @@ void ListeTitres::focusInEvent(QFocusEvent* event)
 
 void ListeTitres::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::RightButton) {
-        Q_EMIT Ferme();
-        return;
-    }
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && index.isValid()) {
-        Selectionne(index.row());
+    if (Clique(*event)) {
         Q_EMIT Presse();
     }
 }
 
 void ListeTitres::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::RightButton) {
-        Q_EMIT Ferme();
-        return;
-    }
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && index.isValid()) {
-        Selectionne(index.row());
+    if (Clique(*event)) {
         Q_EMIT DoubleClic();
     }
+}
+
+bool ListeTitres::Clique(const QMouseEvent& event)
+{
+    if (event.button() == Qt::RightButton) {
+        Q_EMIT Ferme();
+        return false;
+    }
+    const QModelIndex index = indexAt(event.position().toPoint());
+    if (event.button() != Qt::LeftButton || !index.isValid()) {
+        return false;
+    }
+    Selectionne(index.row());
+    return true;
 }
 
 void ListeTitres::keyPressEvent(QKeyEvent* event)

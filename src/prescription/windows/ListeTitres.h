@@ -38,6 +38,9 @@ protected:
     bool viewportEvent(QEvent* event) override;
 
 private:
+    /// The right button closes, the left one selects the row under it: true then.
+    bool Clique(const QMouseEvent& event);
+
     QString vide_;
     bool cherchee_ = false;
 };
