@@ -95,8 +95,14 @@ QLabel* Avertissement(const QString& nomObjet, const QString& texte, QWidget* pa
 
 /// A white card with rounded corners; lay the group out in it (margins `kMargeCarte`).
 QWidget* Carte(QWidget* parent);
-/// The vertical layout of a group in its card.
-QVBoxLayout* DansCarte(QWidget* carte);
+/// The layout of a group in its card, a column unless another kind is named.
+template <typename Disposition = QVBoxLayout> Disposition* DansCarte(QWidget* carte)
+{
+    auto* disposition = new Disposition(carte);
+    disposition->setContentsMargins(kMargeCarte, kMargeCarte, kMargeCarte, kMargeCarte);
+    disposition->setSpacing(kDansGroupe);
+    return disposition;
+}
 
 /// Gives a card the colours of the main window without a doctor, or its own back. `rang` counts the cards of
 /// the window, from 0.

@@ -165,14 +165,6 @@ QWidget* Carte(QWidget* parent)
     return carte;
 }
 
-QVBoxLayout* DansCarte(QWidget* carte)
-{
-    auto* colonne = new QVBoxLayout(carte);
-    colonne->setContentsMargins(kMargeCarte, kMargeCarte, kMargeCarte, kMargeCarte);
-    colonne->setSpacing(kDansGroupe);
-    return colonne;
-}
-
 void TeinteSansMedecin(QWidget* carte, int rang, bool sansMedecin)
 {
     const QString teinte = rang == 0 ? QStringLiteral("aucun") : QStringLiteral("aucunAutre");

@@ -28,15 +28,6 @@ namespace {
 constexpr std::array<const char16_t*, kMacros.size()> kLegendes = {u"<&N>",  u"<&DN>", u"<D&J>",  u"<&AD>",
                                                                    u"<D&R>", u"<&EL>", u"<N&Bsp>"};
 
-QVBoxLayout* Interieur(QWidget* carte)
-{
-    auto* colonne = new QVBoxLayout(carte);
-    constexpr int kMarge = style::kMargeCarte;
-    colonne->setContentsMargins(kMarge, kMarge, kMarge, kMarge);
-    colonne->setSpacing(style::kDansGroupe);
-    return colonne;
-}
-
 QHBoxLayout* Rangee()
 {
     auto* rangee = new QHBoxLayout;
@@ -83,7 +74,7 @@ void FrmCertif::Dispose()
 QWidget* FrmCertif::FaitModeles()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Interieur(carte);
+    auto* colonne = style::DansCarte(carte);
     LstCertif_ = new patients::ListeChoix(carte);
     LstCertif_->setObjectName(QStringLiteral("LstCertif"));
     LstCertif_->setModel(&modeles_);
@@ -116,7 +107,7 @@ QWidget* FrmCertif::FaitModeles()
 QWidget* FrmCertif::FaitTexte()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Interieur(carte);
+    auto* colonne = style::DansCarte(carte);
     TxtCert_ = new ZoneTexte(carte);
     TxtCert_->setObjectName(QStringLiteral("TxtCert"));
     TxtCert_->setMinimumWidth(LargeurDuTexte(*TxtCert_));

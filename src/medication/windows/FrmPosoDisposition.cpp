@@ -20,15 +20,6 @@ constexpr int kRangQuantites = 0; // of the grid, a caption above its box
 constexpr int kRangMoments = 3;
 constexpr int kLignesTexte = 4;
 
-template <typename Disposition> Disposition* Interieur(QWidget* carte)
-{
-    auto* disposition = new Disposition(carte);
-    constexpr int kMarge = style::kMargeCarte;
-    disposition->setContentsMargins(kMarge, kMarge, kMarge, kMarge);
-    disposition->setSpacing(style::kDansGroupe);
-    return disposition;
-}
-
 } // namespace
 
 void FrmPoso::Dispose()
@@ -60,7 +51,7 @@ void FrmPoso::PlaceBoite(QGridLayout* grille, int indice, const QString& legende
 QWidget* FrmPoso::FaitChoix()
 {
     QWidget* carte = style::Carte(this);
-    auto* grille = Interieur<QGridLayout>(carte);
+    auto* grille = style::DansCarte<QGridLayout>(carte);
     grille->setHorizontalSpacing(style::kEntreGroupes);
     PlaceBoite(grille, kForme, QStringLiteral("&Forme"), kRangQuantites, 0);
     PlaceBoite(grille, kMatin, QStringLiteral("&Matin"), kRangQuantites, 4);
@@ -80,7 +71,7 @@ QWidget* FrmPoso::FaitChoix()
 QWidget* FrmPoso::FaitTexte()
 {
     QWidget* carte = style::Carte(this);
-    auto* colonne = Interieur<QVBoxLayout>(carte);
+    auto* colonne = style::DansCarte(carte);
     txtPoso_ = new ChampPosologie(carte);
     txtPoso_->setObjectName(QStringLiteral("TxtPoso"));
     txtPoso_->setMinimumHeight(kLignesTexte * txtPoso_->fontMetrics().lineSpacing());

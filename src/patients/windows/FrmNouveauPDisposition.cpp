@@ -16,15 +16,6 @@ namespace style = application::style;
 
 namespace {
 
-template <typename Disposition> Disposition* Interieur(QWidget* carte)
-{
-    auto* disposition = new Disposition(carte);
-    constexpr int kMarge = style::kMargeCarte;
-    disposition->setContentsMargins(kMarge, kMarge, kMarge, kMarge);
-    disposition->setSpacing(style::kDansGroupe);
-    return disposition;
-}
-
 QLabel* MarqueRouge(const QString& nomObjet, QWidget* parent)
 {
     QLabel* marque = style::Legende(nomObjet, QStringLiteral("*"), parent);
@@ -90,7 +81,7 @@ QBoxLayout* FrmNouveauP::FaitCivilites(QWidget* carte)
 QWidget* FrmNouveauP::FaitIdentite()
 {
     auto* carte = style::Carte(this);
-    auto* grille = Interieur<QGridLayout>(carte);
+    auto* grille = style::DansCarte<QGridLayout>(carte);
     grille->addWidget(style::Titre({}, QStringLiteral("Identité"), carte), 0, 0, 1, 4);
     grille->addLayout(FaitCivilites(carte), 1, 0, 1, 4);
     grille->addWidget(style::Legende({}, QStringLiteral("&Nom"), carte, FaitTxt(0, carte)), 2, 0);
@@ -116,7 +107,7 @@ QWidget* FrmNouveauP::FaitIdentite()
 QWidget* FrmNouveauP::FaitCoordonnees()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Interieur<QVBoxLayout>(carte);
+    auto* colonne = style::DansCarte(carte);
     txtAdrV_ = Texte(QStringLiteral("TxtAdrV"), carte);
     colonne->addWidget(style::Titre({}, QStringLiteral(" &Adresse"), carte, txtAdrV_));
     colonne->addWidget(txtAdrV_, 1);
@@ -134,7 +125,7 @@ QWidget* FrmNouveauP::FaitCoordonnees()
 QWidget* FrmNouveauP::FaitPrecautions()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Interieur<QVBoxLayout>(carte);
+    auto* colonne = style::DansCarte(carte);
     lstCi_ = new ListeChoix(carte);
     lstCi_->setObjectName(QStringLiteral("LstCi"));
     lstCi_->setModel(&precautions_);
@@ -152,7 +143,7 @@ QWidget* FrmNouveauP::FaitPrecautions()
 QWidget* FrmNouveauP::FaitNotes()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Interieur<QVBoxLayout>(carte);
+    auto* colonne = style::DansCarte(carte);
     txtAtcd_ = Texte(QStringLiteral("TxtAtcd"), carte);
     txtAdr_ = Texte(QStringLiteral("TxtAdr"), carte);
     colonne->addWidget(style::Titre({}, QStringLiteral("Antécédent&s"), carte, txtAtcd_));

@@ -23,15 +23,6 @@ constexpr int kChiffresFeuille = 6;         // of the sheet's own
 constexpr int kLignesDeLaRegle = 3;         // of text, of the rule for the dates
 constexpr size_t kPremiereMargePatient = 2; // of the boxes; those before place the prescriptions
 
-template <typename Disposition> Disposition* Interieur(QWidget* carte)
-{
-    auto* disposition = new Disposition(carte);
-    constexpr int kMarge = style::kMargeCarte;
-    disposition->setContentsMargins(kMarge, kMarge, kMarge, kMarge);
-    disposition->setSpacing(style::kDansGroupe);
-    return disposition;
-}
-
 int LargeurDeCase(const QWidget& champ, int chiffres = kChiffres)
 {
     return chiffres * champ.fontMetrics().horizontalAdvance(QLatin1Char('0'));
@@ -85,7 +76,7 @@ void FrmConfOrdo::AjouteMarge(QGridLayout* grille, size_t rang, QWidget* carte)
 QWidget* FrmConfOrdo::FaitPrescriptions()
 {
     auto* carte = style::Carte(this);
-    auto* grille = Interieur<QGridLayout>(carte);
+    auto* grille = style::DansCarte<QGridLayout>(carte);
     grille->addWidget(style::Titre({}, QStringLiteral("Prescriptions"), carte), 0, 0, 1, 2);
     CboM_ = new QComboBox(carte);
     CboM_->setObjectName(QStringLiteral("CboM"));
@@ -147,7 +138,7 @@ QBoxLayout* FrmConfOrdo::FaitTailleFeuille(QWidget* carte)
 QWidget* FrmConfOrdo::FaitPatient()
 {
     auto* carte = style::Carte(this);
-    auto* grille = Interieur<QGridLayout>(carte);
+    auto* grille = style::DansCarte<QGridLayout>(carte);
     grille->addWidget(style::Titre({}, QStringLiteral("Patient et dates"), carte), 0, 0, 1, 2);
     for (size_t rang = kPremiereMargePatient; rang < marges_.size(); ++rang) {
         AjouteMarge(grille, rang, carte);
@@ -168,7 +159,7 @@ QWidget* FrmConfOrdo::FaitPatient()
 QWidget* FrmConfOrdo::FaitPolices()
 {
     auto* carte = style::Carte(this);
-    auto* grille = Interieur<QGridLayout>(carte);
+    auto* grille = style::DansCarte<QGridLayout>(carte);
     CmdPolice_ = style::Bouton(QStringLiteral("CmdPolice"), QStringLiteral("Modi&fier la police"),
                                QStringLiteral("fonts"), carte);
     grille->addWidget(style::Titre({}, QStringLiteral("Polices"), carte), 0, 0);
@@ -196,7 +187,7 @@ QWidget* FrmConfOrdo::FaitPolices()
 QWidget* FrmConfOrdo::FaitEchantillon()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Interieur<QVBoxLayout>(carte);
+    auto* colonne = style::DansCarte(carte);
     PctMeP_ = new page::VueAjustee(QStringLiteral("PctMeP"), QStringLiteral("Exemple de prescription"), carte,
                                    page::Ajustement::Entiere);
     colonne->addWidget(style::Titre({}, QStringLiteral("Exemple"), carte));
@@ -207,7 +198,7 @@ QWidget* FrmConfOrdo::FaitEchantillon()
 QWidget* FrmConfOrdo::FaitFeuille()
 {
     auto* carte = style::Carte(this);
-    auto* colonne = Interieur<QVBoxLayout>(carte);
+    auto* colonne = style::DansCarte(carte);
     const QString titre = QStringLiteral("Feuille telle qu'elle s'imprimera");
     PctFeuille_ = new page::VueAjustee(QStringLiteral("PctFeuille"), titre, carte, page::Ajustement::Entiere);
     colonne->addWidget(style::Titre({}, titre, carte));
