@@ -101,6 +101,7 @@ void AjouteOrdonnance(Registre& registre)
     VARIABLE(Ordonnance, TitreMemo);
     VARIABLE(Ordonnance, LigneJournal);
     VARIABLE(Apercu, ModeApercu);
+    VARIABLE(Apercu, DispositionFaite);
     VARIABLE(Impression, EtatImprimante);
     VARIABLE(Impression, NbCopies);
 }
@@ -228,6 +229,12 @@ void AjouteBanque(Registre& registre)
     VARIABLE(Banque, SessionBanque);
     VARIABLE(Banque, DateExpirationBase);
     VARIABLE(Banque, ModuleAide);
+    VARIABLE(Banque, CheminBanque);
+    VARIABLE(Banque, VersionBanque);
+    VARIABLE(Banque, MessageBanque);
+    VARIABLE(Banque, RetourInitBanque);
+    VARIABLE(Banque, ChargementBanque);
+    VARIABLE(Banque, BanqueInitialisee);
 }
 
 void AjouteChoix(Registre& registre)

@@ -20,13 +20,27 @@ struct Banque
     qint32 ProduitBanque = 2;                 ///< -1 for no bank
     qint32 FiltreBanque = 64;                 ///< 64, 128 or 255
     qint32 SessionBanque = 0;
-    QString DateExpirationBase;
-    ResolutionCip ProduitDuCip;         ///< of the session in use, empty without one
-    bool ModuleAide = false;            ///< the helper library could be loaded
+    QString DateExpirationBase;   ///< "31/03/2027", of the data of the bank; empty when it gives none
+    QString CheminBanque;         ///< the bank library, as the helper told it at the start of the program
+    QString VersionBanque;        ///< of the bank library; empty before a session
+    QString MessageBanque;        ///< what the status window says
+    qint32 RetourInitBanque = 0;  ///< status of the last step of the start, 0 when all is well
+    quint8 ChargementBanque = 0;  ///< 1 when the library was there at the start of the session
+    quint8 BanqueInitialisee = 0; ///< 1 once the start has been run, whatever its outcome
+    bool SessionManquee = false;  ///< the start left no session: what is found in it says nothing
+    ResolutionCip ProduitDuCip;   ///< of the session in use, empty without one
+    bool ModuleAide = false;      ///< the helper library could be loaded
     std::shared_ptr<AccesBanque> Acces; ///< null while no bank is open: a search finds nothing
     /// Asks the helper library for a product: 0 when it is installed. Empty while no library is bound.
     std::function<qint32(qint32 produit)> VidalHelper_getVidalAPIPath;
 };
+
+/// True when what the bank does not find is not there. False without a session, and in one whose start
+/// failed: nothing could be asked then, and the doctor is to know.
+inline bool BanqueRepond(const Banque& banque)
+{
+    return banque.Acces && !banque.SessionManquee;
+}
 
 /// True when the medications come from a bank, false in the local mode.
 inline bool EnModeBanque(const Banque& banque)

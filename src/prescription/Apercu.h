@@ -9,7 +9,8 @@ struct Apercu
 {
     quint8 ModeApercu =
         0; ///< 0 a prescription, 1 a certificate, 2 back from the certificate to the medications
-    page::Dessin PctOrdo; ///< the sheet on the screen
+    quint8 DispositionFaite = 0; ///< 1 once the editor was activated with a drug bank in use
+    page::Dessin PctOrdo;        ///< the sheet on the screen
 };
 
 /// The state of printing in this run.

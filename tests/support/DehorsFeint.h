@@ -6,14 +6,49 @@
 #include "outside/Lanceur.h"
 #include "outside/Plateau.h"
 
+#include <QPointer>
+#include <algorithm>
+
 /// The outer edge for tests: everything that leaves the program is kept to be looked at.
 namespace support {
 
-/// Stands still, on 20/11/2026 unless told otherwise.
+/// Stands still, on 20/11/2026 unless told otherwise. What is to run later waits until a test lets time pass.
 struct HorlogeFixe : outside::Horloge
 {
+    struct Attente
+    {
+        qint64 Echeance;
+        QPointer<QObject> Contexte;
+        std::function<void()> Suite;
+    };
+
     QDateTime Instant{QDate(2026, 11, 20), QTime(10, 0)};
+    QList<Attente> Attentes;
+    qint64 Ecoule = 0; ///< milliseconds that have passed
+
     QDateTime Maintenant() const override { return Instant; }
+    void Dans(int ms, QObject* contexte, std::function<void()> suite) override
+    {
+        Attentes.append({Ecoule + ms, contexte, std::move(suite)});
+    }
+
+    /// Lets that many milliseconds pass: what falls due runs in its order, what it asks for besides too.
+    void Passe(int ms)
+    {
+        const qint64 fin = Ecoule + ms;
+        while (true) {
+            const auto prochaine = std::ranges::min_element(Attentes, {}, &Attente::Echeance);
+            if (prochaine == Attentes.end() || prochaine->Echeance > fin) {
+                break;
+            }
+            Ecoule = prochaine->Echeance;
+            const Attente due = Attentes.takeAt(prochaine - Attentes.begin());
+            if (due.Contexte) {
+                due.Suite();
+            }
+        }
+        Ecoule = fin;
+    }
 };
 
 struct ImprimantesFeintes : outside::Imprimantes

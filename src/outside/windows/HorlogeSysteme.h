@@ -8,6 +8,7 @@ class HorlogeSysteme : public Horloge
 {
 public:
     QDateTime Maintenant() const override;
+    void Dans(int ms, QObject* contexte, std::function<void()> suite) override;
 };
 
 } // namespace outside

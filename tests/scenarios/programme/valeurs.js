@@ -4,7 +4,7 @@ const groupes = {
     string: "Version DateExpirationBase NomSignature CheminData CheminBase CheminTravail CheminMedecin " +
         "NomMedecinSignature PatientCourant NomSeul DateNaissance AgePatient PoidsPatient PrecautionsPatient " +
         "AdressePatient BandeauALD1 BandeauALD2 DateOrdo MessagePrecautions AgeSaisi TitreMemo LigneJournal Imprimante FichierLogo " +
-        "DupliPolice DupliTexte PoliceTitre PolicePoso PoliceCertif TypeBase",
+        "DupliPolice DupliTexte PoliceTitre PolicePoso PoliceCertif TypeBase CheminBanque VersionBanque MessageBanque",
     number: "TypeStockage IndexStockage NbMedecins NumMedecin NumMedecinDefaut IndexMedecin ModePatient NbZone1 " +
         "NbZone2 NbMedZone1 NbMedZone2 ChkALD ChkDup ChkTri ChkCiv OrdoMemorisee ModeApercu EtatImprimante NbCopies " +
         "LanceDemarrage AffichePoids AfficheAge SouligneNom ReduitLancement MinimiseImpression IconeHorloge " +
@@ -16,6 +16,7 @@ const groupes = {
         "DupliGras DupliCouleur DupliX DupliY DupliActif TailleTitre GrasTitre ItaliqueTitre SouligneTitre " +
         "TaillePoso GrasPoso ItaliquePoso SoulignePoso TailleCertif GrasCertif ItaliqueCertif SouligneCertif " +
         "CouleurEntete DecalageCertif CertifALD ChargeCertif IndexCertif IdentiteCertif NiveauInteraction ProduitBanque FiltreBanque SessionBanque " +
+        "RetourInitBanque ChargementBanque BanqueInitialisee DispositionFaite " +
         "NoeudChoisi ArbreChoisi OrigineEdition ListeSource IndexEdition1 IndexEdition2",
     object: "OrdoZone1 OrdoZone2 InfoPack",
 };
