@@ -1,5 +1,6 @@
 #include "storage/Base.h"
 
+#include "storage/Completion.h"
 #include "storage/Jeu.h"
 #include "storage/Pannes.h"
 #include "storage/Schema.h"
@@ -9,6 +10,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
+#include <algorithm>
 #include <atomic>
 
 namespace storage {
@@ -32,14 +34,20 @@ QVariant Liee(const QVariant& valeur)
 
 } // namespace
 
-Base::Base(const QString& chemin, GenreBase genre)
+Base::Base(const QString& chemin, GenreBase genre, Disposition disposition)
     : chemin_(chemin), genre_(genre), connexion_(NouvelleConnexion())
 {
     VerifieFichier(chemin);
     try {
         Ouvre();
         VerifieContenu(*this);
-        CompleteIndexes(*this);
+        if (disposition == Disposition::Telle) {
+            telles_ = TablesDuFichier(*this);
+        } else {
+            CompleteDisposition(*this);
+            VerifieTables(*this);
+            CompleteIndexes(*this);
+        }
     } catch (...) {
         Ferme();
         throw;
@@ -68,6 +76,17 @@ void Base::Ferme()
     pretes_.clear();
     base_ = QSqlDatabase();
     QSqlDatabase::removeDatabase(connexion_);
+}
+
+const QList<Table>& Base::Tables() const
+{
+    return telles_ ? *telles_ : storage::Tables(genre_);
+}
+
+const Table* Base::ChercheTable(const QString& nom) const
+{
+    const auto trouvee = std::ranges::find(Tables(), nom, &Table::Nom);
+    return trouvee == Tables().end() ? nullptr : &*trouvee;
 }
 
 Jeu Base::Table(const QString& table)

@@ -1,19 +1,24 @@
 #pragma once
 
-#include "storage/Genre.h"
 #include "storage/Rangee.h"
+#include "storage/Schema.h"
 
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QStringList>
 #include <QVariantList>
 #include <functional>
+#include <optional>
 #include <unordered_map>
 
 namespace storage {
 
 class Jeu;
 struct Textes;
+
+/// What an opening makes of a file of an older layout: `Courante` completes it to the current one, `Telle`
+/// takes it as it stands.
+enum class Disposition { Courante, Telle };
 
 /// One open database file. Whatever fails throws `Erreur` with a French sentence and the file's path.
 /// SQLite with rollback journal, synchronous=FULL and a busy timeout; one thread.
@@ -23,15 +28,21 @@ public:
     /// Called with each statement before it runs; true makes it fail. For tests only.
     using Crochet = std::function<bool(const QString& instruction)>;
 
-    /// Opens an existing file and checks it: a database, ours, of this kind and version, whole.
-    /// Nothing is created and nothing is written over but indexes that are missing.
-    Base(const QString& chemin, GenreBase genre);
+    /// Opens an existing file and checks it: a database, ours, of this kind and version, whole. No file is
+    /// created. `Courante` adds what an older layout lacks (see `CompleteDisposition`) and the missing
+    /// indexes; `Telle` writes nothing.
+    Base(const QString& chemin, GenreBase genre, Disposition disposition = Disposition::Courante);
     ~Base();
     Base(const Base&) = delete;
     Base& operator=(const Base&) = delete;
 
     const QString& Chemin() const { return chemin_; }
     GenreBase Genre() const { return genre_; }
+
+    /// The tables that this opening knows: those of the current layout, or with `Telle` those of the file.
+    const QList<storage::Table>& Tables() const;
+    /// The table of that name, or null.
+    const storage::Table* ChercheTable(const QString& nom) const;
 
     /// All the rows of a table, in stored order.
     Jeu Table(const QString& table);
@@ -63,6 +74,7 @@ private:
 
     QString chemin_;
     GenreBase genre_;
+    std::optional<QList<storage::Table>> telles_; ///< the file's own tables, with `Telle`
     QString connexion_;
     QSqlDatabase base_;
     /// Statements of `Parcourt` that are not running, ready for the next time.

@@ -15,39 +15,13 @@ namespace storage {
 
 namespace {
 
-QString TypeSql(TypeColonne type)
-{
-    switch (type) {
-    case TypeColonne::Compteur:
-        return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
-    case TypeColonne::Texte:
-        return QStringLiteral("TEXT");
-    case TypeColonne::Entier:
-        return QStringLiteral("INTEGER");
-    case TypeColonne::Simple:
-        return QStringLiteral("REAL");
-    case TypeColonne::OuiNon:
-        return QStringLiteral("BOOLEAN DEFAULT 0");
-    }
-    return {};
-}
-
-QString CreateDe(const Table& table)
-{
-    QStringList colonnes;
-    for (const Colonne& colonne : table.Colonnes) {
-        colonnes.append(Cite(colonne.Nom) + u' ' + TypeSql(colonne.Type));
-    }
-    return QStringLiteral("create table %1 (%2)").arg(Cite(table.Nom), colonnes.join(QLatin1String(", ")));
-}
-
 QStringList InstructionsDe(GenreBase genre)
 {
     QStringList instructions{QStringLiteral("pragma application_id = %1").arg(MarqueApplication(genre)),
                              QStringLiteral("pragma user_version = %1").arg(kVersionSchema),
                              QStringLiteral("begin")};
     for (const Table& table : Tables(genre)) {
-        instructions.append(CreateDe(table));
+        instructions.append(CreeTableSql(table));
     }
     for (const Index& index : Indexes(genre)) {
         instructions.append(CreeIndexSql(index));

@@ -45,7 +45,7 @@ QVariant ValeurDe(TypeColonne type, const QVariant& valeur)
 } // namespace
 
 Jeu::Jeu(Base& base, const QString& table, const QString& condition, const QVariantList& valeurs)
-    : base_(&base), table_(ChercheTable(base.Genre(), table))
+    : base_(&base), table_(base.ChercheTable(table))
 {
     if (!table_) {
         throw Panne(messages::InstructionRefusee, base.Chemin());

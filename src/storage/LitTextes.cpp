@@ -23,7 +23,7 @@ constexpr char kSeparateur = 0x1E;
 /// The engine takes a quoted name that is no column for a text: only the schema tells them apart.
 bool Connait(const Base& base, const QString& table, const QString& colonne)
 {
-    const Table* connue = ChercheTable(base.Genre(), table);
+    const Table* connue = base.ChercheTable(table);
     return connue && std::ranges::find(connue->Colonnes, colonne, &Colonne::Nom) != connue->Colonnes.end();
 }
 

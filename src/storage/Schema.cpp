@@ -1,7 +1,5 @@
 #include "storage/Schema.h"
 
-#include <algorithm>
-
 namespace storage {
 
 namespace {
@@ -90,6 +88,23 @@ QList<Index> IndexesMedoc()
             IndexDe(u"VidalCIP", u"Vidal", {u"CIP"})};
 }
 
+QString TypeSql(TypeColonne type)
+{
+    switch (type) {
+    case TypeColonne::Compteur:
+        return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
+    case TypeColonne::Texte:
+        return QStringLiteral("TEXT");
+    case TypeColonne::Entier:
+        return QStringLiteral("INTEGER");
+    case TypeColonne::Simple:
+        return QStringLiteral("REAL");
+    case TypeColonne::OuiNon:
+        return QStringLiteral("BOOLEAN DEFAULT 0");
+    }
+    return {};
+}
+
 } // namespace
 
 int MarqueApplication(GenreBase genre)
@@ -104,18 +119,31 @@ const QList<Table>& Tables(GenreBase genre)
     return genre == GenreBase::Medoc ? medoc : ordo;
 }
 
-const Table* ChercheTable(GenreBase genre, const QString& nom)
-{
-    const QList<Table>& tables = Tables(genre);
-    const auto trouvee = std::ranges::find(tables, nom, &Table::Nom);
-    return trouvee == tables.end() ? nullptr : &*trouvee;
-}
-
 const QList<Index>& Indexes(GenreBase genre)
 {
     static const QList<Index> medoc = IndexesMedoc();
     static const QList<Index> ordo;
     return genre == GenreBase::Medoc ? medoc : ordo;
+}
+
+QString CreeTableSql(const Table& table)
+{
+    QStringList colonnes;
+    for (const Colonne& colonne : table.Colonnes) {
+        colonnes.append(Cite(colonne.Nom) + u' ' + TypeSql(colonne.Type));
+    }
+    return QStringLiteral("create table %1 (%2)").arg(Cite(table.Nom), colonnes.join(QLatin1String(", ")));
+}
+
+TypeColonne TypeDeclare(const QString& declaration, bool cle)
+{
+    if (declaration == QLatin1String("INTEGER")) {
+        return cle ? TypeColonne::Compteur : TypeColonne::Entier;
+    }
+    if (declaration == QLatin1String("REAL")) {
+        return TypeColonne::Simple;
+    }
+    return declaration == QLatin1String("BOOLEAN") ? TypeColonne::OuiNon : TypeColonne::Texte;
 }
 
 QString CreeIndexSql(const Index& index)

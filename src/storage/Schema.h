@@ -14,12 +14,14 @@ struct Colonne
 {
     QString Nom;
     TypeColonne Type;
+    bool operator==(const Colonne&) const = default;
 };
 
 struct Table
 {
     QString Nom;
     QList<Colonne> Colonnes;
+    bool operator==(const Table&) const = default;
 };
 
 /// What makes the selections on a table quick. No part of the format: a file without it works the same.
@@ -38,11 +40,14 @@ inline constexpr int kVersionSchema = 1;
 /// The tables of a kind of database, columns in their order. Position and order are the format.
 const QList<Table>& Tables(GenreBase genre);
 
-/// The table of that name, or null.
-const Table* ChercheTable(GenreBase genre, const QString& nom);
-
 /// The indexes of a kind of database.
 const QList<Index>& Indexes(GenreBase genre);
+
+/// The statement that creates a table.
+QString CreeTableSql(const Table& table);
+
+/// The type that a column was declared with in such a statement. Text for what we never declare.
+TypeColonne TypeDeclare(const QString& declaration, bool cle);
 
 /// The statement that creates an index where it is missing.
 QString CreeIndexSql(const Index& index);

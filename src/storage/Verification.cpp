@@ -3,12 +3,12 @@
 #include "common/Tolere.h"
 #include "storage/Base.h"
 #include "storage/Pannes.h"
-#include "storage/Schema.h"
 #include "storage/messages.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
+
+#include <algorithm>
 
 namespace storage {
 
@@ -42,8 +42,7 @@ void VerifieMarques(Base& base)
     if (marque != MarqueApplication(base.Genre())) {
         throw Panne(messages::PasUneBase, base.Chemin());
     }
-    const int version = LitTexte(base, QStringLiteral("pragma user_version")).toInt();
-    if (version > kVersionSchema) {
+    if (VersionDuFichier(base) > kVersionSchema) {
         throw Panne(messages::BaseTropRecente, base.Chemin());
     }
 }
@@ -55,25 +54,6 @@ void VerifieTaille(Base& base)
     const qint64 taille = LitTexte(base, QStringLiteral("pragma page_size")).toLongLong();
     if (QFileInfo(base.Chemin()).size() < pages * taille) {
         throw Panne(messages::BaseEndommagee, base.Chemin());
-    }
-}
-
-void VerifieTables(Base& base)
-{
-    QHash<QString, QStringList> colonnes;
-    const auto lit = [&](const Rangee& rangee) { colonnes[rangee.Texte(0)].append(rangee.Texte(1)); };
-    base.Parcourt(
-        QStringLiteral("select t.name, c.name from sqlite_master t join pragma_table_info(t.name) c "
-                       "where t.type = 'table' order by t.name, c.cid"),
-        {}, lit);
-    for (const Table& table : Tables(base.Genre())) {
-        QStringList attendues;
-        for (const Colonne& colonne : table.Colonnes) {
-            attendues.append(colonne.Nom);
-        }
-        if (colonnes.value(table.Nom) != attendues) {
-            throw Panne(messages::BaseEndommagee, base.Chemin());
-        }
     }
 }
 
@@ -99,10 +79,46 @@ void VerifieContenu(Base& base)
 {
     VerifieMarques(base);
     VerifieTaille(base);
-    VerifieTables(base);
     const bool verifiable = QFileInfo(base.Chemin()).size() <= kTailleVerifiee;
     if (verifiable && LitTexte(base, QStringLiteral("pragma quick_check(1)")) != QLatin1String("ok")) {
         throw Panne(messages::BaseEndommagee, base.Chemin());
+    }
+}
+
+int VersionDuFichier(Base& base)
+{
+    return LitTexte(base, QStringLiteral("pragma user_version")).toInt();
+}
+
+QList<Table> TablesDuFichier(Base& base)
+{
+    QList<Table> tables;
+    const auto lit = [&](const Rangee& rangee) {
+        if (tables.isEmpty() || tables.last().Nom != rangee.Texte(0)) {
+            tables.append(Table{rangee.Texte(0), {}});
+        }
+        const TypeColonne type = TypeDeclare(rangee.Texte(2), rangee.Entier(3) != 0);
+        tables.last().Colonnes.append({rangee.Texte(1), type});
+    };
+    base.Parcourt(
+        QStringLiteral("select t.name, c.name, c.type, c.pk "
+                       "from sqlite_master t join pragma_table_info(t.name) c "
+                       "where t.type = 'table' and t.name not like 'sqlite_%' order by t.rowid, c.cid"),
+        {}, lit);
+    return tables;
+}
+
+void VerifieTables(Base& base)
+{
+    const QList<Table> presentes = TablesDuFichier(base);
+    for (const Table& table : Tables(base.Genre())) {
+        const auto presente = std::ranges::find(presentes, table.Nom, &Table::Nom);
+        const bool pareille =
+            presente != presentes.end() &&
+            std::ranges::equal(presente->Colonnes, table.Colonnes, {}, &Colonne::Nom, &Colonne::Nom);
+        if (!pareille) {
+            throw Panne(messages::BaseEndommagee, base.Chemin());
+        }
     }
 }
 

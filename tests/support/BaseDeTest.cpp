@@ -24,7 +24,7 @@ void AjouteLigne(storage::Base& base, const QString& table, const QVariantList& 
 
 QStringList Lignes(storage::Base& base, const QString& table)
 {
-    const qsizetype colonnes = storage::ChercheTable(base.Genre(), table)->Colonnes.size();
+    const qsizetype colonnes = base.ChercheTable(table)->Colonnes.size();
     QStringList lignes;
     for (storage::Jeu jeu = base.Table(table); !jeu.Fin(); jeu.MoveNext()) {
         QStringList champs;
