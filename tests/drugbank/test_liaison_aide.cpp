@@ -1,5 +1,7 @@
+#include "drugbank/BanqueDeTest.h"
 #include "drugbank/LiaisonAide.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 class TestLiaisonAide : public QObject
@@ -10,29 +12,40 @@ private Q_SLOTS:
     void donneLeChemin();
     void autreProduit();
     void absente();
+
+private:
+    QTemporaryDir dossier_;
+    support::BanqueDeTest banque_{dossier_.path()};
 };
 
 void TestLiaisonAide::donneLeChemin()
 {
-    const drugbank::LiaisonAide aide(QStringLiteral(CHEMIN_AIDE_ESSAI));
+    QVERIFY(banque_.Pose({}));
+    const drugbank::LiaisonAide aide(banque_.CheminAide());
     QVERIFY(aide.Chargee());
     QString chemin;
     QCOMPARE(aide.CheminDeBanque(2, chemin), 0);
-    QCOMPARE(chemin, QStringLiteral("/banque/api"));
-    QCOMPARE(aide.CheminDeBanque(3, chemin), 0);
-    QCOMPARE(chemin, QString(255, u'x'));
+    QCOMPARE(chemin, banque_.CheminBanque());
+    QVERIFY(banque_.Pose({}));
+    QCOMPARE(aide.CheminDeBanque(1, chemin), 0);
+    QCOMPARE(chemin, banque_.CheminBanque());
+    QCOMPARE(banque_.Appels().last().toObject().value(QLatin1String("arguments")).toArray(),
+             QJsonArray({1, QJsonValue::Null, 255}));
 }
 
 void TestLiaisonAide::autreProduit()
 {
-    const drugbank::LiaisonAide aide(QStringLiteral(CHEMIN_AIDE_ESSAI));
+    QVERIFY(banque_.Pose({{QStringLiteral("produits"), QJsonObject{{QStringLiteral("2"), true}}}}));
+    const drugbank::LiaisonAide aide(banque_.CheminAide());
     QString chemin;
-    QCOMPARE(aide.CheminDeBanque(1, chemin), 5);
+    QVERIFY(aide.CheminDeBanque(1, chemin) != 0);
+    QCOMPARE(aide.CheminDeBanque(2, chemin), 0);
 }
 
 void TestLiaisonAide::absente()
 {
-    const drugbank::LiaisonAide aide(QStringLiteral("/nulle/part"));
+    QVERIFY(banque_.Pose({{QStringLiteral("aide"), false}}));
+    const drugbank::LiaisonAide aide(banque_.CheminAide());
     QVERIFY(!aide.Chargee());
     QString chemin;
     QVERIFY(aide.CheminDeBanque(2, chemin) != 0);

@@ -1,7 +1,8 @@
+#include "drugbank/BanqueDeTest.h"
 #include "drugbank/Rapport.h"
 #include "drugbank/RequetesBanque.h"
 
-#include <QFile>
+#include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -11,35 +12,33 @@ namespace {
 
 constexpr Poignee kSession = 77;
 
-/// A bank described in JSON, in one of both builds of the test library.
+/// A bank whose services answer by JSON, key by key; `champs` are further fields of its description.
 class Poste
 {
 public:
-    explicit Poste(const QByteArray& json, const char* chemin = CHEMIN_BANQUE_ESSAI)
-        : Banque(std::make_shared<LiaisonBanque>(QString::fromUtf8(chemin))),
-          Bibliotheque(QString::fromUtf8(chemin)), Requetes(Banque, kSession)
+    explicit Poste(const QByteArray& reponses, QJsonObject champs = {})
     {
-        QFile fichier(dossier_.filePath(QStringLiteral("banque.json")));
-        if (!fichier.open(QIODevice::WriteOnly) || fichier.write(json) != json.size()) {
-            qFatal("banque.json");
+        champs[QStringLiteral("reponses")] = QJsonDocument::fromJson(reponses).object();
+        if (!banque_.Pose(champs)) {
+            qFatal("no bank");
         }
-        qputenv("SCRIPTELLE_BANQUE_ESSAI", fichier.fileName().toUtf8());
-        reinterpret_cast<void (*)()>(Bibliotheque.resolve("Essai_remetAZero"))();
+        Banque = std::make_shared<LiaisonBanque>(banque_.CheminBanque());
+        Requetes = std::make_unique<RequetesBanque>(Banque, kSession);
     }
 
-    QByteArray Journal()
-    {
-        return reinterpret_cast<const char* (*)()>(Bibliotheque.resolve("Essai_journal"))();
-    }
+    QJsonArray Appels() { return banque_.Appels(); }
+    /// The arguments of the first call.
+    QJsonArray Arguments() { return Appels().first().toObject().value(QLatin1String("arguments")).toArray(); }
     /// Handles that nobody released.
-    int Ouverts() { return reinterpret_cast<int (*)()>(Bibliotheque.resolve("Essai_ouverts"))(); }
-
-    std::shared_ptr<LiaisonBanque> Banque;
-    QLibrary Bibliotheque;
-    RequetesBanque Requetes;
+    qsizetype Ouverts() { return banque_.Fuites().size(); }
 
 private:
     QTemporaryDir dossier_;
+    support::BanqueDeTest banque_{dossier_.path()};
+
+public:
+    std::shared_ptr<LiaisonBanque> Banque;
+    std::unique_ptr<RequetesBanque> Requetes;
 };
 
 constexpr auto kCouple = R"({"interactions":{"11,22,2":{"couples":[{"gravite":%1,"a":{"nom":"ASPIRINE"},)"
@@ -84,7 +83,7 @@ void TestRequetesBanque::recherchePacks()
 {
     Poste poste(R"({"recherche":{"dol":{"packs":[
         {"cip":"0034","nom":"DOLIPRANE \u009cdème","id":5,"produit":101,"prix":2.18},{"cip":"35","nom":"DOL"}]}}})");
-    const QList<Pack> packs = poste.Requetes.RecherchePacks(QStringLiteral("dol"), 64);
+    const QList<Pack> packs = poste.Requetes->RecherchePacks(QStringLiteral("dol"), 64);
     QCOMPARE(packs.size(), 2);
     QCOMPARE(packs[0].Cip, QStringLiteral("0034"));
     QCOMPARE(packs[0].Nom, QStringLiteral("DOLIPRANE œdème"));
@@ -92,22 +91,25 @@ void TestRequetesBanque::recherchePacks()
     QCOMPARE(packs[0].Produit, 101);
     QCOMPARE(packs[0].Prix, 2.18f);
     QCOMPARE(packs[1].Prix, 0.0f);
-    QCOMPARE(poste.Journal(), QByteArray("77 0,6,0, 0,3,5, 1 50\nrecherche dol\n"));
+    QCOMPARE(poste.Arguments(), QJsonArray({kSession, QStringLiteral("dol"), QJsonArray({0, 6, 0}), 2,
+                                            QJsonArray({0, 3, 5}), 2, 1, 50}));
     QCOMPARE(poste.Ouverts(), 0);
 }
 
 void TestRequetesBanque::lesCodesSuiventLeFiltre()
 {
     Poste poste("{}");
-    QVERIFY(poste.Requetes.RecherchePacks(QStringLiteral("é\u0416"), 128).isEmpty());
-    QCOMPARE(poste.Journal(), QByteArray("77 1,3,4,5,6,7, 0,3,5, 1 50\nrecherche \xE9?\n"));
-    poste.Requetes.RecherchePacks(QStringLiteral("a"), 255);
-    QVERIFY(poste.Journal().contains("77 0,1,3,4,5,6,7, 0,3,5, 1 50\n"));
+    QVERIFY(poste.Requetes->RecherchePacks(QStringLiteral("é\u0416"), 128).isEmpty());
+    QCOMPARE(poste.Arguments().at(1), QJsonValue(QStringLiteral("é?")));
+    QCOMPARE(poste.Arguments().at(2), QJsonValue(QJsonArray({1, 3, 4, 5, 6, 7})));
+    Poste tout("{}");
+    tout.Requetes->RecherchePacks(QStringLiteral("a"), 255);
+    QCOMPARE(tout.Arguments().at(2), QJsonValue(QJsonArray({0, 1, 3, 4, 5, 6, 7})));
 }
 
 void TestRequetesBanque::sansCopieBornee()
 {
-    Poste poste(R"({"cip":{"34":{"nom":"X"}}})", CHEMIN_BANQUE_ANCIENNE);
+    Poste poste(R"({"cip":{"34":{"nom":"X"}}})", {{QStringLiteral("copieBornee"), false}});
     QVERIFY(!poste.Banque->CopyStringN2.Existe());
     QCOMPARE(LitChaineBanque(*poste.Banque, "abc"), QString(QLatin1String("abc\0", 4)));
     QCOMPARE(LitTexte(*poste.Banque, "abc"), QStringLiteral("abc"));
@@ -117,9 +119,9 @@ void TestRequetesBanque::sansCopieBornee()
 void TestRequetesBanque::nomDCI()
 {
     Poste poste(R"({"dci":{"1":{"nom":"paracétamol*;codéine"},"2":{"nom":""}}})");
-    QCOMPARE(poste.Requetes.NomDCI(1), QStringLiteral("PARACÉTAMOL, codéine"));
-    QVERIFY(poste.Requetes.NomDCI(2).isEmpty() && !poste.Requetes.NomDCI(2).isNull());
-    QVERIFY(poste.Requetes.NomDCI(3).isNull());
+    QCOMPARE(poste.Requetes->NomDCI(1), QStringLiteral("PARACÉTAMOL, codéine"));
+    QVERIFY(poste.Requetes->NomDCI(2).isEmpty() && !poste.Requetes->NomDCI(2).isNull());
+    QVERIFY(poste.Requetes->NomDCI(3).isNull());
     QCOMPARE(poste.Ouverts(), 0);
 }
 
@@ -131,10 +133,10 @@ void TestRequetesBanque::monographie()
         dixHuit += R"({"type":6},)";
     }
     Poste poste(dixHuit + R"({"type":0}]},"mono":{"1":{"url":"u1"},"2":{"url":"u2"},"3":{"url":"u3"}}})");
-    QCOMPARE(poste.Requetes.Monographie(1), QStringLiteral("u1"));
-    QCOMPARE(poste.Requetes.Monographie(2), QString());
-    QCOMPARE(poste.Requetes.Monographie(3), QString());
-    QCOMPARE(poste.Requetes.Monographie(4), QString());
+    QCOMPARE(poste.Requetes->Monographie(1), QStringLiteral("u1"));
+    QCOMPARE(poste.Requetes->Monographie(2), QString());
+    QCOMPARE(poste.Requetes->Monographie(3), QString());
+    QCOMPARE(poste.Requetes->Monographie(4), QString());
     QCOMPARE(poste.Ouverts(), 0);
 }
 
@@ -142,17 +144,17 @@ void TestRequetesBanque::generiques()
 {
     Poste poste(R"({"groupes":{"1":[{"groupe":{"id":9}},{"groupe":{"id":8}}]},"produits":{"9":[{"id":4}]},
         "packs":{"4":[{"nom":"A","prix":2.5},{"nom":"B","prix":0}]}})");
-    QCOMPARE(poste.Requetes.Generiques(1),
+    QCOMPARE(poste.Requetes->Generiques(1),
              QStringList({QString(), QStringLiteral("  A          2.5  €"), QString()}));
-    QCOMPARE(poste.Requetes.Generiques(2), QStringList());
+    QCOMPARE(poste.Requetes->Generiques(2), QStringList());
     QCOMPARE(poste.Ouverts(), 0);
 }
 
 void TestRequetesBanque::produitDuCip()
 {
     Poste poste(R"({"cip":{"34":{"produit":12}}})");
-    QCOMPARE(poste.Requetes.ProduitDuCip(QStringLiteral("34")), std::optional<qint32>(12));
-    QVERIFY(!poste.Requetes.ProduitDuCip(QStringLiteral("35")));
+    QCOMPARE(poste.Requetes->ProduitDuCip(QStringLiteral("34")), std::optional<qint32>(12));
+    QVERIFY(!poste.Requetes->ProduitDuCip(QStringLiteral("35")));
     QCOMPARE(poste.Ouverts(), 0);
 }
 
@@ -165,7 +167,7 @@ void TestRequetesBanque::rapportDUnCouple()
     const QString fin =
         QStringLiteral("\r\n\r\n<<<<<  ") + QString(106, u'-') + QStringLiteral("  >>>>>\r\n\r\n\r\n");
     Poste poste(Couple(QStringLiteral("3"), QStringLiteral("Suivre.\\nBien")));
-    QCOMPARE(poste.Requetes.Interactions({11, 22}, 2),
+    QCOMPARE(poste.Requetes->Interactions({11, 22}, 2),
              debut +
                  QStringLiteral("Niveau d'interaction :  Association contre-indiquée\r\n"
                                 "----------------------------\r\n\r\n") +
@@ -174,7 +176,7 @@ void TestRequetesBanque::rapportDUnCouple()
                                 "-----------------------------------------------\r\nSuivre.\r\n\r\nBien") +
                  fin);
     QCOMPARE(poste.Ouverts(), 0);
-    QCOMPARE(Poste(Couple(QStringLiteral("7"), QString())).Requetes.Interactions({11, 22}, 2),
+    QCOMPARE(Poste(Couple(QStringLiteral("7"), QString())).Requetes->Interactions({11, 22}, 2),
              debut + QStringLiteral("Niveau d'interaction : - \r\n\r\n") + risque + fin);
 }
 
@@ -182,7 +184,7 @@ void TestRequetesBanque::produitsInconnus()
 {
     Poste poste(R"({"interactions":{"0,0":{"couples":[],"inconnus":[{"nom":"X"},{"nom":"Y"}]}}})");
     const QString un = QStringLiteral("unknown product interactions:\r\n\r\n product name: ");
-    QCOMPARE(poste.Requetes.Interactions({0}, 0),
+    QCOMPARE(poste.Requetes->Interactions({0}, 0),
              un + QStringLiteral("X\r\n") + un + QStringLiteral("Y\r\n"));
     QCOMPARE(poste.Ouverts(), 0);
 }
@@ -203,9 +205,9 @@ void TestRequetesBanque::reponsesAbsurdes()
 {
     Poste poste(R"({"recherche":{"a":{"packs":{"count":-1}},"b":{"packs":{"count":2147483647}},
         "c":{"packs":[null,{"nom":null,"cip":"\u0081"}]}}})");
-    QVERIFY(poste.Requetes.RecherchePacks(QStringLiteral("a"), 0).isEmpty());
-    QVERIFY(poste.Requetes.RecherchePacks(QStringLiteral("b"), 0).isEmpty());
-    const QList<Pack> packs = poste.Requetes.RecherchePacks(QStringLiteral("c"), 0);
+    QVERIFY(poste.Requetes->RecherchePacks(QStringLiteral("a"), 0).isEmpty());
+    QVERIFY(poste.Requetes->RecherchePacks(QStringLiteral("b"), 0).isEmpty());
+    const QList<Pack> packs = poste.Requetes->RecherchePacks(QStringLiteral("c"), 0);
     QCOMPARE(packs.size(), 1);
     QVERIFY(packs[0].Nom.isEmpty());
     QCOMPARE(packs[0].Cip, QStringLiteral("\u0081"));
