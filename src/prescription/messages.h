@@ -170,4 +170,26 @@ inline QString AideSuppression()
                           "liste, et taper sur la touche 'Suppr' du clavier.");
 }
 
+inline QString TitreOuvreJournal()
+{
+    return QStringLiteral("Chemin du Fichier Journal");
+}
+
+inline QString FiltreJournal()
+{
+    return QStringLiteral("Journaux (*.log)|*.log");
+}
+
+inline QString JournalLu(int nombre)
+{
+    return nombre == 0   ? QStringLiteral("Ce journal est vide")
+           : nombre == 1 ? QStringLiteral("Une ligne")
+                         : QStringLiteral("%L1 lignes").arg(nombre);
+}
+
+inline QString JournalLuEnPartie(int nombre)
+{
+    return QStringLiteral("Ce fichier n'a pas pu être lu en entier : ") + JournalLu(nombre).toLower();
+}
+
 } // namespace prescription::messages

@@ -3,11 +3,8 @@
 #include "common/Fichiers.h"
 #include "outside/Boites.h"
 #include "outside/Lanceur.h"
-#include "prescription/Journal.h"
 #include "startup/Chemins.h"
 #include "startup/Demarrage.h"
-#include "startup/GestionMedecins.h"
-#include "startup/Medecins.h"
 #include "startup/messages.h"
 
 namespace startup {
@@ -40,20 +37,6 @@ void OuvreAide(application::Contexte& contexte)
 void OuvreNouvelleAide(application::Contexte& contexte)
 {
     OuvreDuProgramme(contexte, QStringLiteral("Aide.pdf"));
-}
-
-void OuvreJournal(application::Contexte& contexte)
-{
-    if (!ExigeMedecin(contexte)) {
-        return;
-    }
-    const QString journal =
-        prescription::CheminJournal(contexte.Chemins.CheminMedecin, contexte.Medecins.NomMedecinSignature);
-    if (common::FichierExiste(journal)) {
-        Ouvre(contexte, journal);
-    } else {
-        contexte.Dehors.Boites.Information(messages::JournalVide());
-    }
 }
 
 void EcritUnMessage(application::Contexte& contexte)

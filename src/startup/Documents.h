@@ -8,8 +8,6 @@ namespace startup {
 void OuvreAide(application::Contexte& contexte);
 /// The same for "Aide.pdf".
 void OuvreNouvelleAide(application::Contexte& contexte);
-/// Opens the journal of the current doctor; says when there is no doctor or nothing in it yet.
-void OuvreJournal(application::Contexte& contexte);
 /// Begins a message about this version in the user's own mail program; says when there is none.
 void EcritUnMessage(application::Contexte& contexte);
 

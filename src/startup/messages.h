@@ -323,11 +323,6 @@ inline QString CourrierSansProgramme()
     return QStringLiteral("Aucun programme de courrier n'est réglé sur cet ordinateur.");
 }
 
-inline QString JournalVide()
-{
-    return QStringLiteral("Aucune ordonnance n'est encore inscrite dans le journal.");
-}
-
 inline QString AideDesMedecins()
 {
     return QStringLiteral(

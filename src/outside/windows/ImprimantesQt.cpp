@@ -1,12 +1,11 @@
 #include "outside/windows/ImprimantesQt.h"
 
+#include "application/windows/Sablier.h"
 #include "common/Erreur.h"
 #include "outside/TravailPdf.h"
 #include "outside/messages.h"
 #include "page/Rejeu.h"
 
-#include <QCursor>
-#include <QGuiApplication>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrinter>
@@ -29,14 +28,6 @@ void Prepare(QPrinter& imprimante, const QString& titre)
     imprimante.setPageMargins(QMarginsF(), QPageLayout::Millimeter);
     imprimante.setDuplex(QPrinter::DuplexNone);
 }
-
-/// The busy pointer as long as it lives.
-struct Sablier
-{
-    Sablier() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Sablier() { QGuiApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(Sablier)
-};
 
 /// The origin of full page stands on the sheet's corner, whatever the printer cannot reach.
 void RejoueSur(QPrinter& imprimante, const Travail& travail)
@@ -83,7 +74,7 @@ void ImprimantesQt::Imprime(const QString& nom, const Travail& travail)
     if (info.isNull()) {
         throw common::Erreur(messages::ImprimanteAbsente(nom), nom);
     }
-    const Sablier sablier;
+    const application::Sablier sablier;
     QPrinter imprimante(info, QPrinter::HighResolution);
     Prepare(imprimante, travail.Titre);
     RejoueSur(imprimante, travail);

@@ -1,5 +1,6 @@
 #include "settings/windows/FrmOptions.h"
 
+#include "application/windows/Sablier.h"
 #include "application/windows/Style.h"
 #include "common/Erreur.h"
 #include "common/Tolere.h"
@@ -18,7 +19,6 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -219,14 +219,13 @@ void FrmOptions::Enregistre()
         Refuse(*refus);
         return;
     }
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     QString panne;
     try {
+        const application::Sablier sablier;
         EnregistreOptions(contexte_, saisie);
     } catch (const common::Erreur& erreur) {
         panne = erreur.Phrase();
     }
-    QGuiApplication::restoreOverrideCursor();
     if (panne.isEmpty()) {
         Termine();
     } else {

@@ -1,6 +1,7 @@
 #include "application/Signaux.h"
 #include "medication/windows/FrmMedoc.h"
 #include "prescription/Editeur.h"
+#include "prescription/windows/FrmJournal.h"
 #include "prescription/windows/FrmOrdo.h"
 #include "settings/EntetePropose.h"
 #include "settings/windows/FrmOptions.h"
@@ -68,7 +69,7 @@ void FrmDepart::BrancheMenus()
     };
     suit(menus_.mnuLogo, [this] { OuvreOptionsDuMedecin(kLogo); });
     suit(menus_.mnuBase, [this] { OuvreOptionsDuMedecin(kPharmacies); });
-    suit(menus_.mnuJournal, [this] { OuvreJournal(contexte_); });
+    suit(menus_.mnuJournal, [this] { fenetres_.OuvreModale<prescription::FrmJournal>(); });
     suit(menus_.mnuAideOld, [this] { OuvreAide(contexte_); });
     suit(menus_.mnuAideNew, [this] { OuvreNouvelleAide(contexte_); });
     suit(menus_.mnuAideOldIT, [this] { OuvreAide(contexte_); });

@@ -1,5 +1,5 @@
 #include "medication/windows/FrmMedoc.h"
-#include "prescription/Journal.h"
+#include "prescription/windows/FrmJournal.h"
 #include "prescription/windows/FrmOrdo.h"
 #include "settings/FichiersReglages.h"
 #include "settings/windows/FrmOptions.h"
@@ -227,16 +227,17 @@ private Q_SLOTS:
     {
         ProgrammeDeTest programme;
         startup::FrmDepart& depart = programme.Installe();
-        const application::Contexte& contexte = programme.Contexte();
         programme.Contexte().Reglages.Options.TenirJournal = 1;
         Q_EMIT programme.Contexte().Signaux.ReglagesChanges();
-        programme.Boites.AttendInformation(startup::messages::JournalVide());
+        bool ouverte = false;
+        QTimer::singleShot(0, &depart, [&] {
+            auto& journal = programme.Fenetres().Donne<prescription::FrmJournal>();
+            ouverte = journal.isVisible() && journal.isModal();
+            QTest::keyClick(&journal, Qt::Key_Escape);
+        });
         Entree(depart, "mnuJournal")->trigger();
-        const QString journal = prescription::CheminJournal(contexte.Chemins.CheminMedecin,
-                                                            contexte.Medecins.NomMedecinSignature);
-        prescription::TientJournal(journal, QStringLiteral("une ligne"));
-        Entree(depart, "mnuJournal")->trigger();
-        QCOMPARE(programme.Lanceur.Documents, QStringList{journal});
+        QVERIFY(ouverte);
+        QVERIFY(!programme.Fenetres().Presente<prescription::FrmJournal>());
     }
 
     void TheTrayOpensTheOptions()
