@@ -247,6 +247,7 @@ void AjouteChoix(Registre& registre)
     VARIABLE(Choix, IndexEdition2);
     VARIABLE(Choix, IdentifiantRepris);
     VARIABLE(Choix, InfoPack);
+    VARIABLE(Choix, AdresseWB);
     VARIABLE(Choix, BaseChangee);
     VARIABLE(Choix, DernierCboP);
     VARIABLE(Choix, TexteQuantite);

@@ -16,6 +16,14 @@ struct Pack
     QString Nom;
 };
 
+/// A document that a bank has on a pack.
+struct Document
+{
+    qint32 Id = 0;
+    QString Nom;
+    QString Type; ///< one of the 17 types, empty for another
+};
+
 /// What is asked of an open drug bank.
 class AccesBanque
 {
@@ -28,6 +36,8 @@ public:
     /// The common names of a product, the first in capitals, with ", " between; a null text when the bank
     /// has none, an empty one when it gives no name.
     virtual QString NomDCI(qint32 produit) = 0;
+    /// The documents on a pack, the first 17 of them.
+    virtual QList<Document> Documents(qint32 pack) = 0;
     /// The address of the monograph of a pack; empty when it has none.
     virtual QString Monographie(qint32 pack) = 0;
     /// The rows of `LstGen`: an empty one for each generic group of the product, and behind it the packs

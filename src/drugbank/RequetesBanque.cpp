@@ -54,6 +54,15 @@ Pack LitPack(const TenuPack& tenu)
     return pack;
 }
 
+Document LitDocument(const TenuDocument& tenu)
+{
+    Document document;
+    document.Id = tenu.Demande(&LiaisonBanque::Document_getId);
+    document.Nom = tenu.Texte(&LiaisonBanque::Document_getName);
+    document.Type = TypeDeDocument(tenu.Demande(&LiaisonBanque::Document_getType));
+    return document;
+}
+
 /// A row of `LstGen`, nothing for a pack without a price.
 void AjoutePack(QStringList& rangs, const TenuPack& tenu)
 {
@@ -109,25 +118,26 @@ QString RequetesBanque::NomDCI(qint32 produit)
     return noms.join(QStringLiteral(", "));
 }
 
-QString RequetesBanque::TypesDesDocuments(qint32 pack) const
+QList<Document> RequetesBanque::Documents(qint32 pack)
 {
-    const TenuDocuments documents(*banque_, banque_->DocumentService_getAllDocumentForPackId(session_, pack));
-    QString types;
-    documents.PourChacun(
-        [&](const TenuDocument& document) {
-            types += u'*' + TypeDeDocument(document.Demande(&LiaisonBanque::Document_getType));
-        },
-        kDocumentsLus);
-    return types;
+    const TenuDocuments tenus(*banque_, banque_->DocumentService_getAllDocumentForPackId(session_, pack));
+    QList<Document> documents;
+    tenus.PourChacun([&](const TenuDocument& tenu) { documents.append(LitDocument(tenu)); }, kDocumentsLus);
+    return documents;
 }
 
 QString RequetesBanque::Monographie(qint32 pack)
 {
-    const QString types = TypesDesDocuments(pack);
+    QString types;
+    for (const Document& document : Documents(pack)) {
+        types += u'*' + document.Type;
+    }
     if (!types.contains(QLatin1String("Saumon")) && !types.contains(QLatin1String("Mono"))) {
         return {};
     }
     const TenuDocument document(*banque_, banque_->DocumentService_getMonoForPackId(session_, pack));
+    document.Demande(&LiaisonBanque::Document_getId); // part of the protocol, not needed here
+    document.Texte(&LiaisonBanque::Document_getName);
     return document.Texte(&LiaisonBanque::Document_getURL);
 }
 

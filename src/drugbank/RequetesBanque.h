@@ -20,6 +20,7 @@ public:
 
     QList<Pack> RecherchePacks(const QString& texte, qint32 filtre) override;
     QString NomDCI(qint32 produit) override;
+    QList<Document> Documents(qint32 pack) override;
     QString Monographie(qint32 pack) override;
     QStringList Generiques(qint32 produit) override;
     QString Interactions(const QList<qint32>& produits, qint32 niveau) override;
@@ -28,7 +29,6 @@ public:
     std::optional<qint32> ProduitDuCip(const QString& cip) const;
 
 private:
-    QString TypesDesDocuments(qint32 pack) const;
     void AjouteGroupe(QStringList& rangs, qint32 groupe) const;
 
     std::shared_ptr<const LiaisonBanque> banque_;

@@ -25,6 +25,7 @@ struct Choix
     QStringList InfoPack;      ///< CIP, pack id, product id, price of the pack last clicked
     Noeud NoeudLu;             ///< what the last click read; an empty tag for none
     quint8 ChkDCI = 0;         ///< 1: a pack is prescribed by its common name
+    QString AdresseWB;         ///< what the view of documents shows; "about:blank" for nothing
     QString TypeBaseArbre;     ///< `TypeBase` when the tree was last filled
     quint8 BaseChangee = 0;    ///< 0 or 1: the tree is to be filled again; 2: it is filled
     qint16 DernierCboP = 0;    ///< the box of `FrmPoso` that last changed

@@ -84,11 +84,20 @@ QList<Noeud> PharmacieBanque::Packs(const QString& recherche)
 
 QString PharmacieBanque::NomDuPack(const Noeud& noeud) const
 {
-    QString nom;
-    if (contexte_.Choix.ChkDCI == 1 && contexte_.Banque.Acces) {
-        nom = contexte_.Banque.Acces->NomDCI(InfoPack(noeud).value(2).toInt());
-    }
+    const QString nom = contexte_.Choix.ChkDCI == 1 ? NomDCI(noeud) : QString();
     return nom.isEmpty() ? noeud.Texte.trimmed() : nom;
+}
+
+QString PharmacieBanque::NomDCI(const Noeud& noeud) const
+{
+    if (!contexte_.Banque.Acces) {
+        return {};
+    }
+    const QString nom = contexte_.Banque.Acces->NomDCI(InfoPack(noeud).value(2).toInt());
+    if (nom.isNull()) {
+        contexte_.Dehors.Boites.Information(messages::SansDCI());
+    }
+    return nom;
 }
 
 std::optional<Saisie> PharmacieBanque::Lit(const Noeud& noeud)

@@ -44,7 +44,9 @@ private:
     storage::Base& Medoc();
     QList<Noeud> Personnels();
     QList<Noeud> Packs(const QString& recherche);
+    /// The common name when it is asked for and there is one, else the name of the pack.
     QString NomDuPack(const Noeud& noeud) const;
+    QString NomDCI(const Noeud& noeud) const;
     void EnregistrePersonnel(Noeud& noeud, const Saisie& saisie, outside::Boites& boites);
 
     application::Contexte& contexte_;

@@ -73,6 +73,22 @@ inline QString MemesAstuces()
         "Les astuces de formatage de textes sont les mêmes que pour les médicaments chosis.");
 }
 
+inline QString SansDCI()
+{
+    return QStringLiteral("Ce produit n'a pas de DCI.");
+}
+
+inline QString SansDocumentListe()
+{
+    return QStringLiteral("La banque n'a aucun document pour ce médicament.");
+}
+
+inline QString BanqueFermee()
+{
+    return QStringLiteral(
+        "La banque de médicaments n'est pas ouverte : aucun document ne peut lui être demandé.");
+}
+
 inline QString Demarque(const QString& texte)
 {
     return QStringLiteral("Marquer ") + texte + QStringLiteral(" comme utilisation non fréquente ?");

@@ -9,10 +9,12 @@ class BanqueFeinte : public drugbank::AccesBanque
 {
 public:
     QList<drugbank::Pack> Contenu;
-    QHash<qint32, QString> Monographies;        ///< by pack
-    QHash<qint32, QStringList> RangsGeneriques; ///< by product
-    QHash<QList<qint32>, QString> Rapports;     ///< by the products in question
-    QStringList Demandes;                       ///< text and filter of each search
+    QHash<qint32, QString> NomsCommuns{{101, QStringLiteral("PARACETAMOL")}, {103, QStringLiteral("")}};
+    QHash<qint32, QString> Monographies;                     ///< by pack
+    QHash<qint32, QList<drugbank::Document>> ListeDocuments; ///< by pack
+    QHash<qint32, QStringList> RangsGeneriques;              ///< by product
+    QHash<QList<qint32>, QString> Rapports;                  ///< by the products in question
+    QStringList Demandes;                                    ///< text and filter of each search
 
     QList<drugbank::Pack> RecherchePacks(const QString& texte, qint32 filtre) override
     {
@@ -25,10 +27,8 @@ public:
         }
         return trouves;
     }
-    QString NomDCI(qint32 produit) override
-    {
-        return produit == 101 ? QStringLiteral("PARACETAMOL") : QString();
-    }
+    QString NomDCI(qint32 produit) override { return NomsCommuns.value(produit); }
+    QList<drugbank::Document> Documents(qint32 pack) override { return ListeDocuments.value(pack); }
     QString Monographie(qint32 pack) override { return Monographies.value(pack); }
     QStringList Generiques(qint32 produit) override { return RangsGeneriques.value(produit); }
     QString Interactions(const QList<qint32>& produits, qint32) override { return Rapports.value(produits); }

@@ -136,9 +136,20 @@ private Q_SLOTS:
     {
         ChoixEnMain().ChkDCI = 1;
         QCOMPARE(Banque().Lit(Pack())->TxtMedoc, QStringLiteral("PARACETAMOL"));
-        QCOMPARE(Banque().Lit({QStringLiteral("X "), QStringLiteral("1/2/3/4")})->TxtMedoc,
+        QCOMPARE(Banque().Lit({QStringLiteral("X "), QStringLiteral("1/2/103/4")})->TxtMedoc,
                  QStringLiteral("X"));
         QCOMPARE(Banque().Lit(Personnel(QStringLiteral("A")))->TxtMedoc, QStringLiteral("A"));
+    }
+
+    void AProductWithoutACommonNameIsTold()
+    {
+        const Noeud sans{QStringLiteral(" X "), QStringLiteral("1/2/3/4")};
+        QCOMPARE(Banque().Lit(sans)->TxtMedoc, QStringLiteral("X"));
+        ChoixEnMain().ChkDCI = 1;
+        monde_->Boites.AttendInformation(QStringLiteral("Ce produit n'a pas de DCI."));
+        QCOMPARE(Banque().Lit(sans)->TxtMedoc, QStringLiteral("X"));
+        monde_->Etat.Banque.Acces.reset();
+        QCOMPARE(Banque().Lit(sans)->TxtMedoc, QStringLiteral("X"));
     }
 
     void AFreshLineBearsTheProduct()

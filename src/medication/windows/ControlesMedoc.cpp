@@ -2,6 +2,7 @@
 
 #include "application/messages.h"
 #include "application/windows/Style.h"
+#include "drugbank/windows/PanneauDocument.h"
 #include "medication/messages.h"
 #include "medication/windows/CaseEtiquetee.h"
 #include "medication/windows/ChampCherche.h"
@@ -18,6 +19,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QSplitter>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -239,7 +241,7 @@ ListeLignes* Liste(const QString& nom, const QString& accessible, QWidget* paren
     return liste;
 }
 
-QLayout* Zones(ControlesMedoc& c, QWidget* carte)
+QLayout* Listes(ControlesMedoc& c, QWidget* carte)
 {
     c.ZoneALD = style::Legende({}, QStringLiteral("Zone ALD"), carte);
     c.ZoneNonALD = style::Legende({}, QStringLiteral("Zone non ALD"), carte);
@@ -260,6 +262,23 @@ QLayout* Zones(ControlesMedoc& c, QWidget* carte)
     listes->addWidget(c.LstChoix2, 1);
     listes->addWidget(c.LblHorsPage);
     return listes;
+}
+
+/// The lists, and beside them the document of the medication in hand.
+QWidget* Zones(ControlesMedoc& c, QWidget* carte)
+{
+    auto* zones = new QSplitter(carte);
+    zones->setChildrenCollapsible(false);
+    zones->setHandleWidth(style::kEntreGroupes);
+    auto* listes = new QWidget(zones);
+    QLayout* disposition = Listes(c, listes);
+    disposition->setContentsMargins({});
+    listes->setLayout(disposition);
+    c.Document = new drugbank::PanneauDocument(zones);
+    c.Document->hide();
+    zones->setStretchFactor(0, 1);
+    zones->setStretchFactor(1, 1);
+    return zones;
 }
 
 void BoutonsOrdonnance(ControlesMedoc& c, QWidget* carte)
@@ -288,12 +307,12 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
     c.ChkTri = new CaseEtiquetee(QStringLiteral("ChkTri"), QStringLiteral("Label9"),
                                  QStringLiteral("I&mprimer triplicata"), carte);
     QVBoxLayout* disposition = style::DansCarte(carte);
-    QLayout* zones = Zones(c, carte);
+    QWidget* zones = Zones(c, carte);
     c.HlbI = DeBanque(c, style::Legende(QStringLiteral("HlbI"), QStringLiteral(" Interactions"), carte));
     QHBoxLayout* cases = Rang({titre, c.HlbI, c.ImgUp, c.ImgDown}, {c.ChkALD, c.ChkDup, c.ChkTri});
     cases->setSpacing(style::kEntreGroupes);
     disposition->addLayout(cases);
-    disposition->addLayout(zones);
+    disposition->addWidget(zones, 1);
     BoutonsOrdonnance(c, carte);
     disposition->addLayout(Rang({c.CmdSaut, c.CmdClear, c.LblOrdoMem}, {c.CmdAnnule, c.CmdOrdo}));
     return carte;
@@ -301,12 +320,13 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
 
 void OrdonneTabulation(const ControlesMedoc& c)
 {
-    const QList<QWidget*> ordre = {c.TxtCherche, c.PctCherch,   c.TV,           c.TxtMedoc,    c.TxtPoso,
-                                   c.LblPoso,    c.CmdModifier, c.CmdAjouter1,  c.CmdAjouter2, c.ChkALD,
-                                   c.ChkDup,     c.ChkTri,      c.LstChoix1,    c.LstChoix2,   c.ImgUp,
-                                   c.ImgDown,    c.CmdSaut,     c.CmdClear,     c.LblOrdoMem,  c.CmdAnnule,
-                                   c.CmdOrdo,    c.CmdAide,     c.CmdNouveau,   c.CmdRetire,   c.CmdPerso,
-                                   c.ChkDCI,     c.ChkMono,     c.CmdCopyright, c.CmdVD};
+    QList<QWidget*> ordre = {c.TxtCherche, c.PctCherch,   c.TV,           c.TxtMedoc,    c.TxtPoso,
+                             c.LblPoso,    c.CmdModifier, c.CmdAjouter1,  c.CmdAjouter2, c.ChkALD,
+                             c.ChkDup,     c.ChkTri,      c.LstChoix1,    c.LstChoix2,   c.ImgUp,
+                             c.ImgDown,    c.CmdSaut,     c.CmdClear,     c.LblOrdoMem,  c.CmdAnnule,
+                             c.CmdOrdo,    c.CmdAide,     c.CmdNouveau,   c.CmdRetire,   c.CmdPerso,
+                             c.ChkDCI,     c.ChkMono,     c.CmdCopyright, c.CmdVD};
+    ordre += c.Document->Controles();
     style::OrdreTab(ordre);
 }
 

@@ -12,6 +12,10 @@ class QToolButton;
 class QTreeView;
 class QWidget;
 
+namespace drugbank {
+class PanneauDocument;
+}
+
 namespace medication {
 
 class ChampCherche;
@@ -64,6 +68,7 @@ struct ControlesMedoc
     QCheckBox* ChkMono = nullptr;
     QLabel* LblDatExp = nullptr;
     QPushButton* CmdCopyright = nullptr;
+    drugbank::PanneauDocument* Document = nullptr;
     QLabel* HlbG = nullptr;
     QLabel* HlbI = nullptr;
     QList<QWidget*> DeBanque; ///< what the bank mode shows and the local mode hides

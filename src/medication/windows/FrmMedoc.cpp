@@ -48,6 +48,7 @@ FrmMedoc::FrmMedoc(application::Contexte& contexte, application::Fenetres& fenet
     RelieOffres();
     RelieSignaux();
     ReliePerso();
+    RelieDocument();
     SuitOrdonnance();
 }
 
@@ -146,6 +147,9 @@ void FrmMedoc::showEvent(QShowEvent* event)
 void FrmMedoc::Active()
 {
     Choix& choix = contexte_.Choix;
+    if (!ModeBanque() || choix.NoeudChoisi == kAucunNoeud) {
+        VideDocument();
+    }
     c_.ChkMono->setChecked(contexte_.Reglages.Options.EtatChkMono == 1);
     ConfigureModeBase();
     if (choix.BaseChangee != 2 || choix.TypeBaseArbre != contexte_.Banque.TypeBase) {
@@ -161,6 +165,7 @@ void FrmMedoc::Active()
 void FrmMedoc::ChargeMedicaments()
 {
     c_.CmdModifier->setEnabled(false);
+    VideDocument();
     outside::Tente(contexte_.Dehors.Boites, [this] {
         medication::ChargeMedicaments(contexte_.Choix, pharmacies_.EnService(), arbre_,
                                       c_.TxtCherche->text());
@@ -247,6 +252,7 @@ bool FrmMedoc::LitNoeud(int rang)
     if (lue) {
         RemplitBoites(*lue);
         c_.CmdModifier->setEnabled(true);
+        SuitDocument(rang);
     }
     return lue.has_value();
 }

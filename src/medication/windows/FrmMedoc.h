@@ -34,6 +34,7 @@ private:
     void RelieListe(Zone zone);
     void RelieSignaux();
     void ReliePerso();
+    void RelieDocument();
 
     /// What every showing of the window does.
     void Active();
@@ -66,6 +67,17 @@ private:
     void ProposeDemarque(const QPoint& point);
     void DemarqueNoeud();
     void SupprimePersonnelle();
+
+    /// Shows or hides the view of documents: the bank mode has it, while it is asked for.
+    void PlaceDocument();
+    void VideDocument();
+    /// What follows the choice of a node: its document, or none.
+    void SuitDocument(int rang);
+    void AfficheDocument(const Noeud& noeud);
+    void CocheMono(bool cochee);
+    /// `FrmInd` with what the bank has on the pack in hand.
+    void MontreDocuments();
+    void OuvreDansNavigateur(const QString& document);
 
     void Ajoute(Zone zone);
     void TermineAjout();

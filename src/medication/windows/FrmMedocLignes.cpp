@@ -41,6 +41,7 @@ void FrmMedoc::TermineAjout()
     RemplitBoites({});
     c_.CmdModifier->setEnabled(false);
     MontreFleches({});
+    VideDocument();
 }
 
 void FrmMedoc::FocusRecherche()
@@ -142,6 +143,7 @@ void FrmMedoc::ToutEfface()
     RemplitBoites({});
     c_.CmdModifier->setEnabled(false);
     MontreFleches({});
+    VideDocument();
     c_.TxtCherche->setFocus();
 }
 

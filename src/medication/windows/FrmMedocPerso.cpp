@@ -39,9 +39,6 @@ void FrmMedoc::ReliePerso()
         contexte_.Choix.ChkDCI = cochee;
         ClicNoeud(NoeudSelectionne());
     });
-    connect(c_.ChkMono, &QCheckBox::clicked, this, [this](bool cochee) {
-        outside::Tente(contexte_.Dehors.Boites, [&] { CocheMono(contexte_, cochee); });
-    });
     connect(c_.CmdVD, &QToolButton::clicked, this,
             [this] { c_.mnuVidal->popup(c_.CmdVD->mapToGlobal(QPoint(0, c_.CmdVD->height()))); });
     for (QAction* entree : c_.mnuVidal->actions()) {
@@ -71,6 +68,7 @@ void FrmMedoc::ConfigureModeBase()
     if (!banque) {
         c_.PctCherch->hide();
     }
+    PlaceDocument();
     c_.CmdModifier->setText(banque ? QStringLiteral("Enregistrer posologie")
                                    : QStringLiteral("Modifier données Med"));
     c_.CmdModifier->setShortcut(QKeySequence(QStringLiteral("Alt+F")));
@@ -93,6 +91,9 @@ void FrmMedoc::CherchePlusTard()
 {
     const QString recherche = c_.TxtCherche->text();
     c_.PctCherch->setVisible(recherche.size() >= kLettresDeBanque);
+    if (recherche.size() < kLettresDeBanque) {
+        VideDocument();
+    }
     if (recherche.trimmed().isEmpty()) {
         ChargeMedicaments();
     }

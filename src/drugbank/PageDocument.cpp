@@ -1,0 +1,123 @@
+#include "drugbank/PageDocument.h"
+
+#include "common/Texte8.h"
+#include "drugbank/messagesDocument.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringDecoder>
+#include <QUrl>
+
+namespace drugbank {
+
+namespace {
+
+constexpr qsizetype kEnTete = 2048; // the character set stands in these first bytes of a page
+constexpr int kTablesEmboitees = 40;
+
+QRegularExpression SansCasse(const QString& motif)
+{
+    return QRegularExpression(motif, QRegularExpression::CaseInsensitiveOption);
+}
+
+/// What the page says of its own character set, in small letters.
+QByteArray JeuDeLaPage(const QByteArray& octets)
+{
+    static const QRegularExpression jeu =
+        SansCasse(QStringLiteral("<(?:meta|\\?xml)[^>]*(?:charset|encoding)\\s*=\\s*[\"']?\\s*([\\w.:-]+)"));
+    return jeu.match(QString::fromLatin1(octets.left(kEnTete))).captured(1).toLower().toLatin1();
+}
+
+bool EstUtf8(const QByteArray& octets)
+{
+    QStringDecoder lecture(QStringDecoder::Utf8);
+    const QString texte = lecture(octets);
+    return !lecture.hasError() && !texte.contains(QChar::ReplacementCharacter);
+}
+
+bool EstWindows1252(const QByteArray& jeu)
+{
+    return jeu.contains("1252") || jeu.contains("8859-1") || jeu == "latin1" || jeu == "us-ascii";
+}
+
+bool EmboiteTropDeTables(const QString& html)
+{
+    static const QRegularExpression balise = SansCasse(QStringLiteral("<(/?)table\\b"));
+    int ouvertes = 0;
+    for (auto trouves = balise.globalMatch(html); trouves.hasNext() && ouvertes <= kTablesEmboitees;) {
+        const bool fermee = !trouves.next().captured(1).isEmpty();
+        ouvertes = std::max(0, ouvertes + (fermee ? -1 : 1));
+    }
+    return ouvertes > kTablesEmboitees;
+}
+
+QString TexteNu(const QString& texte)
+{
+    return QStringLiteral("<pre style=\"white-space: pre-wrap\">") + texte.toHtmlEscaped() +
+           QStringLiteral("</pre>");
+}
+
+QString SansBalises(QString html)
+{
+    static const QRegularExpression balise(QStringLiteral("<[^>]*>"));
+    return html.replace(balise, QStringLiteral(" "));
+}
+
+} // namespace
+
+Recu LitLeFichier(const QUrl& adresse, qint64 maximum)
+{
+    const QFileInfo infos(adresse.toLocalFile());
+    if (!infos.isFile()) {
+        return {{}, {}, messages::DocumentAbsent(infos.fileName())};
+    }
+    QFile fichier(infos.filePath());
+    if (!fichier.open(QIODevice::ReadOnly)) {
+        return {{}, {}, messages::DocumentIllisible(infos.fileName())};
+    }
+    const QByteArray octets = fichier.read(maximum + 1);
+    if (octets.size() > maximum) {
+        return {{}, {}, messages::DocumentTropGrand(infos.fileName())};
+    }
+    return {octets, {}, {}};
+}
+
+QString TexteDeLaPage(const QByteArray& octets, const QByteArray& jeu)
+{
+    if (const auto marque = QStringConverter::encodingForData(octets)) {
+        return QStringDecoder(*marque)(octets);
+    }
+    const QByteArray nomme = jeu.isEmpty() ? JeuDeLaPage(octets) : jeu.toLower();
+    if (EstWindows1252(nomme)) {
+        return common::DepuisWindows1252(octets);
+    }
+    if (const auto connu = QStringConverter::encodingForName(nomme.constData())) {
+        return QStringDecoder(*connu)(octets);
+    }
+    return EstUtf8(octets) ? QString::fromUtf8(octets) : common::DepuisWindows1252(octets);
+}
+
+QString HtmlDeLaPage(const QByteArray& octets, const QByteArray& jeu)
+{
+    QString texte = TexteDeLaPage(octets, jeu);
+    if (octets.startsWith("%PDF") || texte.contains(QChar::Null)) {
+        return {};
+    }
+    if (!texte.contains(u'<')) {
+        return TexteNu(texte);
+    }
+    if (EmboiteTropDeTables(texte)) {
+        return TexteNu(SansBalises(texte));
+    }
+    static const QRegularExpression etendue =
+        SansCasse(QStringLiteral("\\b((?:col|row)span\\s*=\\s*[\"']?\\s*)\\+?0*[1-9]\\d{2,}"));
+    return texte.replace(etendue, QStringLiteral("\\1100"));
+}
+
+QString PageDUnePhrase(const QString& phrase)
+{
+    return QStringLiteral("<p>") + phrase.toHtmlEscaped() + QStringLiteral("</p>");
+}
+
+} // namespace drugbank
