@@ -172,14 +172,4 @@ void Langage::AjouteFin()
     });
 }
 
-void Langage::AjouteAVenir()
-{
-    for (const auto& nom : {QStringLiteral("banque"), QStringLiteral("appels"), QStringLiteral("fuites")}) {
-        Ajoute(nom, 0, 99, [nom](const Valeurs&) -> QVariant {
-            throw Echec{
-                QStringLiteral("%1 : aucune banque de médicaments n'est jouable pour le moment").arg(nom)};
-        });
-    }
-}
-
 } // namespace scenario

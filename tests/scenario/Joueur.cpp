@@ -86,6 +86,9 @@ int JoueUn(const Commande& commande, int argc, char** argv, Fabrique& fabrique)
     TendFilet(application, session);
     Bureau bureau;
     Relais relais;
+    relais.SurAction = [&] { session.Horloge.Repart(); };
+    relais.Presse = [&] { return session.Horloge.Presse(); };
+    session.Horloge.Calme = [&] { return relais.Calme(); };
     Rapport rapport(commande.Fichiers.first());
     const std::unique_ptr<QThread> fil(QThread::create([&] {
         Langage langage(session, relais, rapport, commande.Attente);

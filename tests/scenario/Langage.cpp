@@ -72,7 +72,8 @@ bool Valeurs::Booleen(int i) const
 }
 
 Langage::Langage(Session& session, Relais& relais, Rapport& rapport, int attente)
-    : session_(session), relais_(relais), rapport_(rapport), attente_(attente)
+    : session_(session), relais_(relais), rapport_(rapport), attente_(attente),
+      banque_(session.Monde.Programme())
 {
     AjouteMonde();
     AjouteFichiers();
@@ -85,7 +86,7 @@ Langage::Langage(Session& session, Relais& relais, Rapport& rapport, int attente
     AjouteFenetres();
     AjouteLectures();
     AjouteEtats();
-    AjouteAVenir();
+    AjouteBanque();
 }
 
 void Langage::Joue(const QString& chemin)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "drugbank/BanqueDeTest.h"
 #include "scenario/Controles.h"
 #include "scenario/Rapport.h"
 #include "scenario/Relais.h"
@@ -67,7 +68,7 @@ private:
     void AjouteFenetres();
     void AjouteLectures();
     void AjouteEtats();
-    void AjouteAVenir();
+    void AjouteBanque();
 
     /// What an action does on a greyed control: a click does nothing there, as for a doctor.
     enum class SurGris { Echoue, Ignore };
@@ -85,6 +86,7 @@ private:
     void AttendsExistence(const QString& controle);
     void Touche(const QString& fenetre);
     void AttendsAccessible(const QString& controle, SurGris surGris);
+    void PoseBanque();
     QString CheminBase(const QString& nom);
     int LigneDe(const QString& pile) const;
     void Prepare(QJSEngine& moteur);
@@ -103,6 +105,8 @@ private:
     int attente_;
     QJSEngine* moteur_ = nullptr;
     QString fichier_;
+    support::BanqueDeTest banque_;
+    QJsonObject description_; // of the bank
     QHash<QString, Definition> appels_;
 };
 

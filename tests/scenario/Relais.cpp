@@ -76,6 +76,7 @@ void Relais::Execute(const std::shared_ptr<Action>& action)
     enCours_.append(action);
     const auto fin = qScopeGuard([this, action] { enCours_.removeOne(action); });
     Lance({action, kTours});
+    SurAction();
     try {
         action->Fait();
     } catch (const Echec& echec) {
@@ -97,6 +98,9 @@ void Relais::timerEvent(QTimerEvent* evenement)
 {
     killTimer(evenement->timerId());
     Sonde sonde = minuteries_.take(evenement->timerId());
+    if (Calme() && Presse()) {
+        sonde.Tours = kTours + 1;
+    }
     if (--sonde.Tours > 0 || !Calme()) {
         sonde.Tours = std::max(sonde.Tours, 1);
         Lance(sonde);
@@ -105,7 +109,6 @@ void Relais::timerEvent(QTimerEvent* evenement)
     sonde.Pour->Oisif.release();
 }
 
-/// Not while a handler only lets events through: its loop level is then that of its action.
 bool Relais::Calme() const
 {
     return enCours_.isEmpty() || QThread::currentThread()->loopLevel() > enCours_.last()->Niveau;

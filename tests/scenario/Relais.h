@@ -21,6 +21,11 @@ public:
     /// Runs an action and returns when the window thread is idle: the action, and whatever handler it
     /// let go on, has returned or waits in the loop of a box or modal window.
     void Agit(const std::function<void()>& action);
+    /// False while a handler runs, or only lets events through; its loop level is then that of its action.
+    bool Calme() const;
+
+    std::function<void()> SurAction = [] {};             ///< called before each action
+    std::function<bool()> Presse = [] { return false; }; ///< true while idleness has to wait
 
 protected:
     void customEvent(QEvent* evenement) override;
@@ -37,7 +42,6 @@ private:
 
     void Execute(const std::shared_ptr<Action>& action);
     void Lance(const Sonde& sonde);
-    bool Calme() const;
 
     QList<std::shared_ptr<Action>> enCours_;
     QHash<int, Sonde> minuteries_;

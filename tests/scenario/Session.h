@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scenario/BoitesScenario.h"
+#include "scenario/HorlogeScenario.h"
 #include "scenario/ImprimantesScenario.h"
 #include "scenario/Monde.h"
 #include "scenario/Programme.h"
@@ -45,7 +46,7 @@ public:
     /// Where screenshots go: the output directory, or the world without one.
     QString Sortie;
     scenario::Fabrique& Fabrique;
-    support::HorlogeFixe Horloge;
+    HorlogeScenario Horloge;
     support::PlateauFeint Plateau;
     support::DemarrageSystemeFeint Demarrage;
     support::LanceurFeint Lanceur;

@@ -19,8 +19,13 @@
         return typeof a === "boolean" && typeof b === "number" && Number(a) === b;
     }
 
+    function memeCompte(a, b) {
+        return Array.isArray(a) && typeof b === "number" && a.valueOf() === b;
+    }
+
     function memes(a, b) {
         if (a === b || a !== a && b !== b || memeEtat(a, b) || memeEtat(b, a)) return true;
+        if (memeCompte(a, b) || memeCompte(b, a)) return true;
         if (typeof a !== "object" || typeof b !== "object" || a === null || b === null) return false;
         if (Array.isArray(a) !== Array.isArray(b)) return false;
         const cles = Object.keys(a);
@@ -32,11 +37,16 @@
         return valeur !== null && typeof valeur === "object" && !Array.isArray(valeur);
     }
 
+    function litEnTexte(valeur) {
+        return estObjet(valeur) && Object.prototype.hasOwnProperty.call(valeur, "toString");
+    }
+
     // Of an object the keys that are named, of a list an element that is or has the part.
     function dedans(tout, partie) {
         if (typeof tout === "string") return tout.includes(partie);
         if (Array.isArray(tout)) {
-            return tout.some(element => memes(element, partie) || estObjet(partie) && dedans(element, partie));
+            return tout.some(element => memes(element, partie) || estObjet(partie) && dedans(element, partie) ||
+                typeof partie === "string" && litEnTexte(element) && String(element).includes(partie));
         }
         if (!estObjet(tout)) return false;
         if (!estObjet(partie)) return String(tout).includes(partie);
@@ -63,10 +73,26 @@
     global.contient = (tout, partie, texte) =>
         controle(dedans(tout, partie), texte, "contenant " + montre(partie), tout);
 
+    function litComme(objet, texte) {
+        return Object.defineProperty(objet, "toString", {value: texte});
+    }
+
     // A program started reads as one text too: its path, then its arguments.
     const programmes = global.relances;
-    global.relances = () => programmes().map(lance => Object.defineProperty(lance, "toString",
-        {value: () => [lance.chemin, ...lance.arguments].join(" ")}));
+    global.relances = () => programmes().map(lance =>
+        litComme(lance, () => [lance.chemin, ...lance.arguments].join(" ")));
+
+    // So does a call of the bank: PackService_searchByCip(77, "3400930000011").
+    const journal = global.appels;
+    global.appels = () => journal().map(appel =>
+        litComme(appel, () => appel.nom + "(" + appel.arguments.map(montre).join(", ") + ")"));
+
+    // What leaks is a list, and counts as its length where a number is expected.
+    const perdues = global.fuites;
+    global.fuites = () => {
+        const liste = perdues().map(fuite => litComme(fuite, () => fuite.appel + " : " + fuite.poignee));
+        return Object.defineProperty(liste, "valueOf", {value: () => liste.length});
+    };
 
     function enTexte(valeur) {
         if (typeof valeur !== "string" && typeof valeur !== "number") throw new Error("un texte est attendu");

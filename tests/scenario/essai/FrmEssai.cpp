@@ -1,6 +1,8 @@
 #include "scenario/essai/FrmEssai.h"
 
 #include "common/Erreur.h"
+#include "drugbank/LiaisonAide.h"
+#include "drugbank/RequetesBanque.h"
 #include "outside/Boites.h"
 #include "outside/Horloge.h"
 #include "outside/Imprimantes.h"
@@ -90,7 +92,8 @@ private:
 
 } // namespace
 
-FrmEssai::FrmEssai(const application::Dehors& dehors) : dehors_(dehors)
+FrmEssai::FrmEssai(const application::Dehors& dehors, const QString& cheminProgramme)
+    : dehors_(dehors), cheminProgramme_(cheminProgramme)
 {
     setObjectName(QStringLiteral("FrmEssai"));
     setWindowTitle(QStringLiteral("   Essai"));
@@ -102,6 +105,7 @@ FrmEssai::FrmEssai(const application::Dehors& dehors) : dehors_(dehors)
     disposition->addWidget(Listes());
     disposition->addWidget(Onglets());
     disposition->addWidget(Boutons());
+    disposition->addWidget(Attentes());
 }
 
 QWidget* FrmEssai::Champs()
@@ -227,6 +231,64 @@ QWidget* FrmEssai::Boutons()
     });
     Bouton(parent, QStringLiteral("CmdQuitter"), [this] { close(); });
     return parent;
+}
+
+QWidget* FrmEssai::Attentes()
+{
+    auto* parent = new QWidget;
+    new QHBoxLayout(parent);
+    const auto ajoute = [this](const QString& texte) { Ecris(trace_->text() + texte); };
+    Bouton(parent, QStringLiteral("CmdAttend"), [this, ajoute] {
+        Ecris({});
+        dehors_.Horloge.Dans(9000, this, [ajoute] { ajoute(QStringLiteral("c")); });
+        dehors_.Horloge.Dans(3000, this, [this, ajoute] {
+            ajoute(QStringLiteral("a"));
+            dehors_.Horloge.Dans(5999, this, [ajoute] { ajoute(QStringLiteral("b")); });
+        });
+        QCoreApplication::processEvents();
+        ajoute(QStringLiteral("d'abord : "));
+    });
+    Bouton(parent, QStringLiteral("CmdAttendBoite"), [this] {
+        dehors_.Horloge.Dans(2000, this, [this] { dehors_.Boites.Information(QStringLiteral("Après 2 s")); });
+        dehors_.Horloge.Dans(3000, this, [this] { Ecris(QStringLiteral("sous la boîte")); });
+    });
+    Bouton(parent, QStringLiteral("CmdSansFin"), [this] {
+        sondes_ = 0;
+        Sonde();
+    });
+    Bouton(parent, QStringLiteral("CmdArrete"), [this] {
+        Ecris(QString::number(sondes_));
+        sondes_ = -1;
+    });
+    Bouton(parent, QStringLiteral("CmdBanque"), [this] { DemandeALaBanque(); });
+    return parent;
+}
+
+void FrmEssai::Sonde()
+{
+    if (sondes_ >= 0) {
+        ++sondes_;
+        dehors_.Horloge.Dans(50, this, [this] { Sonde(); });
+    }
+}
+
+/// What the bank of product 2 finds for "dol", and the product of CIP 34.
+void FrmEssai::DemandeALaBanque()
+{
+    const drugbank::LiaisonAide aide(cheminProgramme_ + QStringLiteral("/vidalhelper"));
+    QString chemin;
+    if (!aide.Chargee() || aide.CheminDeBanque(2, chemin) != 0) {
+        Ecris(aide.Chargee() ? QStringLiteral("pas installée") : QStringLiteral("pas d'aide"));
+        return;
+    }
+    const auto banque = std::make_shared<drugbank::LiaisonBanque>(chemin);
+    drugbank::RequetesBanque requetes(banque, 77);
+    QString trace = banque->Chargee() ? QStringLiteral("chargée") : QStringLiteral("illisible");
+    for (const drugbank::Pack& pack : requetes.RecherchePacks(QStringLiteral("dol"), 64)) {
+        trace += QStringLiteral("|%1 %2 %3").arg(pack.Nom).arg(pack.Prix).arg(pack.Produit);
+    }
+    banque->PackService_searchByCip(77, "34"); // never released
+    Ecris(trace);
 }
 
 void FrmEssai::Bouton(QWidget* parent, const QString& nom, const std::function<void()>& fait)

@@ -15,7 +15,7 @@ class FrmEssai : public QWidget
     Q_OBJECT
 
 public:
-    explicit FrmEssai(const application::Dehors& dehors);
+    FrmEssai(const application::Dehors& dehors, const QString& cheminProgramme);
 
 Q_SIGNALS:
     void Quitte();
@@ -28,6 +28,9 @@ private:
     QWidget* Listes();
     QWidget* Onglets();
     QWidget* Boutons();
+    QWidget* Attentes();
+    void Sonde();
+    void DemandeALaBanque();
     void Bouton(QWidget* parent, const QString& nom, const std::function<void()>& fait);
     void Ecris(const QString& texte);
     void OuvreModale();
@@ -35,6 +38,8 @@ private:
     void MontreDialogues();
 
     application::Dehors dehors_;
+    QString cheminProgramme_;
+    int sondes_ = -1; // while it asks for nothing
     QLabel* trace_ = nullptr;
 };
 

@@ -8,11 +8,13 @@ namespace {
 class ProgrammeEssai : public Programme
 {
 public:
-    explicit ProgrammeEssai(const application::Dehors& dehors) : dehors_(dehors) {}
+    ProgrammeEssai(const application::Dehors& dehors, QString cheminProgramme)
+        : dehors_(dehors), cheminProgramme_(std::move(cheminProgramme))
+    {}
 
     void Demarre() override
     {
-        fenetre_ = std::make_unique<FrmEssai>(dehors_);
+        fenetre_ = std::make_unique<FrmEssai>(dehors_, cheminProgramme_);
         connect(fenetre_.get(), &FrmEssai::Quitte, this, &Programme::Termine);
         fenetre_->show();
     }
@@ -29,6 +31,7 @@ public:
 
 private:
     application::Dehors dehors_;
+    QString cheminProgramme_;
     std::unique_ptr<FrmEssai> fenetre_;
 };
 
@@ -36,9 +39,10 @@ class FabriqueEssai : public Fabrique
 {
 public:
     void Prepare(QApplication&) override {}
-    std::unique_ptr<Programme> Fait(const application::Dehors& dehors, const QString&) override
+    std::unique_ptr<Programme> Fait(const application::Dehors& dehors,
+                                    const QString& cheminProgramme) override
     {
-        return std::make_unique<ProgrammeEssai>(dehors);
+        return std::make_unique<ProgrammeEssai>(dehors, cheminProgramme);
     }
 };
 

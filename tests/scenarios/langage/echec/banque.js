@@ -1,2 +1,2 @@
-// attendu : banque.js:2 : banque : 
-banque({produits: {1: true}});
+// attendu : banque.js:2 : banque : une description
+banque("Vidal");
