@@ -43,8 +43,8 @@ public:
     /// The rows of `LstGen`: an empty one for each generic group of the product, and behind it the packs
     /// that have a price.
     virtual QStringList Generiques(qint32 produit) = 0;
-    /// `RapportInteractions` of these products at that level, 0 to 3; empty without interactions. An id of
-    /// 0 is no product.
+    /// `RapportInteractions` of these products at that level, 0 to 3; empty without interactions. What the
+    /// bank counts and does not give is told at its end. An id of 0 is no product.
     virtual QString Interactions(const QList<qint32>& produits, qint32 niveau) = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "drugbank/Rapport.h"
 
+#include "drugbank/messagesInteractions.h"
+
 #include <array>
 
 namespace drugbank {
@@ -78,16 +80,21 @@ QString Inconnu(const TenuProduit& produit)
 
 QString Rapport(const TenuInteractions& resultat)
 {
+    if (!resultat) {
+        return messages::InteractionsIncompletes();
+    }
     QString rapport;
+    bool complet = true;
     {
         const auto couples =
             resultat.Donne<TenuCouples>(&LiaisonBanque::InteractionResult_getInteractionCoupleList);
-        couples.PourChacun([&](const TenuCouple& couple) { rapport += Bloc(couple); });
+        complet = couples.PourChacun([&](const TenuCouple& couple) { rapport += Bloc(couple); });
     }
     const auto inconnus =
         resultat.Donne<TenuProduits>(&LiaisonBanque::InteractionResult_getUnkownProductInteractionList);
-    inconnus.PourChacun([&](const TenuProduit& produit) { rapport += Inconnu(produit); });
-    return rapport;
+    complet =
+        inconnus.PourChacun([&](const TenuProduit& produit) { rapport += Inconnu(produit); }) && complet;
+    return complet ? rapport : rapport + messages::InteractionsIncompletes();
 }
 
 QList<qint32> ProduitsPrescrits(const QStringList& identifiants)

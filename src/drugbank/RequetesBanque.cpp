@@ -6,6 +6,7 @@
 #include "drugbank/Rapport.h"
 #include "drugbank/Tenu.h"
 
+#include <algorithm>
 #include <array>
 
 namespace drugbank {
@@ -43,13 +44,21 @@ Entier BorneHaute(const QList<Entier>& codes)
     return static_cast<Entier>(codes.size() - 1);
 }
 
+/// Euros; 0 for none, and for a number that is no price.
+float LitPrix(const TenuPack& tenu)
+{
+    constexpr double kPrixMax = 1e9;
+    const double prix = tenu.Demande(&LiaisonBanque::Pack_getPublicPrice);
+    return prix > -kPrixMax && prix < kPrixMax ? static_cast<float>(prix) : 0.0F;
+}
+
 Pack LitPack(const TenuPack& tenu)
 {
     Pack pack;
     pack.Cip = tenu.Texte(&LiaisonBanque::Pack_getCip);
     pack.Id = tenu.Demande(&LiaisonBanque::Pack_getId);
     pack.Produit = tenu.Demande(&LiaisonBanque::Pack_getProductId);
-    pack.Prix = static_cast<float>(tenu.Demande(&LiaisonBanque::Pack_getPublicPrice));
+    pack.Prix = LitPrix(tenu);
     pack.Nom = tenu.Texte(&LiaisonBanque::Pack_getName);
     return pack;
 }
@@ -67,8 +76,7 @@ Document LitDocument(const TenuDocument& tenu)
 void AjoutePack(QStringList& rangs, const TenuPack& tenu)
 {
     const QString nom = tenu.Texte(&LiaisonBanque::Pack_getName);
-    const auto prix = static_cast<float>(tenu.Demande(&LiaisonBanque::Pack_getPublicPrice));
-    if (prix != 0) {
+    if (const float prix = LitPrix(tenu); prix != 0) {
         rangs.append(QStringLiteral("  ") + nom + QString(10, u' ') + common::TexteSimple(prix) +
                      QStringLiteral("  €"));
     }
@@ -144,25 +152,33 @@ QString RequetesBanque::Monographie(qint32 pack)
 QStringList RequetesBanque::Generiques(qint32 produit)
 {
     QStringList rangs;
+    Entier reste = kElementsMax; // of the elements within the groups, all told: a walk that ends
     const TenuGroupes groupes(*banque_, banque_->GenericGroupService_searchByProductId(session_, produit));
     groupes.PourChacun([&](const TenuGroupeDuProduit& entree) {
         rangs.append(QString());
         const auto groupe = entree.Donne<TenuGroupe>(&LiaisonBanque::ProductGenericGroup_getGenericGroup);
         if (groupe) {
-            AjouteGroupe(rangs, groupe.Demande(&LiaisonBanque::GenericGroup_getId));
+            AjouteGroupe(rangs, groupe.Demande(&LiaisonBanque::GenericGroup_getId), reste);
         }
     });
     return rangs;
 }
 
-void RequetesBanque::AjouteGroupe(QStringList& rangs, qint32 groupe) const
+void RequetesBanque::AjouteGroupe(QStringList& rangs, qint32 groupe, Entier& reste) const
 {
     const TenuProduits produits(*banque_, banque_->ProductService_searchByGenericGroupId(session_, groupe));
-    produits.PourChacun([&](const TenuProduit& produit) {
+    const auto ajoute = [&](const TenuProduit& produit) {
+        --reste;
         const Entier id = produit.Demande(&LiaisonBanque::Product_getId);
         const TenuPacks packs(*banque_, banque_->PackService_searchByProductId(session_, id));
-        packs.PourChacun([&](const TenuPack& pack) { AjoutePack(rangs, pack); });
-    });
+        packs.PourChacun(
+            [&](const TenuPack& pack) {
+                --reste;
+                AjoutePack(rangs, pack);
+            },
+            std::max(reste, 0));
+    };
+    produits.PourChacun(ajoute, std::max(reste, 0));
 }
 
 QString RequetesBanque::Interactions(const QList<qint32>& produits, qint32 niveau)

@@ -29,7 +29,7 @@ public:
     std::optional<qint32> ProduitDuCip(const QString& cip) const;
 
 private:
-    void AjouteGroupe(QStringList& rangs, qint32 groupe) const;
+    void AjouteGroupe(QStringList& rangs, qint32 groupe, Entier& reste) const;
 
     std::shared_ptr<const LiaisonBanque> banque_;
     Poignee session_;

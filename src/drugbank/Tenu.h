@@ -66,6 +66,9 @@ using TenuInteractions = Tenu<&LiaisonBanque::InteractionResult_release>;
 using TenuCouple = Tenu<&LiaisonBanque::InteractionCouple_release>;
 using TenuClasse = Tenu<&LiaisonBanque::DrugInteractionClass_release>;
 
+/// No list of a bank is longer.
+constexpr Entier kElementsMax = 10'000;
+
 /// Owns a list, and knows how it is walked.
 template <typename Element, auto Libere, auto Compte, auto Rang> class TenuListe : public Tenu<Libere>
 {
@@ -73,15 +76,21 @@ public:
     using Tenu<Libere>::Tenu;
 
     /// Calls `visite` with each element, released behind it, at most `maximum` of them. An element of 0 is
-    /// passed over, so that no count, however absurd, leads anywhere.
-    template <typename Visite> void PourChacun(Visite&& visite, Entier maximum = 10'000) const
+    /// passed over, so that no count, however absurd, leads anywhere. True when each one of the count was
+    /// visited.
+    template <typename Visite> bool PourChacun(Visite&& visite, Entier maximum = kElementsMax) const
     {
-        const Entier nombre = std::min(this->Demande(Compte), maximum);
+        const Entier compte = this->Demande(Compte);
+        const Entier nombre = std::min(compte, maximum);
+        bool complet = compte >= 0 && compte == nombre;
         for (Entier i = 0; i < nombre; ++i) {
             if (const Element element(*this->banque_, this->Demande(Rang, i)); element) {
                 visite(element);
+            } else {
+                complet = false;
             }
         }
+        return complet;
     }
 };
 

@@ -220,7 +220,7 @@ void TestRequetesBanque::sansBibliotheque()
     RequetesBanque requetes(absente, 0);
     QVERIFY(!absente->Chargee());
     QVERIFY(requetes.RecherchePacks(QStringLiteral("a"), 64).isEmpty());
-    QVERIFY(requetes.Interactions({0}, 0).isEmpty());
+    QVERIFY(requetes.Interactions({0}, 0).contains(QStringLiteral("pas donné")));
     QVERIFY(LitChaineBanque(*absente, "abc").isEmpty());
 }
 

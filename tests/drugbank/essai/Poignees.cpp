@@ -2,7 +2,6 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <cmath>
 #include <limits>
 
 namespace essai {
@@ -62,7 +61,8 @@ double Poignees::Reel(Poignee poignee, const char* nom) const
 drugbank::Entier Poignees::Entier(Poignee poignee, const char* nom) const
 {
     const double valeur = Reel(poignee, nom);
-    const bool tient = std::abs(valeur) <= std::numeric_limits<drugbank::Entier>::max();
+    const bool tient = valeur >= std::numeric_limits<drugbank::Entier>::min() &&
+                       valeur <= std::numeric_limits<drugbank::Entier>::max();
     return tient ? static_cast<drugbank::Entier>(valeur) : 0;
 }
 
@@ -75,6 +75,9 @@ drugbank::Entier Poignees::Compte(Poignee poignee) const
 
 QJsonValue Poignees::Rang(Poignee poignee, drugbank::Entier rang) const
 {
+    if (Contenu(poignee).isObject()) {
+        return Champ(poignee, "element");
+    }
     const QJsonArray liste = Contenu(poignee).toArray();
     return rang >= 0 && rang < liste.size() ? liste.at(rang) : QJsonValue(QJsonValue::Undefined);
 }

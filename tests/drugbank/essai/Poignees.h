@@ -27,7 +27,7 @@ public:
     /// Numbers may stand in texts, "nan" and "inf" too; anything else is 0.
     double Reel(drugbank::Poignee poignee, const char* nom) const;
     drugbank::Entier Entier(drugbank::Poignee poignee, const char* nom) const;
-    /// The length of a list, or the field "count" of an object that stands in its place.
+    /// An object may stand for a list: its field "count" is the length, "element" stands at every rank.
     drugbank::Entier Compte(drugbank::Poignee poignee) const;
     QJsonValue Rang(drugbank::Poignee poignee, drugbank::Entier rang) const;
 

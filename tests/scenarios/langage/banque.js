@@ -10,7 +10,7 @@ function trace() {
 lancer();
 egal(trace(), "pas d'aide", "un monde n'a pas de banque");
 banque({packs: dolipranes});
-egal(trace(), "chargée|DOLIPRANE 1 000 mg : œdème 1.16 101|DOLKO nan 102", "ce que la banque trouve");
+egal(trace(), "chargée|DOLIPRANE 1 000 mg : œdème 1.16 101|DOLKO 0 102", "ce que la banque trouve");
 
 const [premier, recherche] = appels();
 egal(premier, {nom: "VidalHelper_getVidalAPIPath", arguments: [2, null, 255]}, "l'aide d'abord");
@@ -27,7 +27,7 @@ different(fuites(), 0, "une n'est pas zéro");
 
 const avant = appels().length;
 banque({packs: dolipranes.slice(1), copieBornee: false, asynchrone: false});
-egal(trace(), "chargée|DOLKO nan 102", "une autre description la remplace");
+egal(trace(), "chargée|DOLKO 0 102", "une autre description la remplace");
 vrai(appels().slice(avant).some(appel => appel.nom === "CopyString"), "avec la copie d'autrefois");
 faux(appels().slice(avant).some(appel => appel.nom === "CopyStringN2"), "et sans l'autre");
 egal(fuites(), 1, "un CIP inconnu ne donne rien à rendre");
