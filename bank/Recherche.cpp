@@ -2,14 +2,7 @@
 
 #include "bank/IndexRecherche.h"
 #include "bank/Mots.h"
-#include "bank/messages.h"
-#include "common/Erreur.h"
-#include "common/Fichiers.h"
-
-#include <QFileInfo>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QVariant>
+#include "bank/Selection.h"
 
 #include <limits>
 
@@ -21,73 +14,31 @@ constexpr quint32 kAbsent = std::numeric_limits<quint32>::max();
 constexpr quint32 kPasEnTete = 1U << 20; ///< the first word does not begin the name
 constexpr quint32 kPasEntier = 1U << 12; ///< a word is only begun
 
-[[noreturn]] void Echoue(const QSqlDatabase& base, const QSqlQuery& requete)
+PackTrouve Lis(const QSqlQuery& rangee)
 {
-    const QString chemin = base.databaseName();
-    throw common::Erreur(messages::LectureRefusee(QFileInfo(chemin).fileName(), requete.lastError().text()),
-                         common::CheminAffiche(chemin));
-}
-
-QSqlQuery Prepare(const QSqlDatabase& base, const QString& instruction)
-{
-    QSqlQuery requete(base);
-    requete.setForwardOnly(true);
-    if (!requete.prepare(instruction)) {
-        Echoue(base, requete);
-    }
-    return requete;
-}
-
-QSqlQuery Lance(const QSqlDatabase& base, const QString& instruction)
-{
-    QSqlQuery requete = Prepare(base, instruction);
-    if (!requete.exec()) {
-        Echoue(base, requete);
-    }
-    return requete;
-}
-
-/// One pack by its number.
-QSqlQuery RequeteDesPacks(const QSqlDatabase& base)
-{
-    return Prepare(
-        base,
-        QStringLiteral("select p.id, p.cis, p.cip7, p.cip13, p.nom, p.prix_total, p.taux, s.homeopathie "
-                       "from presentations p join specialites s on s.cis = p.cis where p.id = ?"));
-}
-
-PackTrouve Lis(const QSqlDatabase& base, QSqlQuery& requete, quint32 id)
-{
-    requete.bindValue(0, id);
-    if (!requete.exec()) {
-        Echoue(base, requete);
-    }
     PackTrouve pack;
-    if (requete.next()) {
-        pack.Id = requete.value(0).toInt();
-        pack.Cis = requete.value(1).toInt();
-        pack.Cip7 = requete.value(2).toString();
-        pack.Cip13 = requete.value(3).toString();
-        pack.Nom = requete.value(4).toString();
-        pack.Prix = requete.isNull(5) ? std::nullopt : std::optional(requete.value(5).toDouble());
-        pack.Taux = requete.isNull(6) ? std::nullopt : std::optional(requete.value(6).toInt());
-        pack.Homeopathie = requete.value(7).toBool();
-    }
+    pack.Id = rangee.value(0).toInt();
+    pack.Cis = rangee.value(1).toInt();
+    pack.Cip7 = rangee.value(2).toString();
+    pack.Cip13 = rangee.value(3).toString();
+    pack.Nom = rangee.value(4).toString();
+    pack.Prix = rangee.isNull(5) ? std::nullopt : std::optional(rangee.value(5).toDouble());
+    pack.Taux = rangee.isNull(6) ? std::nullopt : std::optional(rangee.value(6).toInt());
+    pack.Homeopathie = rangee.value(7).toBool();
     return pack;
 }
 
 } // namespace
 
-Recherche::Recherche(const QSqlDatabase& base) : base_(base)
+Recherche::Recherche(const QSqlDatabase& base)
 {
-    QSqlQuery noms = Lance(base_, QStringLiteral("select packs from recherche_noms order by rang"));
-    while (noms.next()) {
-        noms_.append({DepuisOctets(noms.value(0).toByteArray())});
-    }
-    QSqlQuery mots = Lance(base_, QStringLiteral("select mot, places from recherche_mots"));
-    while (mots.next()) {
-        mots_.append({mots.value(0).toString(), DepuisOctets(mots.value(1).toByteArray())});
-    }
+    Selection(base, QStringLiteral("select packs from recherche_noms order by rang"))
+        .PourChaque(
+            [this](const QSqlQuery& nom) { noms_.append({DepuisOctets(nom.value(0).toByteArray())}); });
+    Selection(base, QStringLiteral("select mot, places from recherche_mots"))
+        .PourChaque([this](const QSqlQuery& mot) {
+            mots_.append({mot.value(0).toString(), DepuisOctets(mot.value(1).toByteArray())});
+        });
     std::sort(mots_.begin(), mots_.end(), [](const Mot& a, const Mot& b) { return a.Texte < b.Texte; });
 }
 
@@ -136,7 +87,7 @@ QList<Recherche::Trouve> Recherche::Noms(const QStringList& mots) const
     return trouves;
 }
 
-PageTrouvee Recherche::Cherche(const QString& question, int page, int parPage) const
+PageTrouvee Recherche::Cherche(const QSqlDatabase& base, const QString& question, int page, int parPage) const
 {
     QList<Trouve> trouves;
     for (const QStringList& lecture : Lectures(question)) {
@@ -146,12 +97,14 @@ PageTrouvee Recherche::Cherche(const QString& question, int page, int parPage) c
         }
     }
     PageTrouvee resultat;
-    QSqlQuery packs = RequeteDesPacks(base_);
+    Selection packs(base, QStringLiteral("select p.id, p.cis, p.cip7, p.cip13, p.nom, p.prix_total, p.taux, "
+                                         "s.homeopathie from presentations p "
+                                         "join specialites s on s.cis = p.cis where p.id = ?"));
     const qint64 debut = qint64(page) * parPage;
     for (const Trouve& trouve : std::as_const(trouves)) {
         for (const quint32 id : noms_[trouve.Rang].Packs) {
             if (resultat.Total >= debut && resultat.Total < debut + parPage) {
-                resultat.Packs.append(Lis(base_, packs, id));
+                packs.PourChaque({id}, [&](const QSqlQuery& pack) { resultat.Packs.append(Lis(pack)); });
             }
             ++resultat.Total;
         }

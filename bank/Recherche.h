@@ -33,13 +33,15 @@ struct PageTrouvee
 class Recherche
 {
 public:
-    /// An open bank, which must outlive this. Throws `Erreur` when it cannot be read.
+    /// Reads the words of an open bank. Throws `Erreur` when it cannot be read.
     explicit Recherche(const QSqlDatabase& base);
 
     /// A page of what was found, best first: names that begin with the question, whole words, words in front,
     /// then the names in their order and the packs by size. `page` counts from 0. Nothing is found for a
-    /// question without a word. Throws `Erreur` when the bank cannot be read.
-    PageTrouvee Cherche(const QString& question, int page = 0, int parPage = 50) const;
+    /// question without a word. `base` is the same bank, on any connection. Throws `Erreur` when it cannot
+    /// be read.
+    PageTrouvee Cherche(const QSqlDatabase& base, const QString& question, int page = 0,
+                        int parPage = 50) const;
 
 private:
     struct Mot
@@ -60,7 +62,6 @@ private:
     QList<Trouve> Noms(const QStringList& mots) const;
     void Note(const QString& debut, bool premier, QList<quint32>& notes) const;
 
-    QSqlDatabase base_;
     QList<Mot> mots_; ///< sorted
     QList<Nom> noms_; ///< by rank
 };

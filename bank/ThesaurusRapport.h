@@ -47,6 +47,9 @@ public:
     /// The interactions at or above a level. Two products that share a substance have none with themselves.
     RapportInteractions Rapport(const QList<ProduitAVerifier>& produits, Niveau minimum) const;
 
+    /// True when the thesaurus knows the substance of a code.
+    bool Connait(int code) const { return entreesDeCode_.contains(code); }
+
     const QList<EntreeThesaurus>& Entrees() const { return entrees_; }
     const QList<Interaction>& Liste() const { return interactions_; }
 

@@ -153,14 +153,14 @@ void TestDonneesReelles::CommonNames()
 void TestDonneesReelles::Searches()
 {
     const Recherche recherche(banque_->Base());
-    const PageTrouvee paracetamol = recherche.Cherche(QStringLiteral("parac 1 000"));
+    const PageTrouvee paracetamol = recherche.Cherche(banque_->Base(), QStringLiteral("parac 1 000"));
     QVERIFY2(paracetamol.Total > 20, qPrintable(QString::number(paracetamol.Total)));
     for (const PackTrouve& pack : paracetamol.Packs) {
         const bool gramme =
             pack.Nom.contains(QLatin1String("000")) || pack.Nom.contains(QLatin1String("1 g"));
         QVERIFY2(pack.Nom.startsWith(QLatin1String("PARAC")) && gramme, qPrintable(pack.Nom));
     }
-    QVERIFY(recherche.Cherche(QStringLiteral("doliprane 1000 comprime"))
+    QVERIFY(recherche.Cherche(banque_->Base(), QStringLiteral("doliprane 1000 comprime"))
                 .Packs.first()
                 .Nom.startsWith(QStringLiteral("DOLIPRANE 1000 mg, comprimé,")));
 }

@@ -66,7 +66,7 @@ void TestRechercheBanque::Finds()
 {
     QFETCH(QString, question);
     QFETCH(QString, premier);
-    const PageTrouvee page = recherche_.Cherche(question);
+    const PageTrouvee page = recherche_.Cherche(banque_.Base(), question);
     QCOMPARE(page.Packs.isEmpty(), premier.isEmpty());
     if (!premier.isEmpty()) {
         QVERIFY2(page.Packs.first().Nom.startsWith(premier), qPrintable(page.Packs.first().Nom));
@@ -76,12 +76,12 @@ void TestRechercheBanque::Finds()
 void TestRechercheBanque::BestMatchFirst()
 {
     // "5" begins the second, and is whole in the first.
-    const PageTrouvee forces = recherche_.Cherche(QStringLiteral("ramipril 1"));
+    const PageTrouvee forces = recherche_.Cherche(banque_.Base(), QStringLiteral("ramipril 1"));
     QCOMPARE(forces.Total, 2);
     // A name that begins with the word before those that bear it behind.
-    const PageTrouvee noms = recherche_.Cherche(QStringLiteral("benz"));
+    const PageTrouvee noms = recherche_.Cherche(banque_.Base(), QStringLiteral("benz"));
     QVERIFY(noms.Packs.first().Nom.startsWith(QLatin1String("BENZATHINE")));
-    const PageTrouvee doses = recherche_.Cherche(QStringLiteral("amlodipine velmont"));
+    const PageTrouvee doses = recherche_.Cherche(banque_.Base(), QStringLiteral("amlodipine velmont"));
     QCOMPARE(doses.Total, 4);
     QVERIFY(doses.Packs[0].Nom.contains(QLatin1String(" 5 mg")));
     QVERIFY(doses.Packs[0].Nom.contains(QLatin1String("de 30 ")));
@@ -91,22 +91,23 @@ void TestRechercheBanque::BestMatchFirst()
 
 void TestRechercheBanque::MarketedPacksOnly()
 {
-    QCOMPARE(recherche_.Cherche(QStringLiteral("ancienvel")).Total, 0);
-    QCOMPARE(recherche_.Cherche(QStringLiteral("sansboite")).Total, 0);
-    const PageTrouvee cytovel = recherche_.Cherche(QStringLiteral("cytovel"));
+    QCOMPARE(recherche_.Cherche(banque_.Base(), QStringLiteral("ancienvel")).Total, 0);
+    QCOMPARE(recherche_.Cherche(banque_.Base(), QStringLiteral("sansboite")).Total, 0);
+    const PageTrouvee cytovel = recherche_.Cherche(banque_.Base(), QStringLiteral("cytovel"));
     QCOMPARE(cytovel.Total, 4); // of six
     QCOMPARE(cytovel.Packs.first().Prix, 1545.27);
     QVERIFY(!cytovel.Packs.last().Prix);
-    QVERIFY(recherche_.Cherche(QStringLiteral("arnica")).Packs.first().Homeopathie);
+    QVERIFY(recherche_.Cherche(banque_.Base(), QStringLiteral("arnica")).Packs.first().Homeopathie);
 }
 
 void TestRechercheBanque::Pages()
 {
-    const PageTrouvee tout = recherche_.Cherche(QStringLiteral("velmont"), 0, 1000);
+    const PageTrouvee tout = recherche_.Cherche(banque_.Base(), QStringLiteral("velmont"), 0, 1000);
     QCOMPARE(tout.Packs.size(), tout.Total);
     QList<qint32> ids;
     for (int page = 0; page * 7 < tout.Total; ++page) {
-        for (const PackTrouve& pack : recherche_.Cherche(QStringLiteral("velmont"), page, 7).Packs) {
+        for (const PackTrouve& pack :
+             recherche_.Cherche(banque_.Base(), QStringLiteral("velmont"), page, 7).Packs) {
             ids.append(pack.Id);
         }
     }
@@ -114,7 +115,7 @@ void TestRechercheBanque::Pages()
     for (qsizetype i = 0; i < ids.size(); ++i) {
         QCOMPARE(ids[i], tout.Packs[i].Id);
     }
-    QVERIFY(recherche_.Cherche(QStringLiteral("velmont"), 1000).Packs.isEmpty());
+    QVERIFY(recherche_.Cherche(banque_.Base(), QStringLiteral("velmont"), 1000).Packs.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestRechercheBanque)

@@ -99,7 +99,8 @@ void Recherche(benchmark::State& state)
     std::vector<double> temps;
     for ([[maybe_unused]] auto _ : state) {
         for (const QString& question : questions) {
-            temps.push_back(bench::Secondes([&] { benchmark::DoNotOptimize(recherche.Cherche(question)); }));
+            temps.push_back(bench::Secondes(
+                [&] { benchmark::DoNotOptimize(recherche.Cherche(banque.Base(), question)); }));
         }
     }
     std::ranges::sort(temps);
