@@ -42,14 +42,15 @@ Entier Bibliotheque::Demarre(Poignee* session)
         return kDemandeVide;
     }
     *session = 0;
-    const Entier statut = session_ ? session_->Statut() : kEchec;
+    Entier statut = session_ ? session_->Statut() : kEchec;
     if (statut != kPrete && statut != kDemarrage) {
         session_.reset();
         session_ = std::make_unique<Session>(Fichier());
         numero_ = Remis.Reserve();
+        statut = kDemarrage; // however quick it is: who starts one asks for its result
     }
     *session = numero_;
-    return session_->Statut();
+    return statut;
 }
 
 Session* Bibliotheque::Prete(Poignee session) const
