@@ -64,6 +64,18 @@ QString SansBalises(QString html)
     return html.replace(balise, QStringLiteral(" "));
 }
 
+/// A page may leave out what the toolkit wants to find: the end of these tags, without which it takes all
+/// that follows for their content and hides it, and the kind of a style sheet.
+QString PourLaVue(QString html)
+{
+    static const QRegularExpression style =
+        SansCasse(QStringLiteral("<link\\b(?=[^>]*\\bstylesheet\\b)(?![^>]*\\btype\\s*=)"));
+    static const QRegularExpression sansFin =
+        SansCasse(QStringLiteral("<(meta|link|base)\\b([^>]*?)/?>(?!\\s*</\\1)"));
+    html.replace(style, QStringLiteral("<link type=\"text/css\" "));
+    return html.replace(sansFin, QStringLiteral("<\\1\\2></\\1>"));
+}
+
 } // namespace
 
 Recu LitLeFichier(const QUrl& adresse, qint64 maximum)
@@ -112,7 +124,7 @@ QString HtmlDeLaPage(const QByteArray& octets, const QByteArray& jeu)
     }
     static const QRegularExpression etendue =
         SansCasse(QStringLiteral("\\b((?:col|row)span\\s*=\\s*[\"']?\\s*)\\+?0*[1-9]\\d{2,}"));
-    return texte.replace(etendue, QStringLiteral("\\1100"));
+    return PourLaVue(texte.replace(etendue, QStringLiteral("\\1100")));
 }
 
 QString PageDUnePhrase(const QString& phrase)

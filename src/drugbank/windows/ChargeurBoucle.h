@@ -2,8 +2,8 @@
 
 #include "drugbank/PageDocument.h"
 
+#include <QHash>
 #include <QNetworkAccessManager>
-#include <QSet>
 #include <functional>
 
 class QNetworkReply;
@@ -33,10 +33,12 @@ public:
 private:
     void Surveille(QNetworkReply* reponse, qint64 maximum);
     void Redirige(QNetworkReply* reponse, const QUrl& cible);
+    /// Ends an answer, complete or cut short, and hands on what it came to. Once for each.
+    void Conclut(QNetworkReply* reponse, const Recu& recu);
 
     int delai_;
     QNetworkAccessManager reseau_;
-    QSet<QNetworkReply*> reponses_;
+    QHash<QNetworkReply*, Suite> suites_; ///< of the answers still to come
 };
 
 } // namespace drugbank

@@ -1,5 +1,6 @@
 #include "drugbank/windows/VueDocument.h"
 
+#include "application/windows/Sablier.h"
 #include "drugbank/AdresseDocument.h"
 #include "drugbank/messagesDocument.h"
 
@@ -38,6 +39,22 @@ bool EstUneImage(QByteArray octets)
 {
     QBuffer tampon(&octets);
     return QImageReader(&tampon).canRead();
+}
+
+/// The positions of the characters that stand for a picture; those of one format side by side are one
+/// fragment.
+QList<int> PlacesDesImages(const QTextDocument& document)
+{
+    QList<int> places;
+    for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next()) {
+        for (auto mot = bloc.begin(); !mot.atEnd(); ++mot) {
+            const QTextFragment fragment = mot.fragment();
+            for (int i = 0; fragment.charFormat().isImageFormat() && i < fragment.length(); ++i) {
+                places.append(fragment.position() + i);
+            }
+        }
+    }
+    return places;
 }
 
 } // namespace
@@ -137,6 +154,7 @@ void VueDocument::RecoitPage(const Recu& recu, const QUrl& adresse)
 
 void VueDocument::Pose(const QString& html)
 {
+    const application::Sablier sablier;
     html_ = html;
     images_.clear();
     auto* neuf = new QTextDocument(this);
@@ -154,17 +172,17 @@ void VueDocument::Pose(const QString& html)
 
 void VueDocument::NommeImages(QTextDocument& document)
 {
-    QTextCursor curseur(&document);
-    while (!curseur.atEnd()) {
+    for (const int place : PlacesDesImages(document)) {
+        QTextCursor curseur(&document);
+        curseur.setPosition(place);
         curseur.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
         QTextImageFormat format = curseur.charFormat().toImageFormat();
-        if (format.isValid() && !format.name().startsWith(QLatin1String("data:"))) {
+        if (!format.name().startsWith(QLatin1String("data:"))) {
             const QString nom = QStringLiteral("wb:%1").arg(images_.size());
             images_.insert(nom, page_.resolved(QUrl(format.name())));
             format.setName(nom);
             curseur.setCharFormat(format);
         }
-        curseur.clearSelection();
     }
 }
 
