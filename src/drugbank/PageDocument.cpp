@@ -15,6 +15,7 @@ namespace {
 
 constexpr qsizetype kEnTete = 2048; // the character set stands in these first bytes of a page
 constexpr int kTablesEmboitees = 40;
+constexpr int kCellules = 6'000; // of all tables together
 
 QRegularExpression SansCasse(const QString& motif)
 {
@@ -41,27 +42,39 @@ bool EstWindows1252(const QByteArray& jeu)
     return jeu.contains("1252") || jeu.contains("8859-1") || jeu == "latin1" || jeu == "us-ascii";
 }
 
-bool EmboiteTropDeTables(const QString& html)
+bool ATropDeTables(const QString& html)
 {
-    static const QRegularExpression balise = SansCasse(QStringLiteral("<(/?)table\\b"));
-    int ouvertes = 0;
-    for (auto trouves = balise.globalMatch(html); trouves.hasNext() && ouvertes <= kTablesEmboitees;) {
-        const bool fermee = !trouves.next().captured(1).isEmpty();
-        ouvertes = std::max(0, ouvertes + (fermee ? -1 : 1));
+    static const QRegularExpression balise = SansCasse(QStringLiteral("<(/?)(table|t[dh])\\b"));
+    int emboitees = 0;
+    int cellules = 0;
+    for (auto trouves = balise.globalMatch(html); trouves.hasNext();) {
+        const auto trouve = trouves.next();
+        const bool fermee = !trouve.captured(1).isEmpty();
+        if (trouve.captured(2).size() > 2) {
+            emboitees = std::max(0, emboitees + (fermee ? -1 : 1));
+        } else if (!fermee) {
+            ++cellules;
+        }
+        if (emboitees > kTablesEmboitees || cellules > kCellules) {
+            return true;
+        }
     }
-    return ouvertes > kTablesEmboitees;
+    return false;
 }
 
-QString TexteNu(const QString& texte)
+QString TexteNu(const QString& html)
 {
-    return QStringLiteral("<pre style=\"white-space: pre-wrap\">") + texte.toHtmlEscaped() +
-           QStringLiteral("</pre>");
+    return QStringLiteral("<pre style=\"white-space: pre-wrap\">") + html + QStringLiteral("</pre>");
 }
 
+/// The text of a page without its tags; what it writes as "&eacute;" stays so.
 QString SansBalises(QString html)
 {
+    static const QRegularExpression muet(QStringLiteral("<(script|style)\\b.*?</\\1\\s*>"),
+                                         QRegularExpression::CaseInsensitiveOption |
+                                             QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression balise(QStringLiteral("<[^>]*>"));
-    return html.replace(balise, QStringLiteral(" "));
+    return html.remove(muet).replace(balise, QStringLiteral(" ")).replace(u'<', QStringLiteral("&lt;"));
 }
 
 /// A page may leave out what the toolkit wants to find: the end of these tags, without which it takes all
@@ -117,9 +130,9 @@ QString HtmlDeLaPage(const QByteArray& octets, const QByteArray& jeu)
         return {};
     }
     if (!texte.contains(u'<')) {
-        return TexteNu(texte);
+        return TexteNu(texte.toHtmlEscaped());
     }
-    if (EmboiteTropDeTables(texte)) {
+    if (ATropDeTables(texte)) {
         return TexteNu(SansBalises(texte));
     }
     static const QRegularExpression etendue =

@@ -27,8 +27,8 @@ Recu LitLeFichier(const QUrl& adresse, qint64 maximum);
 QString TexteDeLaPage(const QByteArray& octets, const QByteArray& jeu = {});
 
 /// What is shown of the bytes of a page: the page itself, or a plain text as one. Spans of table cells
-/// beyond 100 are cut to that, and one whose tables are nested too deep becomes its bare text: laying it out
-/// would take the memory. A null text for bytes that are no text.
+/// beyond 100 are cut to that, and one whose tables are nested too deep or have too many cells becomes its
+/// bare text: laying it out would take the memory, or the patience. A null text for bytes that are no text.
 QString HtmlDeLaPage(const QByteArray& octets, const QByteArray& jeu = {});
 
 /// A short page of the program's own that says one sentence.

@@ -65,6 +65,11 @@ private Q_SLOTS:
         const QByteArray emboitees = QByteArray("<table><tr><td>").repeated(50'000) + "fin";
         const QString html = drugbank::HtmlDeLaPage(emboitees);
         QVERIFY(html.contains(QStringLiteral("fin")) && !html.contains(QStringLiteral("<table")));
+        const QByteArray longue = "<table>" + QByteArray("<tr><td>d&eacute;j\xE0</td>").repeated(30'000);
+        QVERIFY(drugbank::HtmlDeLaPage("<script>\na</script>" + longue)
+                    .contains(QStringLiteral("  d&eacute;jà ")));
+        QVERIFY(
+            !drugbank::HtmlDeLaPage("<script>secret</script>" + longue).contains(QStringLiteral("secret")));
         const QByteArray suivies = QByteArray("<table></table>").repeated(100);
         QCOMPARE(drugbank::HtmlDeLaPage(suivies), QString::fromLatin1(suivies));
     }
