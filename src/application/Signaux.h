@@ -35,6 +35,8 @@ Q_SIGNALS:
     void PatientsChanges();
     /// The personal pharmacy, or the local one, changed from outside the picker.
     void PharmacieChange();
+    /// The safety copy of the day could not be made, with the sentence for the doctor.
+    void SauvegardeEchouee(const QString& phrase);
     /// A window asks for the end of the program: session closed, tray icon removed, windows unloaded.
     void FinDemandee();
 };

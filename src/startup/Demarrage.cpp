@@ -1,6 +1,7 @@
 #include "startup/Demarrage.h"
 
 #include "application/Signaux.h"
+#include "backup/Restauration.h"
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
@@ -41,6 +42,12 @@ void CopieChezMedecin(const Chemins& chemins, const QString& nom)
     if (!medecin.isEmpty() && !FichierExiste(Joint(medecin, nom))) {
         common::CopieFichier(Joint(chemins.CheminData, nom), Joint(medecin, nom));
     }
+}
+
+/// A copy that was being put back when the program ended.
+void FinitRestauration(Contexte& contexte, const QString& arbre)
+{
+    outside::Tente(contexte.Dehors.Boites, [&] { backup::FinitRestauration(arbre); });
 }
 
 void CorrigePositionLogo(settings::Options& options)
@@ -173,6 +180,7 @@ bool Demarrage::PrepareDonnees()
         return false;
     }
     ExigeCheminData(chemins);
+    FinitRestauration(contexte_, chemins.CheminData);
     DeplaceInstallation(chemins);
     DeplaceCommun(contexte_);
     common::CreeDossierPrive(Joint(chemins.CheminData, QStringLiteral("Certificats")));
@@ -185,6 +193,7 @@ bool Demarrage::RegleTravail()
     settings::Options& options = contexte_.Reglages.Options;
     options = {};
     const bool ancienne = settings::LitOptions(options, contexte_.Chemins.CheminData);
+    premier_ = !ancienne;
     try {
         ancienne ? MetOptionsAJour(contexte_) : CreeOptions(contexte_);
         return RegleDepuisOptions();
@@ -206,6 +215,7 @@ bool Demarrage::RegleDepuisOptions()
         return false;
     }
     RegleCheminTravail(contexte_);
+    FinitRestauration(contexte_, contexte_.Chemins.CheminTravail);
     RegleCheminMedecin(contexte_);
     return true;
 }

@@ -36,6 +36,8 @@ public:
     /// Runs the whole load. False when an answer of the doctor ends the program. Throws `Erreur` when
     /// the data cannot be prepared; nothing guards the program against that.
     bool Execute();
+    /// Whether this load made the data tree: nothing in it is worth a safety copy yet.
+    bool Premier() const { return premier_; }
 
 private:
     bool PrepareDonnees();
@@ -45,6 +47,7 @@ private:
 
     application::Contexte& contexte_;
     Ecrans ecrans_;
+    bool premier_ = false;
 };
 
 } // namespace startup

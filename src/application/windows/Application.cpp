@@ -1,8 +1,12 @@
 #include "application/windows/Application.h"
 
 #include "application/Sauvegarde.h"
+#include "backup/Sauvegarde.h"
+#include "backup/messages.h"
+#include "common/Erreur.h"
 #include "medication/windows/FrmPoso.h"
 #include "outside/Boites.h"
+#include "outside/Horloge.h"
 #include "outside/Plateau.h"
 #include "patients/windows/FrmPatient.h"
 #include "settings/windows/FrmConfOrdo.h"
@@ -10,6 +14,7 @@
 #include "startup/windows/FrmDepart.h"
 
 #include <QApplication>
+#include <QThreadPool>
 
 namespace application {
 
@@ -25,6 +30,7 @@ Application::Application(const Dehors& dehors, const QString& cheminProgramme,
 Application::~Application()
 {
     contexte_.Dehors.Plateau.Ecoute({});
+    QThreadPool::globalInstance()->waitForDone(); // the safety copy of the day
 }
 
 bool Application::Demarre()
@@ -35,7 +41,26 @@ bool Application::Demarre()
         return false;
     }
     fenetres_.Donne<startup::FrmDepart>().Ouvre();
+    if (!demarrage.Premier()) {
+        SauveDuJour();
+    }
     return true;
+}
+
+void Application::SauveDuJour()
+{
+    const backup::Lieu lieu = backup::LieuDuTravail(contexte_.Chemins);
+    const QDate jour = contexte_.Dehors.Horloge.Aujourdhui();
+    QThreadPool::globalInstance()->start([this, lieu, jour] {
+        try {
+            backup::SauveDuJour(lieu, jour);
+        } catch (const common::Erreur& erreur) {
+            const QString phrase = backup::messages::SauvegardeEchouee(erreur.Phrase());
+            QMetaObject::invokeMethod(
+                &etat_.Signaux, [this, phrase] { Q_EMIT etat_.Signaux.SauvegardeEchouee(phrase); },
+                Qt::QueuedConnection);
+        }
+    });
 }
 
 void Application::ArretSurErreur(const QString& phrase, const QString& lieu)

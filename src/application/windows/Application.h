@@ -37,6 +37,8 @@ private:
     startup::Ecrans Ecrans();
     bool MontreChoixBase(int rangStockage);
     void ChargeFenetres();
+    /// The safety copy of the day, beside the doctor's work.
+    void SauveDuJour();
     void Arrete();
 
     application::Etat etat_;

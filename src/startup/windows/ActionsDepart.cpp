@@ -1,4 +1,5 @@
 #include "application/Signaux.h"
+#include "backup/windows/FrmRestaure.h"
 #include "medication/windows/FrmMedoc.h"
 #include "prescription/Editeur.h"
 #include "prescription/windows/FrmJournal.h"
@@ -69,6 +70,7 @@ void FrmDepart::BrancheMenus()
     };
     suit(menus_.mnuLogo, [this] { OuvreOptionsDuMedecin(kLogo); });
     suit(menus_.mnuBase, [this] { OuvreOptionsDuMedecin(kPharmacies); });
+    suit(menus_.mnuRestaure, [this] { fenetres_.OuvreModale<backup::FrmRestaure>(); });
     suit(menus_.mnuJournal, [this] { fenetres_.OuvreModale<prescription::FrmJournal>(); });
     suit(menus_.mnuAideOld, [this] { OuvreAide(contexte_); });
     suit(menus_.mnuAideNew, [this] { OuvreNouvelleAide(contexte_); });

@@ -47,6 +47,7 @@ QLayout* Face(QWidget* fenetre, QLabel* conseil, QWidget* proposition)
 ControlesDepart::ControlesDepart(QWidget* fenetre)
     : Cartes{CarteDuMedecin(fenetre), CarteDesActions(fenetre)},
       Conseil(style::Legende({}, QStringLiteral("L'en-tête de vos ordonnances s'affiche ici."), fenetre)),
+      LblSauvegarde(style::Avertissement(QStringLiteral("LblSauvegarde"), {}, fenetre)),
       CartePropose(new CarteEntete(fenetre))
 {
     auto* colonne = new QVBoxLayout;
@@ -57,6 +58,10 @@ ControlesDepart::ControlesDepart(QWidget* fenetre)
     }
     CmdQuitter = style::Bouton(QStringLiteral("CmdQuitter"), QStringLiteral("&Quitter Scriptelle"),
                                QStringLiteral("box-arrow-right"), fenetre);
+    LblSauvegarde->setWordWrap(true);
+    LblSauvegarde->setFixedWidth(kLargeurColonne);
+    LblSauvegarde->hide();
+    colonne->addWidget(LblSauvegarde);
     colonne->addStretch();
     colonne->addWidget(CmdQuitter);
     auto* disposition = new QHBoxLayout(fenetre);

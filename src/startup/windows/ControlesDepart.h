@@ -20,6 +20,7 @@ struct ControlesDepart
     QLabel* PctLogo;
     QList<QWidget*> Cartes;    ///< the panels beside the face
     QLabel* Conseil;           ///< stands on a face without letterhead
+    QLabel* LblSauvegarde;     ///< what kept the safety copy of the day; hidden
     CarteEntete* CartePropose; ///< the offer of a first letterhead; hidden
     QPushButton* CmdNO;
     QPushButton* CmdMedecins;

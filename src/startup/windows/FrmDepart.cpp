@@ -139,6 +139,10 @@ void FrmDepart::BrancheSignaux()
         RevetSansMedecin(true);
         PeintFace();
     });
+    connect(&contexte_.Signaux, &Signaux::SauvegardeEchouee, this, [this](const QString& phrase) {
+        controles_.LblSauvegarde->setText(phrase);
+        controles_.LblSauvegarde->show();
+    });
     contexte_.Dehors.Plateau.Ecoute([this](outside::Plateau::Clic clic) { RecoitClic(clic); });
 }
 

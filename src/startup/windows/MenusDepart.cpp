@@ -65,6 +65,9 @@ void MenusDepart::RemplitOutils()
         "usb-drive");
     mnuOutils->addSeparator();
     mnuJournal = Entree(mnuOutils, "mnuJournal", QStringLiteral("&Journal des ordonnances"), "journal-text");
+    mnuOutils->addSeparator();
+    mnuRestaure =
+        Entree(mnuOutils, "mnuRestaure", QStringLiteral("R&estaurer une sauvegarde…"), "clock-history");
 }
 
 void MenusDepart::RemplitAide()

@@ -16,6 +16,7 @@ struct MenusDepart
     QAction* mnuLogo;
     QAction* mnuBase;
     QAction* mnuMAJClef;
+    QAction* mnuRestaure;
     QAction* mnuJournal;
 
     QMenu* MnuAideInv;

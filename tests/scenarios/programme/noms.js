@@ -2,7 +2,7 @@
 const noms = {
     FrmChoixBase: "CboBase CboMed Label2 lblversion CmdSuite CmdAnn",
     FrmDepart: "Label1 CboListeMed CmdNO CmdMedecins CmdNO0 CmdOptions CmdOutils CmdAide CmdAP CmdQuitter PctLogo " +
-        "lblversion mnuOutils mnuRepare mnuLogo mnuBase mnuTransfertDonn mnuMAJClef mnuJournal MnuAideInv " +
+        "lblversion mnuOutils mnuRepare mnuLogo mnuBase mnuTransfertDonn mnuMAJClef mnuJournal mnuRestaure MnuAideInv " +
         "mnuAideOld mnuAideNew mnuInvisible mnuOrdonnance mnuMinimiser mnuAccueil mnuOptions mnuHauteurN mnuHauteurP " +
         "mnuAide mnuAideOldIT mnuAideNewIT mnuAPropos mnuQuitter",
     FrmMedecins: "LstMed LblMed CmdNouveau CmdSupprime CmdDefaut CmdQuitter CmdAide",

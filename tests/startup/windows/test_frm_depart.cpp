@@ -89,7 +89,8 @@ private Q_SLOTS:
         startup::FrmDepart& depart = programme.Installe();
         QCOMPARE(
             Noms(depart, "mnuOutils").join(QLatin1Char(' ')),
-            QStringLiteral("mnuRepare - mnuLogo - mnuBase - mnuTransfertDonn - mnuMAJClef - mnuJournal"));
+            QStringLiteral("mnuRepare - mnuLogo - mnuBase - mnuTransfertDonn - mnuMAJClef - mnuJournal - "
+                           "mnuRestaure"));
         QCOMPARE(Noms(depart, "MnuAideInv").join(QLatin1Char(' ')), QStringLiteral("mnuAideOld mnuAideNew"));
         QCOMPARE(
             Noms(depart, "mnuInvisible").join(QLatin1Char(' ')),

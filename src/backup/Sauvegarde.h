@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+namespace startup {
+struct Chemins;
+}
+
+namespace backup {
+
+/// A data tree and where its safety copies are kept.
+struct Lieu
+{
+    QString Arbre;
+    QString Dossier;    ///< "Sauvegardes" of the own disk
+    QString Complement; ///< of the copies' names: none for the tree of the own disk
+};
+
+/// That of the run: the copies of `CheminTravail`.
+Lieu LieuDuTravail(const startup::Chemins& chemins);
+
+/// A copy that is there.
+struct Sauvegarde
+{
+    QString Chemin;
+    QDateTime Moment; ///< without a time of the day for that of a day
+    bool AvantRestauration = false;
+};
+
+/// The copies of that tree, the newest first.
+QList<Sauvegarde> ListeSauvegardes(const Lieu& lieu);
+
+/// Copies the tree unless that day has its copy already, then removes the copies that are not kept any more.
+/// False when there was nothing to do. The former copies stand whatever fails. Throws `Erreur`. May run on a
+/// thread of its own.
+bool SauveDuJour(const Lieu& lieu, const QDate& jour);
+
+/// Copies the tree as it stands before a copy is put back; the last three of these are kept. Throws `Erreur`.
+void SauveAvantRestauration(const Lieu& lieu, const QDateTime& moment);
+
+/// The files of the tree that a copy holds, as paths below it.
+QStringList FichiersDeLArbre(const QString& arbre);
+
+} // namespace backup
