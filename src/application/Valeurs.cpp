@@ -235,6 +235,7 @@ void AjouteBanque(Registre& registre)
     VARIABLE(Banque, RetourInitBanque);
     VARIABLE(Banque, ChargementBanque);
     VARIABLE(Banque, BanqueInitialisee);
+    VARIABLE(Banque, RapportInteractions);
 }
 
 void AjouteChoix(Registre& registre)

@@ -27,10 +27,12 @@ struct Banque
     qint32 RetourInitBanque = 0;  ///< status of the last step of the start, 0 when all is well
     quint8 ChargementBanque = 0;  ///< 1 when the library was there at the start of the session
     quint8 BanqueInitialisee = 0; ///< 1 once the start has been run, whatever its outcome
-    bool SessionManquee = false;  ///< the start left no session: what is found in it says nothing
-    ResolutionCip ProduitDuCip;   ///< of the session in use, empty without one
-    bool ModuleAide = false;      ///< the helper library could be loaded
-    std::shared_ptr<AccesBanque> Acces; ///< null while no bank is open: a search finds nothing
+    QString RapportInteractions;  ///< of the lines at the last calculation, its lines ended by CR LF
+    bool InteractionsNonVerifiees = false; ///< the last calculation found no bank that answers
+    bool SessionManquee = false;           ///< the start left no session: what is found in it says nothing
+    ResolutionCip ProduitDuCip;            ///< of the session in use, empty without one
+    bool ModuleAide = false;               ///< the helper library could be loaded
+    std::shared_ptr<AccesBanque> Acces;    ///< null while no bank is open: a search finds nothing
     /// Asks the helper library for a product: 0 when it is installed. Empty while no library is bound.
     std::function<qint32(qint32 produit)> VidalHelper_getVidalAPIPath;
 };

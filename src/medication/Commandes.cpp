@@ -96,6 +96,7 @@ void EffaceTout(application::Contexte& contexte)
     ordonnance.NbMedZone1 = 0;
     ordonnance.NbMedZone2 = 0;
     contexte.Choix.NoeudChoisi = kAucunNoeud;
+    contexte.Banque.RapportInteractions.clear();
     prescription::EffaceApercu(contexte);
 }
 

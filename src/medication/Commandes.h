@@ -35,7 +35,8 @@ bool SauteLigne(application::Contexte& contexte);
 /// Cancel.
 std::optional<Zone> ZoneDePosologie(application::Contexte& contexte);
 
-/// `CmdClear`: the lines, the counts, the preview and the selected node are reset.
+/// `CmdClear`: the lines, the counts, the report of interactions, the preview and the selected node are
+/// reset.
 void EffaceTout(application::Contexte& contexte);
 
 /// `CmdOrdo` before the window hides: the message on empty lists, the counts.

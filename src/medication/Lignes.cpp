@@ -96,8 +96,8 @@ void RemetLigne(prescription::Ordonnance& ordonnance, Choix& choix, Zone zone, c
     const int indice = IndexEdition(choix, zone);
     Entrees(ordonnance, zone)[indice] = EntreeDe(saisie);
     Lignes(ordonnance, zone)
-        .Ajoute(
-            {prescription::TexteDeLigne(saisie.TxtMedoc, kBlancsReprise, choix.IdentifiantRepris), indice});
+        .Ajoute({prescription::TexteDeLigne(saisie.TxtMedoc, kBlancsReprise, choix.IdentifiantRepris), indice,
+                 choix.AncienRepris});
     choix.OrigineEdition = 0;
 }
 
@@ -130,6 +130,7 @@ std::optional<Saisie> ReprendLigne(prescription::Ordonnance& ordonnance, Choix& 
     choix.ListeSource = static_cast<quint8>(zone);
     IndexEdition(choix, zone) = ligne.Indice;
     choix.IdentifiantRepris = ligne.Texte.right(kFinDeLigne).trimmed();
+    choix.AncienRepris = ligne.AncienFormat;
     lignes.Retire(rang);
     return SaisieDe(ordonnance, zone, ligne.Indice);
 }
@@ -141,9 +142,9 @@ bool PasseLigne(prescription::Ordonnance& ordonnance, const Choix& choix, Zone s
     if (choix.ListeSource != static_cast<quint8>(source) || !Existe(lignes, rang)) {
         return false;
     }
-    const QString texte = lignes.Lignes()[rang].Texte;
-    const int indice = AjouteEntree(ordonnance, Autre(source), EntreeDe(saisie));
-    Lignes(ordonnance, Autre(source)).Ajoute({texte, indice});
+    prescription::Ligne ligne = lignes.Lignes()[rang];
+    ligne.Indice = AjouteEntree(ordonnance, Autre(source), EntreeDe(saisie));
+    Lignes(ordonnance, Autre(source)).Ajoute(ligne);
     lignes.Retire(rang);
     return true;
 }

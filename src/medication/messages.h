@@ -207,4 +207,46 @@ inline QString EditerANouveau()
                           "Poursuivre?");
 }
 
+inline QString SansGenerique()
+{
+    return QStringLiteral("Pas de spécialité générique.");
+}
+
+inline QString GeneriquesNonCherches()
+{
+    return QStringLiteral(
+        "La banque de médicaments ne répond pas : les génériques n'ont pas pu être cherchés.");
+}
+
+inline QString AucuneInteractionImage()
+{
+    return QStringLiteral("\r\n\r\n\r\n\r\n\r\n\r\n"
+                          "           AUCUNE  INTERACION  MEDICAMENTEUSE  DANS  L'ORDONNANCE !");
+}
+
+inline QString AucuneInteraction()
+{
+    return QStringLiteral("\r\n\r\n\r\n\r\n\r\n\r\n"
+                          "         AUCUNE  INTERACION  MEDICAMENTEUSE  DANS  L'ORDONNANCE !");
+}
+
+inline QString InteractionsNonVerifiees()
+{
+    return QStringLiteral("Les interactions de cette ordonnance n'ont pas pu être vérifiées : "
+                          "la banque de médicaments ne répond pas.");
+}
+
+inline QString InteractionsNonVerifieesCourt()
+{
+    return QStringLiteral("Interactions non vérifiées : la banque de médicaments ne répond pas.");
+}
+
+inline QString LigneNonVerifiee(const QString& titre)
+{
+    return QStringLiteral("Interactions non vérifiées pour : ") + titre +
+           QStringLiteral(
+               "\r\nCette ligne porte un code d'une ancienne version, qui ne désigne pas un produit "
+               "de la banque.\r\n\r\n");
+}
+
 } // namespace medication::messages

@@ -4,6 +4,7 @@
 #include "common/Dates.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
+#include "drugbank/Banque.h"
 #include "outside/Horloge.h"
 #include "prescription/Apercu.h"
 #include "prescription/PageCertificat.h"
@@ -117,6 +118,8 @@ void VideDocument(application::Contexte& contexte)
     SupprimeCertificatEnMain(contexte.Chemins.CheminMedecin);
     OublieLePatient(contexte);
     VideLesZones(contexte.Ordonnance);
+    contexte.Banque.RapportInteractions.clear();
+    contexte.Banque.InteractionsNonVerifiees = false;
     EffaceApercu(contexte);
     Q_EMIT contexte.Signaux.DocumentVide();
     Q_EMIT contexte.Signaux.OrdonnanceChange();

@@ -91,7 +91,19 @@ QString TexteDeLigne(const QString& titre, int blancs, const QString& identifian
 
 QString IdentifiantDeLigne(const QString& texte)
 {
-    return texte.right(kLongueurIdentifiant).trimmed();
+    const qsizetype debut = texte.size() - kLongueurIdentifiant;
+    const bool entier = debut <= 0 || texte[debut].isSpace() || texte[debut - 1].isSpace();
+    return entier ? texte.right(kLongueurIdentifiant).trimmed() : QString();
+}
+
+QString CodeAncien(const Ligne& ligne)
+{
+    const QString code = ligne.Texte.right(kLongueurHorsTitre).trimmed();
+    const bool produit = code.size() <= kLongueurIdentifiant && !ligne.AncienFormat;
+    const bool aucun = code == QLatin1String("0") || code == QLatin1String("1");
+    bool nombre = false;
+    code.toULongLong(&nombre);
+    return produit || aucun || !nombre ? QString() : code;
 }
 
 QString TitreDeLigne(const QString& texte)

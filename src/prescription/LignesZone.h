@@ -10,6 +10,7 @@ struct Ligne
 {
     QString Texte;
     int Indice = 0;
+    bool AncienFormat = false; ///< its identifier dates from before product ids were stored
     bool operator==(const Ligne&) const = default;
 };
 
@@ -42,8 +43,12 @@ private:
 QString TitreMontre(const QString& titre);
 /// The text of a row: two blanks, the title as shown, that many blanks, the identifier.
 QString TexteDeLigne(const QString& titre, int blancs, const QString& identifiant);
-/// The identifier at the end of a row: its last ten characters, trimmed.
+/// The identifier at the end of a row: its last ten characters, trimmed. Empty when it goes on before them:
+/// the end of a longer code would be that of another product.
 QString IdentifiantDeLigne(const QString& texte);
+/// The code at the end of a row, up to thirty characters, when it is a medication's code of an old version
+/// instead of a product id; empty for any other row.
+QString CodeAncien(const Ligne& ligne);
 /// The title in a row: what stays without the last thirty characters, trimmed.
 QString TitreDeLigne(const QString& texte);
 

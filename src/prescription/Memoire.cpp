@@ -15,19 +15,37 @@ namespace prescription {
 
 namespace {
 
-int IdProduit(const Ligne& ligne, const QString& typeBase)
+int IdProduit(const Ligne& ligne)
 {
     bool nombre = false;
     const int identifiant = IdentifiantDeLigne(ligne.Texte).toInt(&nombre);
-    return nombre && typeBase != QLatin1String("BIP") ? identifiant : 1;
+    return nombre ? identifiant : 1;
+}
+
+/// A code of an old version becomes the product id that the bank knows for it; one that it does not know is
+/// kept whole, and asked about again if it was.
+LigneMemorisee LigneDe(const Ligne& rangee, const Entree& entree, int zone, const drugbank::Banque& banque)
+{
+    LigneMemorisee ligne{entree.Titre, entree.Posologie, zone};
+    if (!drugbank::EnModeBanque(banque)) {
+        return ligne;
+    }
+    const QString code = CodeAncien(rangee);
+    const auto produit = code.isEmpty() || !banque.ProduitDuCip ? std::nullopt : banque.ProduitDuCip(code);
+    if (!code.isEmpty() && !produit) {
+        ligne.IdProduit = code.toLongLong();
+        ligne.AncienFormat = rangee.AncienFormat;
+        return ligne;
+    }
+    ligne.IdProduit = produit.value_or(IdProduit(rangee));
+    return ligne;
 }
 
 void AjouteZone(QList<LigneMemorisee>& lignes, const LignesZone& rangees, const QList<Entree>& entrees,
-                int zone, const QString& typeBase)
+                int zone, const drugbank::Banque& banque)
 {
     for (const Ligne& rangee : rangees.Lignes()) {
-        const Entree entree = entrees.value(rangee.Indice);
-        lignes.append({entree.Titre, entree.Posologie, zone, IdProduit(rangee, typeBase)});
+        lignes.append(LigneDe(rangee, entrees.value(rangee.Indice), zone, banque));
     }
 }
 
@@ -35,11 +53,10 @@ void AjouteZone(QList<LigneMemorisee>& lignes, const LignesZone& rangees, const 
 QList<LigneMemorisee> LignesEnMain(const application::Contexte& contexte)
 {
     const Ordonnance& ordonnance = contexte.Ordonnance;
-    const QString& typeBase = contexte.Banque.TypeBase;
     QList<LigneMemorisee> lignes;
-    AjouteZone(lignes, ordonnance.LstChoix1, ordonnance.OrdoZone1, 1, typeBase);
+    AjouteZone(lignes, ordonnance.LstChoix1, ordonnance.OrdoZone1, 1, contexte.Banque);
     if (ordonnance.ChkALD == 1) {
-        AjouteZone(lignes, ordonnance.LstChoix2, ordonnance.OrdoZone2, 2, typeBase);
+        AjouteZone(lignes, ordonnance.LstChoix2, ordonnance.OrdoZone2, 2, contexte.Banque);
     }
     return lignes;
 }

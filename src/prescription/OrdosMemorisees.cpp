@@ -66,9 +66,9 @@ void AjouteLignes(storage::Base& medoc, const CleMemo& cle, const QList<LigneMem
     for (const LigneMemorisee& ligne : lignes) {
         medoc.Execute(
             QStringLiteral("insert into OrdoEnr (Titre, TitreLigne, Posologie, Zone, Patient, Datenais, "
-                           "IdProduit, Converti) values (?, ?, ?, ?, ?, ?, ?, 1)"),
+                           "IdProduit, Converti) values (?, ?, ?, ?, ?, ?, ?, ?)"),
             {cle.Titre, ligne.TitreLigne, ligne.Posologie, ligne.Zone, cle.NomPatient, cle.Datenais,
-             ligne.IdProduit});
+             ligne.IdProduit, ligne.AncienFormat ? 0 : 1});
     }
 }
 

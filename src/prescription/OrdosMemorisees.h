@@ -31,7 +31,7 @@ struct LigneMemorisee
     QString Posologie;
     int Zone = 1;              ///< 1 or 2
     qint64 IdProduit = 1;      ///< the bank's product id, a CIP code in rows of an old version; 1 for none
-    bool AncienFormat = false; ///< read only: its `Converti` holds a "0"
+    bool AncienFormat = false; ///< its `Converti` holds a "0"
     bool operator==(const LigneMemorisee&) const = default;
 };
 

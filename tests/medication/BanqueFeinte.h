@@ -15,6 +15,8 @@ public:
     QHash<qint32, QStringList> RangsGeneriques;              ///< by product
     QHash<QList<qint32>, QString> Rapports;                  ///< by the products in question
     QStringList Demandes;                                    ///< text and filter of each search
+    QList<QList<qint32>> ProduitsDemandes;                   ///< of each search of interactions
+    qint32 NiveauDemande = -1;                               ///< of the last one
 
     QList<drugbank::Pack> RecherchePacks(const QString& texte, qint32 filtre) override
     {
@@ -31,7 +33,12 @@ public:
     QList<drugbank::Document> Documents(qint32 pack) override { return ListeDocuments.value(pack); }
     QString Monographie(qint32 pack) override { return Monographies.value(pack); }
     QStringList Generiques(qint32 produit) override { return RangsGeneriques.value(produit); }
-    QString Interactions(const QList<qint32>& produits, qint32) override { return Rapports.value(produits); }
+    QString Interactions(const QList<qint32>& produits, qint32 niveau) override
+    {
+        ProduitsDemandes.append(produits);
+        NiveauDemande = niveau;
+        return Rapports.value(produits);
+    }
 };
 
 } // namespace support

@@ -156,6 +156,24 @@ private Q_SLOTS:
         QCOMPARE(ordonnance.LstChoix1.rowCount(), 3);
     }
 
+    void AnOldCodeStaysOneWhereverItsLineGoes()
+    {
+        Ordonnance ordonnance;
+        Trois(ordonnance);
+        const QString texte = prescription::TexteDeLigne(QStringLiteral("D"), 300, QStringLiteral("3595583"));
+        ordonnance.LstChoix1.Ajoute({texte, 0, true});
+        Choix choix;
+        ReprendLigne(ordonnance, choix, Zone::Un, 3);
+        RemetLigne(ordonnance, choix, Zone::Un, {QStringLiteral("D"), {}});
+        QVERIFY(ordonnance.LstChoix1.Lignes().back().AncienFormat);
+        choix.ListeSource = 1;
+        QVERIFY(PasseLigne(ordonnance, choix, Zone::Un, 3, {}));
+        QVERIFY(ordonnance.LstChoix2.Lignes().back().AncienFormat);
+        ReprendLigne(ordonnance, choix, Zone::Un, 0);
+        RemetLigne(ordonnance, choix, Zone::Un, {QStringLiteral("A"), {}});
+        QVERIFY(!ordonnance.LstChoix1.Lignes().back().AncienFormat);
+    }
+
     void OnlyADeadSlotCanBeWrittenAgain()
     {
         Ordonnance ordonnance;

@@ -96,7 +96,7 @@ void TestMemorisees::ChargeLesLignesEtLeurFormat()
     poste.Charge();
     const prescription::Ordonnance& ordonnance = poste.Etat.Ordonnance;
     const QString debut = u"  X"_s + QString(300, u' ');
-    QCOMPARE(ordonnance.LstChoix1.Lignes(), (QList<prescription::Ligne>{{debut + u"3400930000011"_s, 0},
+    QCOMPARE(ordonnance.LstChoix1.Lignes(), (QList<prescription::Ligne>{{debut + u"3400930000011"_s, 0, true},
                                                                         {debut + u"101"_s, 1},
                                                                         {debut + u"1"_s, 2},
                                                                         {debut + u"0"_s, 3}}));

@@ -42,6 +42,8 @@ private Q_SLOTS:
     void leModeleTientSesPromesses();
     void identifiantEtTitre_data();
     void identifiantEtTitre();
+    void codeAncien_data();
+    void codeAncien();
 };
 
 void TestLignesZone::leModeleMontreTexteEtIndice()
@@ -149,6 +151,8 @@ void TestLignesZone::identifiantEtTitre_data()
     const QString titreLong(400, u'x');
     QTest::newRow("titre long") << u"  "_s + titreLong + blancs(100) + u"42"_s << u"42"_s << titreLong;
     QTest::newRow("ligne courte") << u"abc"_s << u"abc"_s << QString();
+    QTest::newRow("dix chiffres") << u"  A"_s + blancs(100) + u"2147483647"_s << u"2147483647"_s << u"A"_s;
+    QTest::newRow("code tronqué") << u"  A"_s + blancs(300) + u"3400930000011"_s << QString() << u"A"_s;
     QTest::newRow("rien") << QString() << QString() << QString();
 }
 
@@ -157,6 +161,28 @@ void TestLignesZone::identifiantEtTitre()
     QFETCH(QString, ligne);
     QTEST(prescription::IdentifiantDeLigne(ligne), "identifiant");
     QTEST(prescription::TitreDeLigne(ligne), "titre");
+}
+
+void TestLignesZone::codeAncien_data()
+{
+    QTest::addColumn<QString>("identifiant");
+    QTest::addColumn<bool>("ancien");
+    QTest::addColumn<QString>("code");
+    QTest::newRow("thirteen digits") << u"3400930000011"_s << false << u"3400930000011"_s;
+    QTest::newRow("thirteen digits, old") << u"3400930000011"_s << true << u"3400930000011"_s;
+    QTest::newRow("seven digits, old") << u"3595583"_s << true << u"3595583"_s;
+    QTest::newRow("product") << u"3595583"_s << false << QString();
+    QTest::newRow("none, old") << u"1"_s << true << QString();
+    QTest::newRow("zero, old") << u"0"_s << true << QString();
+    QTest::newRow("no number") << u"comprimésaabb"_s << true << QString();
+}
+
+void TestLignesZone::codeAncien()
+{
+    QFETCH(QString, identifiant);
+    QFETCH(bool, ancien);
+    const prescription::Ligne ligne{prescription::TexteDeLigne(u"A"_s, 300, identifiant), 0, ancien};
+    QTEST(prescription::CodeAncien(ligne), "code");
 }
 
 QTEST_MAIN(TestLignesZone)

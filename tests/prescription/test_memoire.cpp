@@ -73,6 +73,8 @@ private Q_SLOTS:
     void TheSecondZoneNeedsTheBox();
     void TheProductIdIsTheBanks_data();
     void TheProductIdIsTheBanks();
+    void AnOldCodeNeverBecomesAnotherProduct_data();
+    void AnOldCodeNeverBecomesAnotherProduct();
     void ChangesReplaceTheLines();
     void WhatNoListShowsIsNotReplaced_data();
     void WhatNoListShowsIsNotReplaced();
@@ -219,6 +221,35 @@ void TestMemoire::TheProductIdIsTheBanks()
     cabinet.AttendNom(u"HTA"_s).AttendSpecifique(Bouton::Non);
     MemoriseOrdonnance(cabinet.Contexte);
     QCOMPARE(cabinet.Lignes(), QStringList{u"HTA|X||1|*|0|"_s + range + u"|1"_s});
+}
+
+void TestMemoire::AnOldCodeNeverBecomesAnotherProduct_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<bool>("ancien");
+    QTest::addColumn<QString>("range");
+    QTest::newRow("known") << u"3400930000011"_s << true << u"101|1"_s;
+    QTest::newRow("unknown") << u"3400930000012"_s << true << u"3400930000012|0"_s;
+    QTest::newRow("seven digits") << u"3595583"_s << true << u"3595583|0"_s;
+    QTest::newRow("nobody asks any more") << u"3400930000012"_s << false << u"3400930000012|1"_s;
+    QTest::newRow("no product") << u"0"_s << true << u"0|1"_s;
+}
+
+void TestMemoire::AnOldCodeNeverBecomesAnotherProduct()
+{
+    QFETCH(QString, code);
+    QFETCH(bool, ancien);
+    QFETCH(QString, range);
+    CabinetMemo cabinet;
+    cabinet.Etat.Banque.TypeBase = u"VDE"_s;
+    cabinet.Etat.Banque.ProduitDuCip = [](const QString& cip) -> std::optional<qint32> {
+        return cip == u"3400930000011"_s ? std::optional(101) : std::nullopt;
+    };
+    cabinet.Ordo().OrdoZone1 = {{u"X"_s, {}}};
+    cabinet.Ordo().LstChoix1.Ajoute({TexteDeLigne(u"X"_s, 300, code), 0, ancien});
+    cabinet.AttendNom(u"HTA"_s).AttendSpecifique(Bouton::Non);
+    MemoriseOrdonnance(cabinet.Contexte);
+    QCOMPARE(cabinet.Lignes(), QStringList{u"HTA|X||1|*|0|"_s + range});
 }
 
 void TestMemoire::ChangesReplaceTheLines()

@@ -9,12 +9,18 @@ namespace drugbank {
 
 namespace style = application::style;
 
+namespace {
+
+constexpr int kLargeur = 760;
+constexpr int kHauteur = 520;
+
+} // namespace
+
 FrmIAM::FrmIAM(application::Contexte&, application::Fenetres&) : txt_(new QPlainTextEdit(this))
 {
     setObjectName(QStringLiteral("FrmIAM"));
-    setWindowTitle(QStringLiteral("Notes"));
     txt_->setObjectName(QStringLiteral("Txt"));
-    txt_->setAccessibleName(QStringLiteral("Notes du médicament"));
+    Nomme(QStringLiteral("Notes"), QStringLiteral("Notes du médicament"));
     txt_->setReadOnly(true);
     txt_->setTabChangesFocus(true);
     auto* fermer = style::BoutonPrincipal(QStringLiteral("CmdFermer"), QStringLiteral("&Fermer"), {}, this);
@@ -22,10 +28,28 @@ FrmIAM::FrmIAM(application::Contexte&, application::Fenetres&) : txt_(new QPlain
     QVBoxLayout* disposition = style::Fenetre(this);
     disposition->addWidget(txt_, 1);
     disposition->addWidget(fermer, 0, Qt::AlignRight);
-    style::Dimensionne(this, 640, 420);
+    style::Dimensionne(this, kLargeur, kHauteur);
+}
+
+void FrmIAM::Nomme(const QString& titre, const QString& nomAccessible)
+{
+    setWindowTitle(titre);
+    txt_->setAccessibleName(nomAccessible);
 }
 
 void FrmIAM::Montre(const QString& texte)
+{
+    Nomme(QStringLiteral("Notes"), QStringLiteral("Notes du médicament"));
+    Ouvre(texte);
+}
+
+void FrmIAM::MontreInteractions(const QString& rapport)
+{
+    Nomme(QStringLiteral("Interactions médicamenteuses"), QStringLiteral("Interactions de l'ordonnance"));
+    Ouvre(rapport);
+}
+
+void FrmIAM::Ouvre(const QString& texte)
 {
     txt_->setPlainText(texte);
     txt_->moveCursor(QTextCursor::End);

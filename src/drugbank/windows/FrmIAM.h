@@ -8,7 +8,7 @@ class QPlainTextEdit;
 
 namespace drugbank {
 
-/// A text to read: the notes kept with a medication.
+/// A text to read: the notes kept with a medication, or the interactions of a prescription.
 class FrmIAM : public QDialog
 {
     Q_OBJECT
@@ -18,8 +18,13 @@ public:
 
     /// Shows the text modally, the caret at its end, and returns when the doctor has closed it.
     void Montre(const QString& texte);
+    /// The same for a report of interactions.
+    void MontreInteractions(const QString& rapport);
 
 private:
+    void Nomme(const QString& titre, const QString& nomAccessible);
+    void Ouvre(const QString& texte);
+
     QPlainTextEdit* txt_;
 };
 

@@ -31,7 +31,8 @@ PanneauDocument::PanneauDocument(QWidget* parent)
     vue_->setAccessibleName(QStringLiteral("Document du médicament"));
     vue_->setMinimumWidth(kLargeurLisible);
     style::RaccourciVers(vue_, QStringLiteral("Alt+3"));
-    style::Nomme(precedent_, QStringLiteral("Page précédente"), QStringLiteral("Alt+Gauche"));
+    precedent_->setShortcut(QKeySequence(QStringLiteral("Alt+7"))); // Alt+Left moves the rows of the lists
+    style::Nomme(precedent_, QStringLiteral("Page précédente"), QStringLiteral("Alt+7"));
     documents_->setShortcut(QKeySequence(QStringLiteral("Alt+4")));
     style::Nomme(documents_, QStringLiteral("Documents de la banque pour ce médicament"),
                  QStringLiteral("Alt+4"));

@@ -9,6 +9,7 @@
 #include "medication/windows/ChampMedicament.h"
 #include "medication/windows/ChampPosologie.h"
 #include "medication/windows/EtiquetteMuette.h"
+#include "medication/windows/ImageAnimee.h"
 #include "medication/windows/ListeLignes.h"
 #include "medication/windows/ListeOffres.h"
 
@@ -72,6 +73,15 @@ template <typename Controle> Controle* DeBanque(ControlesMedoc& c, Controle* con
     controle->hide();
     c.DeBanque.append(controle);
     return controle;
+}
+
+/// A word that opens a window of the bank by mouse and by keyboard.
+QPushButton* Panneau(ControlesMedoc& c, const QString& nom, const QString& texte, const QString& touche,
+                     QWidget* parent)
+{
+    auto* panneau = DeBanque(c, style::Lien(nom, texte, parent));
+    Lettre(panneau, texte.trimmed(), touche);
+    return panneau;
 }
 
 void BoutonsRecherche(ControlesMedoc& c, QWidget* parent)
@@ -214,8 +224,11 @@ QWidget* CarteMedicament(ControlesMedoc& c, QDialog* f)
     BoutonsMedicament(c, carte);
     QVBoxLayout* disposition = style::DansCarte(carte);
     QLabel* titre = style::Titre({}, QStringLiteral("Mé&dicament choisi"), carte, c.TxtMedoc);
-    c.HlbG = DeBanque(c, style::Legende(QStringLiteral("HlbG"), QStringLiteral(" Génériques"), carte));
-    disposition->addLayout(Rang({titre}, {c.HlbG, c.CmdAide}));
+    c.HlbG =
+        Panneau(c, QStringLiteral("HlbG"), QStringLiteral(" Génériques"), QStringLiteral("Alt+5"), carte);
+    c.AniGIFG = new ImageAnimee(QStringLiteral("AniGIFG"), QStringLiteral("capsule"), false,
+                                QStringLiteral("Ce médicament a des génériques"), carte);
+    disposition->addLayout(Rang({titre}, {c.AniGIFG, c.HlbG, c.CmdAide}));
     disposition->addWidget(c.TxtMedoc);
     disposition->addWidget(c.TxtPoso, 1);
     disposition->addWidget(c.LstOffres);
@@ -249,6 +262,9 @@ QLayout* Listes(ControlesMedoc& c, QWidget* carte)
     c.LstChoix2 = Liste(QStringLiteral("LstChoix2"), QStringLiteral("Lignes de la zone non ALD"), carte);
     c.LblHorsPage = style::Avertissement(QStringLiteral("LblHorsPage"), messages::HorsPage(), carte);
     c.LblHorsPage->hide();
+    c.LblNonVerifiees = style::Avertissement(QStringLiteral("LblNonVerifiees"),
+                                             messages::InteractionsNonVerifieesCourt(), carte);
+    c.LblNonVerifiees->hide();
     style::RaccourciVers(c.LstChoix1, QStringLiteral("Alt+1"));
     style::RaccourciVers(c.LstChoix2, QStringLiteral("Alt+2"));
     c.ImgUp = Fleche(QStringLiteral("ImgUp"), QStringLiteral("Monter la ligne (Alt+Haut)"),
@@ -261,6 +277,7 @@ QLayout* Listes(ControlesMedoc& c, QWidget* carte)
     listes->addWidget(c.ZoneNonALD);
     listes->addWidget(c.LstChoix2, 1);
     listes->addWidget(c.LblHorsPage);
+    listes->addWidget(c.LblNonVerifiees);
     return listes;
 }
 
@@ -308,8 +325,11 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
                                  QStringLiteral("I&mprimer triplicata"), carte);
     QVBoxLayout* disposition = style::DansCarte(carte);
     QWidget* zones = Zones(c, carte);
-    c.HlbI = DeBanque(c, style::Legende(QStringLiteral("HlbI"), QStringLiteral(" Interactions"), carte));
-    QHBoxLayout* cases = Rang({titre, c.HlbI, c.ImgUp, c.ImgDown}, {c.ChkALD, c.ChkDup, c.ChkTri});
+    c.HlbI =
+        Panneau(c, QStringLiteral("HlbI"), QStringLiteral(" Interactions"), QStringLiteral("Alt+6"), carte);
+    c.AniGIFI = new ImageAnimee(QStringLiteral("AniGIFI"), QStringLiteral("exclamation-triangle"), true,
+                                QStringLiteral("L'ordonnance a des interactions"), carte);
+    QHBoxLayout* cases = Rang({titre, c.HlbI, c.AniGIFI, c.ImgUp, c.ImgDown}, {c.ChkALD, c.ChkDup, c.ChkTri});
     cases->setSpacing(style::kEntreGroupes);
     disposition->addLayout(cases);
     disposition->addWidget(zones, 1);
@@ -320,12 +340,12 @@ QWidget* CarteOrdonnance(ControlesMedoc& c, QDialog* f)
 
 void OrdonneTabulation(const ControlesMedoc& c)
 {
-    QList<QWidget*> ordre = {c.TxtCherche, c.PctCherch,   c.TV,           c.TxtMedoc,    c.TxtPoso,
-                             c.LblPoso,    c.CmdModifier, c.CmdAjouter1,  c.CmdAjouter2, c.ChkALD,
-                             c.ChkDup,     c.ChkTri,      c.LstChoix1,    c.LstChoix2,   c.ImgUp,
-                             c.ImgDown,    c.CmdSaut,     c.CmdClear,     c.LblOrdoMem,  c.CmdAnnule,
-                             c.CmdOrdo,    c.CmdAide,     c.CmdNouveau,   c.CmdRetire,   c.CmdPerso,
-                             c.ChkDCI,     c.ChkMono,     c.CmdCopyright, c.CmdVD};
+    QList<QWidget*> ordre = {
+        c.TxtCherche,  c.PctCherch,    c.TV,      c.TxtMedoc,   c.TxtPoso,   c.LblPoso,  c.CmdModifier,
+        c.CmdAjouter1, c.CmdAjouter2,  c.HlbG,    c.ChkALD,     c.ChkDup,    c.ChkTri,   c.LstChoix1,
+        c.LstChoix2,   c.HlbI,         c.ImgUp,   c.ImgDown,    c.CmdSaut,   c.CmdClear, c.LblOrdoMem,
+        c.CmdAnnule,   c.CmdOrdo,      c.CmdAide, c.CmdNouveau, c.CmdRetire, c.CmdPerso, c.ChkDCI,
+        c.ChkMono,     c.CmdCopyright, c.CmdVD};
     ordre += c.Document->Controles();
     style::OrdreTab(ordre);
 }

@@ -21,6 +21,7 @@ namespace medication {
 class ChampCherche;
 class ChampMedicament;
 class ChampPosologie;
+class ImageAnimee;
 class ListeLignes;
 class ListeOffres;
 
@@ -69,9 +70,12 @@ struct ControlesMedoc
     QLabel* LblDatExp = nullptr;
     QPushButton* CmdCopyright = nullptr;
     drugbank::PanneauDocument* Document = nullptr;
-    QLabel* HlbG = nullptr;
-    QLabel* HlbI = nullptr;
-    QList<QWidget*> DeBanque; ///< what the bank mode shows and the local mode hides
+    QPushButton* HlbG = nullptr;
+    ImageAnimee* AniGIFG = nullptr; ///< while the pack has generics
+    QPushButton* HlbI = nullptr;
+    ImageAnimee* AniGIFI = nullptr;    ///< while the prescription has interactions
+    QLabel* LblNonVerifiees = nullptr; ///< no bank answered about the lines
+    QList<QWidget*> DeBanque;          ///< what the bank mode shows and the local mode hides
 };
 
 ControlesMedoc ConstruitMedoc(QDialog* fenetre);

@@ -9,6 +9,7 @@
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/ChampMedicament.h"
 #include "medication/windows/ChampPosologie.h"
+#include "medication/windows/ImageAnimee.h"
 #include "medication/windows/ListeLignes.h"
 #include "outside/Tente.h"
 #include "page/Mesure.h"
@@ -49,6 +50,8 @@ FrmMedoc::FrmMedoc(application::Contexte& contexte, application::Fenetres& fenet
     RelieSignaux();
     ReliePerso();
     RelieDocument();
+    RelieGeneriques();
+    RelieInteractions();
     SuitOrdonnance();
 }
 
@@ -134,6 +137,7 @@ void FrmMedoc::RelieSignaux()
     connect(&contexte_.Ordonnance.LstChoix2, &QAbstractItemModel::modelReset, this,
             &FrmMedoc::MontreHorsPage);
     connect(&contexte_.Signaux, &application::Signaux::DocumentVide, c_.TxtCherche, &QLineEdit::clear);
+    connect(&contexte_.Signaux, &application::Signaux::DocumentVide, this, &FrmMedoc::ArreteAnimations);
     connect(&contexte_.Signaux, &application::Signaux::OrdonnanceChange, this, &FrmMedoc::SuitOrdonnance);
     connect(&contexte_.Signaux, &application::Signaux::MedecinChange, this, &FrmMedoc::VideArbre);
 }
@@ -152,6 +156,9 @@ void FrmMedoc::Active()
     }
     c_.ChkMono->setChecked(contexte_.Reglages.Options.EtatChkMono == 1);
     ConfigureModeBase();
+    if (InteractionsARefaire(contexte_.Banque)) {
+        CalculeInteractions();
+    }
     if (choix.BaseChangee != 2 || choix.TypeBaseArbre != contexte_.Banque.TypeBase) {
         ChargeMedicaments();
     }
@@ -208,6 +215,7 @@ void FrmMedoc::RemplitBoites(const Saisie& saisie)
 
 void FrmMedoc::RechercheChange()
 {
+    c_.AniGIFG->Arrete();
     c_.TxtCherche->end(false);
     RemplitBoites({});
     // The boxes no longer hold the medication last read.
@@ -252,6 +260,9 @@ bool FrmMedoc::LitNoeud(int rang)
     if (lue) {
         RemplitBoites(*lue);
         c_.CmdModifier->setEnabled(true);
+        if (!pharmacies_.EnService().InfoPack(*arbre_.Lis(rang)).isEmpty()) {
+            RechercheGeneriques();
+        }
         SuitDocument(rang);
     }
     return lue.has_value();

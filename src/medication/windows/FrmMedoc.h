@@ -3,6 +3,7 @@
 #include "application/windows/Fenetres.h"
 #include "medication/ArbreMedicaments.h"
 #include "medication/Commandes.h"
+#include "medication/Interactions.h"
 #include "medication/Pharmacies.h"
 #include "medication/windows/ControlesMedoc.h"
 
@@ -79,6 +80,19 @@ private:
     void MontreDocuments();
     void OuvreDansNavigateur(const QString& document);
 
+    void RelieGeneriques();
+    /// Fills the list of the generics for the pack last clicked; the animation plays while it has rows.
+    void RechercheGeneriques();
+    void VideGeneriques();
+    void OuvreGeneriques();
+
+    void RelieInteractions();
+    /// In the bank mode, after each change of the lines.
+    void CalculeInteractions();
+    void MontreInteractions(medication::Clic clic);
+    void MontreNonVerifiees();
+    void ArreteAnimations();
+
     void Ajoute(Zone zone);
     void TermineAjout();
     void PresseLigne(Zone zone, int rang);
@@ -91,7 +105,8 @@ private:
     void CreeOrdonnance();
     /// `LblOrdoMem`, and again as long as a converted prescription is to be chosen anew.
     void OuvreMemorisees();
-    bool ChoisitMemorisee();
+    /// True to choose again; `ouverte` when the window of the lists was shown.
+    bool ChoisitMemorisee(bool& ouverte);
 
     void SuitOrdonnance();
     void MontreZones();

@@ -37,10 +37,12 @@ void FrmMedoc::Ajoute(Zone zone)
 
 void FrmMedoc::TermineAjout()
 {
+    CalculeInteractions();
     FocusRecherche();
     RemplitBoites({});
     c_.CmdModifier->setEnabled(false);
     MontreFleches({});
+    VideGeneriques();
     VideDocument();
 }
 
@@ -73,6 +75,7 @@ void FrmMedoc::ReprendLigne(Zone zone)
     RemplitBoites(*reprise);
     c_.CmdModifier->setEnabled(false);
     MontreFleches({});
+    CalculeInteractions();
     c_.TxtCherche->setFocus();
 }
 
@@ -139,16 +142,19 @@ void FrmMedoc::LacheLigne(Zone zone, const QPoint& point)
 void FrmMedoc::ToutEfface()
 {
     EffaceTout(contexte_);
+    ArreteAnimations();
     c_.TxtCherche->clear();
     RemplitBoites({});
     c_.CmdModifier->setEnabled(false);
     MontreFleches({});
     VideDocument();
     c_.TxtCherche->setFocus();
+    CalculeInteractions();
 }
 
 void FrmMedoc::CreeOrdonnance()
 {
+    VideGeneriques();
     PrepareOrdonnance(contexte_);
     hide();
     MontreOrdonnance(contexte_);

@@ -13,14 +13,19 @@ void FrmMedoc::OuvreMemorisees()
     bool encore = true;
     while (encore) {
         encore = false;
-        outside::Tente(contexte_.Dehors.Boites, [&] { encore = ChoisitMemorisee(); });
+        bool ouverte = false;
+        outside::Tente(contexte_.Dehors.Boites, [&] { encore = ChoisitMemorisee(ouverte); });
+        if (ouverte) {
+            CalculeInteractions();
+            VideGeneriques();
+        }
         if (encore) {
             ToutEfface();
         }
     }
 }
 
-bool FrmMedoc::ChoisitMemorisee()
+bool FrmMedoc::ChoisitMemorisee(bool& ouverte)
 {
     const auto memorisees = PrepareMemorisees(contexte_);
     if (memorisees.isEmpty()) {
@@ -29,6 +34,7 @@ bool FrmMedoc::ChoisitMemorisee()
     const prescription::Ordonnance& ordonnance = contexte_.Ordonnance;
     const int premiere1 = ordonnance.LstChoix1.rowCount();
     const int premiere2 = ordonnance.LstChoix2.rowCount();
+    ouverte = true;
     const bool chargee = fenetres_.Donne<prescription::FrmMemo>().Ouvre(memorisees);
     fenetres_.Decharge<prescription::FrmMemo>();
     if (!chargee) {

@@ -65,8 +65,11 @@ void FrmMedoc::ConfigureModeBase()
     for (QWidget* controle : c_.DeBanque) {
         controle->setVisible(banque);
     }
-    if (!banque) {
+    if (banque) {
+        MontreNonVerifiees();
+    } else {
         c_.PctCherch->hide();
+        ArreteAnimations();
     }
     PlaceDocument();
     c_.CmdModifier->setText(banque ? QStringLiteral("Enregistrer posologie")

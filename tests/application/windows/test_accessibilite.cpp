@@ -1,9 +1,11 @@
 #include "certificates/windows/FrmCertif.h"
 #include "drugbank/Banque.h"
 #include "drugbank/windows/FrmIAM.h"
+#include "medication/windows/FrmGEN.h"
 #include "medication/windows/FrmMedoc.h"
 #include "medication/windows/FrmNouveauM.h"
 #include "medication/windows/FrmPoso.h"
+#include "medication/windows/ImageAnimee.h"
 #include "patients/windows/FrmNouveauP.h"
 #include "patients/windows/FrmPatient.h"
 #include "prescription/Editeur.h"
@@ -189,6 +191,19 @@ QWidget& MontreMedocBanque(support::ProgrammeDeTest& programme)
     auto& fenetre = programme.Fenetres().Donne<medication::FrmMedoc>();
     fenetre.show();
     fenetre.findChild<QLineEdit*>(QStringLiteral("TxtCherche"))->setText(QStringLiteral("DOLI"));
+    for (auto* image : fenetre.findChildren<medication::ImageAnimee*>()) {
+        image->Joue();
+    }
+    return fenetre;
+}
+
+QWidget& MontreGeneriques(support::ProgrammeDeTest& programme)
+{
+    programme.Installe();
+    programme.Contexte().Choix.LstGen =
+        QStringList{QString(), QStringLiteral("  PARACETAMOL          1.16  €")};
+    auto& fenetre = programme.Fenetres().Donne<medication::FrmGEN>();
+    fenetre.show();
     return fenetre;
 }
 
@@ -265,6 +280,7 @@ void TestAccessibilite::Fenetres()
     rang("FrmMedoc", [](P& p) -> QWidget& { return MontreMedoc(p, 0); });
     rang("FrmMedoc, two zones", [](P& p) -> QWidget& { return MontreMedoc(p, 1); });
     rang("FrmMedoc, drug bank", &MontreMedocBanque);
+    rang("FrmGEN", &MontreGeneriques);
     rang("FrmNouveauM", [](P& p) -> QWidget& { return MontreNouveauM(p, "BIP"); });
     rang("FrmNouveauM, drug bank", [](P& p) -> QWidget& { return MontreNouveauM(p, "TVS"); });
     rang("FrmPoso", &Montre<medication::FrmPoso>);

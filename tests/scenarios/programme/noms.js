@@ -16,6 +16,7 @@ const noms = {
         "TxtAtcd TxtAdrV Lbl CmdOK CmdAnnuler",
     FrmMedoc: "TxtCherche PctCherch TV TxtMedoc TxtPoso CmdVD ChkDCI lblDCI ChkMono Lblmono ChkALD Label7 ChkDup " +
         "Label6 ChkTri Label9 CmdModifier CmdNouveau CmdRetire CmdPerso Lbl1 Lbl2 Lbl5 LblPoso LblOrdoMem HlbG HlbI " +
+        "AniGIFG AniGIFI " +
         "CmdAide CmdCopyright LblDatExp LstChoix1 LstChoix2 CmdAjouter1 CmdAjouter2 ImgUp ImgDown Txt CmdSaut CmdClear " +
         "CmdAnnule CmdOrdo mnuVidal mnu64 mnu128 mnu255 mnuDemarquer mnuDemark",
     FrmNouveauM: "LblPharma LblTitre LblPoso lblAS TxtNom TxtPoso LstP CmdOK CmdAnnuler CmdSupp",
