@@ -29,9 +29,8 @@ public:
     }
     ~Poste()
     {
-        const QByteArray fuites = QJsonDocument(banque_.Fuites()).toJson();
-        if (!banque_.Fuites().isEmpty()) {
-            QTest::qFail(fuites.constData(), __FILE__, __LINE__);
+        if (const QJsonArray fuites = banque_.Fuites(); !fuites.isEmpty()) {
+            QTest::qFail(QJsonDocument(fuites).toJson().constData(), __FILE__, __LINE__);
         }
     }
 
@@ -151,7 +150,7 @@ void TestBanqueAbsurde::textes_data()
     QTest::newRow("control characters")
         << QByteArray(R"("A\u0001\u001bB")") << QStringLiteral("A\u0001\u001bB");
     QTest::newRow("stops at the NUL") << QByteArray(R"("A\u0000B")") << QStringLiteral("A");
-    QTest::newRow("very long") << '"' + QByteArray(3'000'000, 'x') + '"' << QString(1'000'000, u'x');
+    QTest::newRow("very long") << '"' + QByteArray(1'100'000, 'x') + '"' << QString(1'000'000, u'x');
 }
 
 void TestBanqueAbsurde::textes()
