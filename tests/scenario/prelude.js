@@ -73,24 +73,34 @@
     global.contient = (tout, partie, texte) =>
         controle(dedans(tout, partie), texte, "contenant " + montre(partie), tout);
 
-    function litComme(objet, texte) {
-        return Object.defineProperty(objet, "toString", {value: texte});
+    // An object that reads as one text too, and as a list of what the text is made of.
+    function litComme(objet, texte, elements) {
+        const cache = (nom, value) => Object.defineProperty(objet, nom, {value});
+        cache("toString", texte);
+        for (const nom of ["includes", "startsWith", "endsWith", "indexOf", "match"]) {
+            cache(nom, (...valeurs) => texte()[nom](...valeurs));
+        }
+        elements.forEach((element, rang) => cache(rang, element));
+        cache(Symbol.iterator, () => elements[Symbol.iterator]());
+        return objet;
     }
 
-    // A program started reads as one text too: its path, then its arguments.
+    // A program started: its path, then its arguments.
     const programmes = global.relances;
-    global.relances = () => programmes().map(lance =>
-        litComme(lance, () => [lance.chemin, ...lance.arguments].join(" ")));
+    global.relances = () => programmes().map(lance => {
+        const elements = [lance.chemin, ...lance.arguments];
+        return litComme(lance, () => elements.join(" "), elements);
+    });
 
-    // So does a call of the bank: PackService_searchByCip(77, "3400930000011").
+    // A call of the bank: PackService_searchByCip(77, "3400930000011").
     const journal = global.appels;
-    global.appels = () => journal().map(appel =>
-        litComme(appel, () => appel.nom + "(" + appel.arguments.map(montre).join(", ") + ")"));
+    global.appels = () => journal().map(appel => litComme(appel,
+        () => appel.nom + "(" + appel.arguments.map(montre).join(", ") + ")", [appel.nom, ...appel.arguments]));
 
     // What leaks is a list, and counts as its length where a number is expected.
     const perdues = global.fuites;
     global.fuites = () => {
-        const liste = perdues().map(fuite => litComme(fuite, () => fuite.appel + " : " + fuite.poignee));
+        const liste = perdues().map(fuite => litComme(fuite, () => fuite.appel + " : " + fuite.poignee, []));
         return Object.defineProperty(liste, "valueOf", {value: () => liste.length});
     };
 

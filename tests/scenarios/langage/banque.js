@@ -17,6 +17,9 @@ egal(premier, {nom: "VidalHelper_getVidalAPIPath", arguments: [2, null, 255]}, "
 egal(recherche, {nom: "PackService_searchByNameWithPagedResult", arguments: [77, "dol", [0, 6, 0], 2, [0, 3, 5], 2, 1, 50]},
     "une recherche avec ses listes");
 egal(String(recherche), 'PackService_searchByNameWithPagedResult(77, "dol", [0,6,0], 2, [0,3,5], 2, 1, 50)', "se lit comme un texte");
+const [nom, , cherche] = recherche;
+egal([nom, cherche, recherche[0], recherche.startsWith("PackService_"), recherche.includes('"dol"')],
+    ["PackService_searchByNameWithPagedResult", "dol", nom, true, true], "et comme une liste");
 contient(appels(), {nom: "Pack_getPublicPrice"}, "un appel par son nom");
 contient(appels(), 'PackService_searchByCip(77, "34")', "un appel par son texte");
 faux(appels().some(appel => appel.nom === "VidalAPI_init"), "aucune session");
