@@ -6,6 +6,7 @@
 #include "common/CleDeTri.h"
 
 #include <QMap>
+#include <QRegularExpression>
 
 namespace banque::bibliotheque {
 
@@ -23,19 +24,28 @@ QString Style()
         "h1 { font-size: 15pt; color: #12344d; margin-top: 0px; margin-bottom: 4px; }"
         "h2 { font-size: 11pt; color: #12344d; margin-top: 16px; margin-bottom: 4px; }"
         "p { margin-top: 4px; margin-bottom: 4px; } ul { margin-top: 4px; margin-bottom: 4px; }"
-        "th { background-color: #e8eef3; } th, td { text-align: left; vertical-align: top; }"
+        "table { border-color: #b8c4ce; } th { background-color: #e8eef3; } th, "
+        "td { text-align: left; vertical-align: top; }"
         "table.alerte td { background-color: #fdecea; color: #7a1610; }"
         "table.avis td { background-color: #fff5dc; color: #5c4400; }"
         ".discret { color: #5a6672; } a { color: #0b5a8c; }");
 }
 
+/// The head of a column and its share of the width, in percent.
+struct Colonne
+{
+    QString Tete;
+    int Largeur = 0;
+};
+
 /// A bordered table of rows already in HTML, under its heads.
-QString Tableau(const QStringList& tetes, const QList<QStringList>& rangees)
+QString Tableau(const QList<Colonne>& colonnes, const QList<QStringList>& rangees)
 {
     QString html =
         QStringLiteral("<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"100%\"><tr>");
-    for (const QString& tete : tetes) {
-        html += QStringLiteral("<th>") + Sur(tete) + QStringLiteral("</th>");
+    for (const Colonne& colonne : colonnes) {
+        html += QStringLiteral("<th width=\"%1%\">").arg(colonne.Largeur) + Sur(colonne.Tete) +
+                QStringLiteral("</th>");
     }
     html += QStringLiteral("</tr>\n");
     for (const QStringList& rangee : rangees) {
@@ -51,8 +61,9 @@ QString Encadre(const QString& genre, const QString& titre, const QStringList& l
     if (lignes.isEmpty()) {
         return {};
     }
-    return QStringLiteral("<table class=\"%1\" width=\"100%\" cellspacing=\"0\" cellpadding=\"6\"><tr><td>"
-                          "<b>%2</b><br>")
+    return QStringLiteral(
+               "<p></p>\n<table class=\"%1\" width=\"100%\" cellspacing=\"0\" cellpadding=\"6\"><tr><td>"
+               "<b>%2</b><br>")
                .arg(genre, Sur(titre)) +
            lignes.join(QStringLiteral("<br>")) + QStringLiteral("</td></tr></table>\n<p></p>\n");
 }
@@ -91,11 +102,16 @@ Specialite LitSpecialite(const QSqlDatabase& base, qint64 cis)
             lignes += Champ(QStringLiteral("Forme"), texte(1));
             lignes += Champ(QStringLiteral("Voies"), texte(2).replace(u';', QLatin1String(", ")));
             lignes += Champ(QStringLiteral("Titulaires"), texte(3).replace(u';', QLatin1String(", ")));
-            lignes += Champ(QStringLiteral("Autorisation"),
-                            Joint({texte(4), Date(texte(5))}, QStringLiteral(", ")));
+            lignes +=
+                Champ(QStringLiteral("Statut"), Joint({texte(4), Date(texte(5))}, QStringLiteral(" du ")));
             lignes.removeAll(QString());
             specialite.Alertes = AlertesDeSpecialite(
                 {texte(4), r.value(6).toBool(), texte(7), r.value(8).toBool(), r.value(9).toBool()});
+        });
+    Selection(base, QStringLiteral("select distinct atc from mitm where cis = ? and atc <> '' order by atc"))
+        .PourChaque({cis}, [&](const QSqlQuery& r) {
+            specialite.Lignes += Champ(QStringLiteral("Médicament d'intérêt thérapeutique majeur, code ATC"),
+                                       r.value(0).toString());
         });
     return specialite;
 }
@@ -119,16 +135,23 @@ QStringList Disponibilites(const QSqlDatabase& base, qint64 cis)
     return lignes;
 }
 
-/// The conditions that bind the prescriber or the pharmacist in the box, the others behind it.
+/// Narcotics and the hospital first; the conditions that bind the prescriber or the pharmacist in the box,
+/// the others behind it.
 QString Conditions(const QSqlDatabase& base, qint64 cis)
 {
+    QStringList majeures;
     QStringList fortes;
     QStringList simples;
     Selection(base, QStringLiteral("select distinct texte from conditions where cis = ? order by rowid"))
         .PourChaque({cis}, [&](const QSqlQuery& r) {
             const QString texte = r.value(0).toString();
-            (ConditionForte(texte) ? fortes : simples) += Sur(texte);
+            if (ConditionMajeure(texte)) {
+                majeures += QStringLiteral("<b>") + Sur(texte) + QStringLiteral("</b>");
+            } else {
+                (ConditionForte(texte) ? fortes : simples) += Sur(texte);
+            }
         });
+    fortes = majeures + fortes;
     const QString titre = QStringLiteral("Conditions de prescription et de délivrance");
     return Encadre(QStringLiteral("avis"), titre, fortes) +
            (simples.isEmpty() ? QString()
@@ -154,11 +177,12 @@ QString Composition(const QSqlDatabase& base, qint64 cis)
                      Sur(texte(1)),
                  Sur(Joint({texte(2), pour}, QStringLiteral(" ")))});
         });
-    return rangees.isEmpty() ? QString()
-                             : Titre(QStringLiteral("Composition")) +
-                                   Tableau({QStringLiteral("Élément"), QStringLiteral("Substance"),
-                                            QStringLiteral("Dosage")},
-                                           rangees);
+    return rangees.isEmpty()
+               ? QString()
+               : Titre(QStringLiteral("Composition")) + Tableau({{QStringLiteral("Élément"), 20},
+                                                                 {QStringLiteral("Substance"), 45},
+                                                                 {QStringLiteral("Dosage"), 35}},
+                                                                rangees);
 }
 
 QString Presentations(const QSqlDatabase& base, qint64 cis)
@@ -175,7 +199,7 @@ QString Presentations(const QSqlDatabase& base, qint64 cis)
                 (vendue ? u'0' : u'1') + CleNaturelle(texte(0)) + texte(1),
                 {Sur(texte(0)) + (vendue ? QString() : QStringLiteral("<br><i>non commercialisée</i>")),
                  Sur(texte(1)), Prix(r.value(2)), Sur(Taux(r.value(3))),
-                 r.value(8).toBool() ? QStringLiteral("oui") : QString()});
+                 r.value(8).toBool() ? QStringLiteral("agréée") : QString()});
             if (!texte(7).isEmpty() && !indications.contains(texte(7))) {
                 indications.append(texte(7));
             }
@@ -184,9 +208,11 @@ QString Presentations(const QSqlDatabase& base, qint64 cis)
         return {};
     }
     QString html = Titre(QStringLiteral("Présentations")) +
-                   Tableau({QStringLiteral("Présentation"), QStringLiteral("CIP13"),
-                            QStringLiteral("Prix public, honoraires compris"),
-                            QStringLiteral("Remboursement"), QStringLiteral("Agréée aux collectivités")},
+                   Tableau({{QStringLiteral("Présentation"), 38},
+                            {QStringLiteral("CIP13"), 16},
+                            {QStringLiteral("Prix public, honoraires compris"), 16},
+                            {QStringLiteral("Remboursé à"), 14},
+                            {QStringLiteral("Collectivités"), 16}},
                            rangees.values());
     for (const QString& texte : std::as_const(indications)) {
         html += QStringLiteral("<p>") + AvecSautsDeLigne(texte) + QStringLiteral("</p>\n");
@@ -204,8 +230,10 @@ QString Groupes(const QSqlDatabase& base, qint64 cis)
                        "from groupes_membres m join groupes g on g.id = m.groupe where m.cis = ? "
                        "order by g.id"))
         .PourChaque({cis}, [&](const QSqlQuery& r) {
+            QString libelle = r.value(0).toString();
+            libelle.remove(QRegularExpression(QStringLiteral("[.\\s]+$")));
             lignes += Sur(QStringLiteral("%1 : %2. Spécialités commercialisées du groupe : %3.")
-                              .arg(r.value(0).toString(), TypeGenerique(r.value(1).toInt()))
+                              .arg(libelle, TypeGenerique(r.value(1).toInt()))
                               .arg(r.value(2).toInt()));
         });
     return lignes.isEmpty() ? QString() : Titre(QStringLiteral("Groupes génériques")) + Liste(lignes);
@@ -225,11 +253,11 @@ QString Avis(const QSqlDatabase& base, qint64 cis, const QString& genre, const Q
                                 Lien(texte(4), QStringLiteral("avis complet"), QStringLiteral("<br>")),
                             AvecSautsDeLigne(texte(3))});
         });
-    return rangees.isEmpty()
-               ? QString()
-               : Titre(titre) +
-                     Tableau({QStringLiteral("Valeur"), QStringLiteral("Avis"), QStringLiteral("Libellé")},
-                             rangees);
+    return rangees.isEmpty() ? QString()
+                             : Titre(titre) + Tableau({{QStringLiteral("Valeur"), 14},
+                                                       {QStringLiteral("Avis"), 26},
+                                                       {QStringLiteral("Libellé"), 60}},
+                                                      rangees);
 }
 
 QString Pied(const QSqlDatabase& base, qint64 cis)

@@ -51,13 +51,13 @@ QString Date(const QString& iso)
 QString Prix(const QVariant& prix)
 {
     static const QLocale francais(QLocale::French, QLocale::France);
-    return prix.isNull() ? QStringLiteral("prix libre")
+    return prix.isNull() ? QStringLiteral("sans prix public")
                          : francais.toString(prix.toDouble(), 'f', 2) + QStringLiteral("&nbsp;€");
 }
 
 QString Taux(const QVariant& taux)
 {
-    return taux.isNull() ? QStringLiteral("non remboursable") : QStringLiteral("%1 %").arg(taux.toInt());
+    return taux.isNull() ? QStringLiteral("non remboursé") : QStringLiteral("%1 %").arg(taux.toInt());
 }
 
 QString TypeGenerique(int type)
@@ -76,6 +76,16 @@ QString TypeGenerique(int type)
     }
 }
 
+namespace {
+
+bool Contient(const QString& texte, const QStringList& mots)
+{
+    const QString replie = common::Replie(texte);
+    return std::any_of(mots.begin(), mots.end(), [&](const QString& mot) { return replie.contains(mot); });
+}
+
+} // namespace
+
 bool ConditionForte(const QString& condition)
 {
     static const QStringList mots = {
@@ -83,9 +93,13 @@ bool ConditionForte(const QString& condition)
         QStringLiteral("RESERVE"),    QStringLiteral("LIMITEE"),      QStringLiteral("FRACTIONNEE"),
         QStringLiteral("CAPACITE"),   QStringLiteral("SURVEILLANCE"), QStringLiteral("ACCORD"),
         QStringLiteral("PROCREER"),   QStringLiteral("INITIALE"),     QStringLiteral("TOUTES LETTRES"),
-        QStringLiteral("EXCEPTION")};
-    const QString repliee = common::Replie(condition);
-    return std::any_of(mots.begin(), mots.end(), [&](const QString& mot) { return repliee.contains(mot); });
+        QStringLiteral("EXCEPTION"),  QStringLiteral("ATTESTATION")};
+    return Contient(condition, mots);
+}
+
+bool ConditionMajeure(const QString& condition)
+{
+    return Contient(condition, {QStringLiteral("STUPEFIANT"), QStringLiteral("USAGE HOSPITALIER")});
 }
 
 QString FicheOfficielle(qint64 cis)

@@ -25,10 +25,10 @@ QString Lien(const QString& adresse, const QString& texte, const QString& devant
 /// "19/05/2026" of "2026-05-19"; empty when it is none.
 QString Date(const QString& iso);
 
-/// "1 545,27 €"; "prix libre" without a price.
+/// "1 545,27 €"; "sans prix public" without a price.
 QString Prix(const QVariant& prix);
 
-/// "65 %"; "non remboursable" without a rate.
+/// "65 %"; "non remboursé" without a rate.
 QString Taux(const QVariant& taux);
 
 /// "générique" and its like, of a member's number in its group.
@@ -36,6 +36,8 @@ QString TypeGenerique(int type);
 
 /// True for what binds the one who prescribes or dispenses: narcotics, hospital, specialists, durations.
 bool ConditionForte(const QString& condition);
+/// True for narcotics and what the hospital alone may use.
+bool ConditionMajeure(const QString& condition);
 
 /// The page of a medication in the public base.
 QString FicheOfficielle(qint64 cis);

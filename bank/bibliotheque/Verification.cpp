@@ -31,20 +31,6 @@ struct Prescrit
     QList<Substance> Substances;
 };
 
-/// The SA and FT of one link number of one element are one substance.
-QList<Substance> LitSubstances(const QSqlDatabase& base, Entier cis)
-{
-    QMap<QPair<QString, int>, Substance> substances;
-    Selection(base, QStringLiteral("select element, lien, code, nom from compositions where cis = ? "
-                                   "order by nature = 'FT', rowid"))
-        .PourChaque({cis}, [&](const QSqlQuery& rangee) {
-            Substance& substance = substances[{rangee.value(0).toString(), rangee.value(1).toInt()}];
-            substance.Nom = rangee.value(3).toString();
-            substance.Codes.append(rangee.value(2).toInt());
-        });
-    return substances.values();
-}
-
 /// Some medications are made for homeopathy without being registered for it.
 bool Diluees(const QList<Substance>& substances)
 {
@@ -53,20 +39,48 @@ bool Diluees(const QList<Substance>& substances)
     });
 }
 
-std::optional<Prescrit> LitPrescrit(const QSqlDatabase& base, Entier cis)
+/// Reads the products of a prescription one after the other.
+class LecteurPrescription
 {
-    std::optional<Prescrit> prescrit;
-    Selection(base, QStringLiteral("select nom, voies, homeopathie from specialites where cis = ?"))
-        .PourChaque({cis}, [&](const QSqlQuery& rangee) {
+public:
+    explicit LecteurPrescription(const QSqlDatabase& base)
+        : specialites_(base, QStringLiteral("select nom, voies, homeopathie from specialites where cis = ?")),
+          compositions_(base,
+                        QStringLiteral("select element, lien, code, nom from compositions where cis = ? "
+                                       "order by nature = 'FT', rowid"))
+    {}
+
+    /// Nothing for a product that the bank lacks.
+    std::optional<Prescrit> Lit(Entier cis)
+    {
+        std::optional<Prescrit> prescrit;
+        specialites_.PourChaque({cis}, [&](const QSqlQuery& rangee) {
             prescrit = {
                 cis, rangee.value(0).toString(), rangee.value(1).toString(), rangee.value(2).toBool(), {}};
         });
-    if (prescrit) {
-        prescrit->Substances = LitSubstances(base, cis);
-        prescrit->Homeopathie = prescrit->Homeopathie || Diluees(prescrit->Substances);
+        if (prescrit) {
+            prescrit->Substances = Substances(cis);
+            prescrit->Homeopathie = prescrit->Homeopathie || Diluees(prescrit->Substances);
+        }
+        return prescrit;
     }
-    return prescrit;
-}
+
+private:
+    /// The SA and FT of one link number of one element are one substance.
+    QList<Substance> Substances(Entier cis)
+    {
+        QMap<QPair<QString, int>, Substance> substances;
+        compositions_.PourChaque({cis}, [&](const QSqlQuery& rangee) {
+            Substance& substance = substances[{rangee.value(0).toString(), rangee.value(1).toInt()}];
+            substance.Nom = rangee.value(3).toString();
+            substance.Codes.append(rangee.value(2).toInt());
+        });
+        return substances.values();
+    }
+
+    Selection specialites_;
+    Selection compositions_;
+};
 
 /// What the thesaurus looks at. Homeopathy is left out whole: its names are those of substances, and its
 /// doses are not.
@@ -154,8 +168,9 @@ ResultatInteractions Croise(const Contenu& lu, const QSqlDatabase& base, const Q
     ResultatInteractions resultat;
     QList<Prescrit> prescrits;
     QList<ProduitAVerifier> aVerifier;
+    LecteurPrescription lecteur(base);
     for (const Entier id : produits) {
-        const std::optional<Prescrit> prescrit = LitPrescrit(base, id);
+        const std::optional<Prescrit> prescrit = lecteur.Lit(id);
         if (prescrit) {
             prescrits.append(*prescrit);
             aVerifier.append(AVerifier(*prescrit));

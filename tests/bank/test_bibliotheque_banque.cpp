@@ -183,7 +183,7 @@ void TestBibliothequeBanque::monographie()
     const QString page = Page(poste_.Requetes->Monographie(9000102));
     for (const char* texte :
          {"CYTOVEL 40 mg, solution injectable</h1>", "charset=utf-8", "ADALIMUMAB", "1\u202f545,27&nbsp;€",
-          "100 %", "3400990001020", "prix libre", "non commercialisée",
+          "100 %", "3400990001020", "sans prix public", "non commercialisée",
           "Base de données publique des médicaments (ANSM, HAS, Assurance Maladie)", "données du 18/05/2026",
           "extrait.php?specid=91000005"}) {
         QVERIFY2(page.contains(QString::fromUtf8(texte)), texte);
