@@ -17,7 +17,8 @@ struct Reglages;
 }
 namespace drugbank {
 struct Banque;
-}
+class Seance;
+} // namespace drugbank
 namespace certificates {
 struct Certificat;
 }
@@ -63,6 +64,7 @@ struct Contexte
     prescription::Impression& Impression;
     settings::Reglages& Reglages;
     drugbank::Banque& Banque;
+    drugbank::Seance& Seance;
     certificates::Certificat& Certificat;
     medication::Choix& Choix;
     storage::Bases& Bases;

@@ -4,6 +4,7 @@
 #include "application/Signaux.h"
 #include "certificates/Certificat.h"
 #include "drugbank/Banque.h"
+#include "drugbank/Seance.h"
 #include "medication/Choix.h"
 #include "patients/Patient.h"
 #include "prescription/Apercu.h"
@@ -26,6 +27,7 @@ struct Etat
     prescription::Impression Impression;
     settings::Reglages Reglages;
     drugbank::Banque Banque;
+    drugbank::Seance Seance;
     certificates::Certificat Certificat;
     medication::Choix Choix;
     storage::Bases Bases;
@@ -34,8 +36,8 @@ struct Etat
     /// References to all of it, with the outer edge in use.
     application::Contexte Contexte(const Dehors& dehors)
     {
-        return {Chemins, Medecins,   Patient, Ordonnance, Apercu, Impression, Reglages,
-                Banque,  Certificat, Choix,   Bases,      dehors, Signaux};
+        return {Chemins, Medecins, Patient,    Ordonnance, Apercu, Impression, Reglages,
+                Banque,  Seance,   Certificat, Choix,      Bases,  dehors,     Signaux};
     }
 };
 

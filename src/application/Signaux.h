@@ -37,6 +37,8 @@ Q_SIGNALS:
     void PharmacieChange();
     /// The safety copy of the day could not be made, with the sentence for the doctor.
     void SauvegardeEchouee(const QString& phrase);
+    /// The status window of the bank's start appears, changes or goes, or the session changed.
+    void StatutBanqueChange();
     /// A window asks for the end of the program: session closed, tray icon removed, windows unloaded.
     void FinDemandee();
 };

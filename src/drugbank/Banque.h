@@ -12,6 +12,20 @@ namespace drugbank {
 /// The product id of a CIP code; nothing when the bank does not know it.
 using ResolutionCip = std::function<std::optional<qint32>(const QString& cip)>;
 
+/// What the status window of a start shows besides `MessageBanque`.
+struct StatutBanque
+{
+    bool Visible = false;
+    bool BarreVisible = false;
+    int PG = 0;             ///< value of the bar, 0 to `kFinDeBarre`
+    bool Annulable = false; ///< the start has lasted: the doctor may give it up
+};
+
+inline constexpr int kFinDeBarre = 8;
+
+/// The product code of the open bank, which needs no helper.
+inline constexpr qint32 kProduitPublic = 3;
+
 /// Where medications come from, and the session with a bank.
 struct Banque
 {
@@ -27,7 +41,8 @@ struct Banque
     qint32 RetourInitBanque = 0;  ///< status of the last step of the start, 0 when all is well
     quint8 ChargementBanque = 0;  ///< 1 when the library was there at the start of the session
     quint8 BanqueInitialisee = 0; ///< 1 once the start has been run, whatever its outcome
-    QString RapportInteractions;  ///< of the lines at the last calculation, its lines ended by CR LF
+    StatutBanque Statut;
+    QString RapportInteractions;           ///< of the lines at the last calculation, its lines ended by CR LF
     bool InteractionsNonVerifiees = false; ///< the last calculation found no bank that answers
     bool SessionManquee = false;           ///< the start left no session: what is found in it says nothing
     ResolutionCip ProduitDuCip;            ///< of the session in use, empty without one
@@ -36,6 +51,19 @@ struct Banque
     /// Asks the helper library for a product: 0 when it is installed. Empty while no library is bound.
     std::function<qint32(qint32 produit)> VidalHelper_getVidalAPIPath;
 };
+
+/// True for the bases whose session the end of the program closes.
+inline bool AUneSession(const QString& typeBase)
+{
+    return typeBase == QLatin1String("TVS") || typeBase == QLatin1String("VCD") ||
+           typeBase == QLatin1String("VDE") || typeBase == QLatin1String("BDP");
+}
+
+/// True when the open bank is chosen.
+inline bool EstPublique(const Banque& banque)
+{
+    return banque.ProduitBanque == kProduitPublic;
+}
 
 /// True when what the bank does not find is not there. False without a session, and in one whose start
 /// failed: nothing could be asked then, and the doctor is to know.

@@ -118,6 +118,9 @@ using ListeCodes = const Entier*; ///< read during the call alone
     F(DrugInteractionClass_getName, TexteBanque, Poignee)                                                    \
     F(DrugInteractionClass_release, void, Poignee)
 
+/// What the open bank has besides: before its start it is told which bank file to read, by its path in UTF-8.
+#define DRUGBANK_FONCTIONS_PUBLIQUES(F) F(BanquePublique_choisitFichier, void, const char*)
+
 /// Every function of the bank library itself.
 #define DRUGBANK_FONCTIONS_BANQUE(F)                                                                         \
     DRUGBANK_FONCTIONS_SESSION(F)                                                                            \

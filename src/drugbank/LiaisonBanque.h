@@ -28,6 +28,7 @@ private:
 public:
 #define DECLARE(nom, ...) Fonction<__VA_ARGS__> nom{bibliotheque_, #nom};
     DRUGBANK_FONCTIONS_BANQUE(DECLARE)
+    DRUGBANK_FONCTIONS_PUBLIQUES(DECLARE)
 #undef DECLARE
 };
 

@@ -2,6 +2,8 @@
 
 #include "application/Signaux.h"
 #include "common/Dates.h"
+#include "drugbank/Banque.h"
+#include "drugbank/Seance.h"
 #include "outside/Boites.h"
 #include "outside/Horloge.h"
 #include "page/Gabarit.h"
@@ -71,7 +73,15 @@ void RevientAuxMedicaments(application::Contexte& contexte)
     Q_EMIT contexte.Signaux.OrdonnanceChange();
 }
 
-void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang)
+void OuvreLaBanque(application::Contexte& contexte)
+{
+    if (drugbank::EnModeBanque(contexte.Banque)) {
+        contexte.Apercu.DispositionFaite = 1;
+        contexte.Seance.Demarre(contexte);
+    }
+}
+
+void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang, bool editeurActif)
 {
     if (rang < 0 || rang >= contexte.Medecins.Liste.size()) {
         return;
@@ -79,6 +89,9 @@ void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang)
     startup::ChangeMedecin(contexte, rang);
     startup::DitBaseDuMedecinAbsente(contexte);
     contexte.Medecins.IndexMedecin = static_cast<qint16>(contexte.Medecins.Liste[rang].Numero);
+    if (editeurActif && drugbank::EnModeBanque(contexte.Banque)) {
+        contexte.Seance.Demarre(contexte);
+    }
     if (contexte.Apercu.ModeApercu != 0) {
         contexte.Apercu.ModeApercu = 1;
         Repeint(contexte);

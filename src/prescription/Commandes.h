@@ -16,8 +16,11 @@ void DemandeDate(application::Contexte& contexte);
 void RevientAuxMedicaments(application::Contexte& contexte);
 
 /// `CboMed`: another doctor takes over, his settings are read, the preview is emptied. -1, or a row that
-/// the list does not have, changes nothing.
-void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang);
+/// the list does not have, changes nothing. In the active editor his bank is opened.
+void ChangeMedecinDeLEditeur(application::Contexte& contexte, int rang, bool editeurActif = false);
+
+/// At an activation of the editor: the session of a bank in use is opened, once.
+void OuvreLaBanque(application::Contexte& contexte);
 
 /// `ChkCiv`: the name on the page with or without its civility.
 void ImprimeCivilite(application::Contexte& contexte, bool oui);

@@ -5,6 +5,7 @@
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "drugbank/Banque.h"
+#include "drugbank/Seance.h"
 #include "medication/Choix.h"
 #include "outside/Tente.h"
 #include "prescription/Editeur.h"
@@ -32,11 +33,12 @@ void CreeLogo(const QString& cheminMedecin)
     }
 }
 
-/// The doctor's source of medications; without the helper library it is the personal pharmacy.
+/// The doctor's source of medications; without the helper library it is the personal pharmacy or the open
+/// bank.
 void ChargeBanque(drugbank::Banque& banque, const QString& cheminMedecin)
 {
     const bool lue = settings::LitBaseCfg(banque, cheminMedecin);
-    if (!lue || !banque.ModuleAide) {
+    if (!lue || (!banque.ModuleAide && !drugbank::EstPublique(banque))) {
         banque.FiltreBanque = 64;
         banque.TypeBase = QStringLiteral("BIP");
     }
@@ -119,6 +121,7 @@ void ChangeMedecin(Contexte& contexte, int rang)
     CreeLogo(contexte.Chemins.CheminMedecin);
     settings::ChargeReglages(contexte.Reglages, contexte.Chemins.CheminMedecin);
     ChargeBanque(contexte.Banque, contexte.Chemins.CheminMedecin);
+    contexte.Seance.SuitBase(contexte);
     ChargeLookOuDitPourquoi(contexte);
     Annonce(contexte.Signaux);
     SignaleLogo(contexte);

@@ -6,6 +6,7 @@
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "drugbank/Banque.h"
+#include "drugbank/Seance.h"
 #include "outside/Plateau.h"
 #include "outside/Tente.h"
 #include "settings/FichiersReglages.h"
@@ -134,9 +135,7 @@ void OuvreBanque(Contexte& contexte)
     if (!contexte.Chemins.CheminMedecin.isEmpty()) {
         settings::LitBaseCfg(banque, contexte.Chemins.CheminMedecin);
     }
-    if (!banque.ModuleAide) {
-        banque.TypeBase = QStringLiteral("BIP");
-    }
+    contexte.Seance.Charge(contexte);
 }
 
 void AjouteIcone(Contexte& contexte)

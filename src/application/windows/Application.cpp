@@ -4,6 +4,7 @@
 #include "backup/Sauvegarde.h"
 #include "backup/messages.h"
 #include "common/Erreur.h"
+#include "drugbank/windows/FrmI.h"
 #include "medication/windows/FrmPoso.h"
 #include "outside/Boites.h"
 #include "outside/Horloge.h"
@@ -25,6 +26,7 @@ Application::Application(const Dehors& dehors, const QString& cheminProgramme,
     etat_.Chemins.CheminProgramme = cheminProgramme;
     etat_.Chemins.CheminInstallation = cheminInstallation;
     connect(&etat_.Signaux, &Signaux::FinDemandee, this, &Application::Arrete);
+    connect(&etat_.Signaux, &Signaux::StatutBanqueChange, this, &Application::SuitBanque);
 }
 
 Application::~Application()
@@ -94,12 +96,24 @@ void Application::ChargeFenetres()
     QApplication::processEvents();
 }
 
+void Application::SuitBanque()
+{
+    if (etat_.Banque.Statut.Visible && !arretee_) {
+        fenetres_.Donne<drugbank::FrmI>().Montre();
+    } else {
+        fenetres_.Decharge<drugbank::FrmI>();
+    }
+}
+
 void Application::Arrete()
 {
     if (arretee_) {
         return;
     }
     arretee_ = true;
+    if (drugbank::AUneSession(etat_.Banque.TypeBase)) {
+        etat_.Seance.Ferme(contexte_);
+    }
     contexte_.Dehors.Plateau.Retire();
     fenetres_.CacheTout();
     Q_EMIT Termine();

@@ -39,6 +39,7 @@ private:
     void ChargeFenetres();
     /// The safety copy of the day, beside the doctor's work.
     void SauveDuJour();
+    void SuitBanque();
     void Arrete();
 
     application::Etat etat_;

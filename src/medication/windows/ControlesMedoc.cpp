@@ -1,6 +1,5 @@
 #include "medication/windows/ControlesMedoc.h"
 
-#include "application/messages.h"
 #include "application/windows/Style.h"
 #include "drugbank/windows/PanneauDocument.h"
 #include "medication/messages.h"
@@ -148,8 +147,7 @@ void PiedBanque(ControlesMedoc& c, QWidget* parent, QVBoxLayout* colonne)
     c.CmdCopyright =
         DeBanque(c, style::Bouton(QStringLiteral("CmdCopyright"), QStringLiteral("Copyright"), {}, parent));
     c.CmdCopyright->setShortcut(QKeySequence(QStringLiteral("Alt+X")));
-    c.CmdCopyright->setEnabled(false);
-    c.CmdCopyright->setToolTip(application::messages::PasEncoreDisponible());
+    c.CmdCopyright->setToolTip(QStringLiteral("Voir d'où viennent les médicaments (Alt+X)"));
     style::Serre(c.CmdCopyright);
     auto* Lbl1 = DeBanque(c, style::Legende(QStringLiteral("Lbl1"), {}, parent));
     auto* Lbl5 = DeBanque(c, style::Legende(QStringLiteral("Lbl5"), {}, parent));

@@ -40,6 +40,7 @@ private:
     /// What every showing of the window does.
     void Active();
     void ConfigureModeBase();
+    void MontreValidite();
     void ChargeMedicaments();
     void VideArbre();
 

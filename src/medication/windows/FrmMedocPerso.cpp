@@ -1,5 +1,6 @@
 #include "application/Signaux.h"
 #include "drugbank/Banque.h"
+#include "drugbank/windows/FrmCopyright.h"
 #include "medication/messages.h"
 #include "medication/windows/ChampCherche.h"
 #include "medication/windows/ChampMedicament.h"
@@ -44,7 +45,10 @@ void FrmMedoc::ReliePerso()
     for (QAction* entree : c_.mnuVidal->actions()) {
         connect(entree, &QAction::triggered, this, [this, entree] { ChoisitFiltre(entree->data().toInt()); });
     }
+    connect(c_.CmdCopyright, &QPushButton::clicked, this,
+            [this] { fenetres_.OuvreModale<drugbank::FrmCopyright>(); });
     connect(&contexte_.Signaux, &application::Signaux::PharmacieChange, this, &FrmMedoc::ChargeMedicaments);
+    connect(&contexte_.Signaux, &application::Signaux::StatutBanqueChange, this, &FrmMedoc::MontreValidite);
 }
 
 void FrmMedoc::OuvreNouveau()
@@ -58,10 +62,15 @@ bool FrmMedoc::ModeBanque() const
     return drugbank::EnModeBanque(contexte_.Banque);
 }
 
+void FrmMedoc::MontreValidite()
+{
+    c_.LblDatExp->setText(Validite(contexte_.Banque, contexte_.Dehors.Horloge.Aujourdhui()));
+}
+
 void FrmMedoc::ConfigureModeBase()
 {
     const bool banque = ModeBanque();
-    c_.LblDatExp->setText(Validite(contexte_.Banque, contexte_.Dehors.Horloge.Aujourdhui()));
+    MontreValidite();
     for (QWidget* controle : c_.DeBanque) {
         controle->setVisible(banque);
     }

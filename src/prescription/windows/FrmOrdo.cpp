@@ -38,6 +38,7 @@ FrmOrdo::FrmOrdo(application::Contexte& contexte, application::Fenetres& fenetre
 {
     setObjectName(QStringLiteral("FrmOrdo"));
     setWindowTitle(QStringLiteral("Scriptelle - Ordonnance"));
+    contexte_.Apercu.DispositionFaite = 0;
     Dispose();
     Raccourcis(commandes_);
     EcouteSignaux();
@@ -59,7 +60,7 @@ void FrmOrdo::EcouteSignaux()
     connect(signaux, &application::Signaux::OrdonnanceChange, this, &FrmOrdo::SuitOrdonnance);
     connect(signaux, &application::Signaux::MemoireChange, this, &FrmOrdo::SuitOrdonnance);
     connect(CboMed_, &QComboBox::activated, this,
-            [this](int rang) { ChangeMedecinDeLEditeur(contexte_, rang); });
+            [this](int rang) { ChangeMedecinDeLEditeur(contexte_, rang, isActiveWindow()); });
     connect(ChkCiv_, &QCheckBox::clicked, this, [this](bool coche) {
         ImprimeCivilite(contexte_, coche);
         BarreEnUsage().BoutonDe(QStringLiteral("CmdImprime"))->setFocus();
@@ -178,6 +179,7 @@ bool FrmOrdo::event(QEvent* evenement)
 
 void FrmOrdo::Active()
 {
+    OuvreLaBanque(contexte_);
     vue_->RevientEnHaut();
     if (contexte_.Apercu.ModeApercu == 2) {
         QTimer::singleShot(0, this, [this] { Execute(QStringLiteral("CmdPharma")); });
