@@ -24,10 +24,11 @@ struct Choix
     QString IdentifiantRepris; ///< identifier of the line taken back
     bool AncienRepris = false; ///< that identifier is a code of an old version
     QStringList InfoPack;      ///< CIP, pack id, product id, price of the pack last clicked
-    QStringList LstGen;     ///< the generics of that pack: rows of `FrmGEN`, an empty one before each group
-    Noeud NoeudLu;          ///< what the last click read; an empty tag for none
-    quint8 ChkDCI = 0;      ///< 1: a pack is prescribed by its common name
-    QString AdresseWB;      ///< what the view of documents shows; "about:blank" for nothing
+    QStringList LstGen; ///< the generics of that pack: rows of `FrmGEN`, an empty one before each group
+    Noeud NoeudLu;      ///< what the last click read; an empty tag for none
+    quint8 ChkDCI = 0;  ///< 1: a pack is prescribed by its common name
+    /// The address that the view of documents shows, "about:blank" for nothing.
+    QString AdresseWB = QStringLiteral("about:blank");
     QString TypeBaseArbre;  ///< `TypeBase` when the tree was last filled
     quint8 BaseChangee = 0; ///< 0 or 1: the tree is to be filled again; 2: it is filled
     qint16 DernierCboP = 0; ///< the box of `FrmPoso` that last changed

@@ -4,7 +4,7 @@ const groupes = {
     string: "Version DateExpirationBase NomSignature CheminData CheminBase CheminTravail CheminMedecin " +
         "NomMedecinSignature PatientCourant NomSeul DateNaissance AgePatient PoidsPatient PrecautionsPatient " +
         "AdressePatient BandeauALD1 BandeauALD2 DateOrdo MessagePrecautions AgeSaisi TitreMemo LigneJournal Imprimante FichierLogo " +
-        "DupliPolice DupliTexte PoliceTitre PolicePoso PoliceCertif TypeBase CheminBanque VersionBanque MessageBanque",
+        "DupliPolice DupliTexte PoliceTitre PolicePoso PoliceCertif TypeBase CheminBanque VersionBanque MessageBanque AdresseWB",
     number: "TypeStockage IndexStockage NbMedecins NumMedecin NumMedecinDefaut IndexMedecin ModePatient NbZone1 " +
         "NbZone2 NbMedZone1 NbMedZone2 ChkALD ChkDup ChkTri ChkCiv OrdoMemorisee ModeApercu EtatImprimante NbCopies " +
         "LanceDemarrage AffichePoids AfficheAge SouligneNom ReduitLancement MinimiseImpression IconeHorloge " +
