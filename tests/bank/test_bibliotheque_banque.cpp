@@ -1,10 +1,8 @@
 #include "BanqueDeTest.h"
-#include "DonneesReelles.h"
 #include "PosteBdp.h"
 #include "drugbank/Tenu.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QTest>
 #include <QUrl>
 
@@ -44,7 +42,6 @@ private Q_SLOTS:
     void repertoireDesFiches();
     void poignees();
     void horsDeWindows1252();
-    void donneesReelles();
 
 private:
     PosteBdp poste_{support::DossierExtrait(), support::ThesaurusExtrait()};
@@ -282,40 +279,6 @@ void TestBibliothequeBanque::horsDeWindows1252()
              qPrintable(rapport.left(120)));
     QVERIFY(Page(poste_.Requetes->Monographie(9000040))
                 .contains(QStringLiteral("ALPHA ≥ 5 μg, β‑bloquant Łódź")));
-}
-
-/// The published files: every product has a page, every page and every search keeps its text.
-void TestBibliothequeBanque::donneesReelles()
-{
-    if (!support::DonneesReelles::Presentes()) {
-        QSKIP("the public files do not stand beside the project");
-    }
-    poste_.Libere();
-    const support::DonneesReelles donnees;
-    QTemporaryDir dossier;
-    const QString thesaurus = common::Joint(dossier.path(), QStringLiteral("thesaurus.txt"));
-    QProcess xz;
-    xz.setStandardOutputFile(thesaurus);
-    xz.start(QStringLiteral("xz"),
-             {QStringLiteral("-dc"),
-              QStringLiteral(RACINE_PROJET "/../shared/data/interactions/thesaurus_2023-09.txt.xz")});
-    QVERIFY(xz.waitForFinished() && xz.exitCode() == 0);
-    PosteBdp reel(donnees.Dossier(), thesaurus);
-    QCOMPARE(reel.Demarre(), 0);
-    const QList<Pack> doliprane = reel.Requetes->RecherchePacks(QStringLiteral("doliprane 1000 comp"), 64);
-    QVERIFY(doliprane.size() >= 3);
-    QVERIFY(Page(reel.Requetes->Monographie(doliprane.first().Id)).contains(QStringLiteral("PARACÉTAMOL")));
-    QVERIFY(reel.Requetes
-                ->Generiques(reel.Requetes->RecherchePacks(QStringLiteral("amlodipine"), 64).first().Produit)
-                .size() > 20);
-    const auto produit = [&](const char* nom) {
-        return reel.Requetes->RecherchePacks(QString::fromUtf8(nom), 64).value(0).Produit;
-    };
-    const QString rapport =
-        reel.Requetes->Interactions({produit("coumadine 5"), produit("daktarin gel buccal")}, 0);
-    QVERIFY2(rapport.contains(QStringLiteral(" Association contre-indiquée")), qPrintable(rapport));
-    QVERIFY(rapport.contains(
-        QStringLiteral("Source : ANSM, Thésaurus des interactions médicamenteuses, septembre 2023")));
 }
 
 QTEST_GUILESS_MAIN(TestBibliothequeBanque)
