@@ -2,6 +2,8 @@
 
 #include "application/Valeurs.h"
 #include "application/windows/Style.h"
+#include "drugbank/windows/FrmI.h"
+#include "medication/windows/FrmGEN.h"
 #include "prescription/windows/FrmOrdo.h"
 #include "scenario/Controles.h"
 #include "settings/FichiersReglages.h"
@@ -47,6 +49,10 @@ void ProgrammeScriptelle::Touche(const QString& fenetre)
         fenetres.Donne<startup::FrmMedecins>();
     } else if (fenetre == QLatin1String("FrmOrdo")) {
         fenetres.Donne<prescription::FrmOrdo>();
+    } else if (fenetre == QLatin1String("FrmGEN")) {
+        fenetres.Donne<medication::FrmGEN>();
+    } else if (fenetre == QLatin1String("FrmI")) {
+        fenetres.Donne<drugbank::FrmI>();
     }
 }
 

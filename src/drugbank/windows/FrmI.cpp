@@ -34,7 +34,7 @@ QLabel* Image(QWidget* parent)
 } // namespace
 
 FrmI::FrmI(application::Contexte& contexte, application::Fenetres&)
-    : contexte_(contexte), Out_(new QLabel(this)), PG_(new QProgressBar(this)),
+    : contexte_(contexte), Out_(new QLabel(contexte.Banque.MessageBanque, this)), PG_(new QProgressBar(this)),
       CmdAnnuler_(style::Bouton(QStringLiteral("CmdAnnuler"), QStringLiteral("&Annuler"),
                                 QStringLiteral("x-lg"), this))
 {
