@@ -31,7 +31,8 @@ namespace style = application::style;
 
 constexpr int kLargeurRecherche = 2; // shares of the width
 constexpr int kLargeurOrdonnance = 5;
-constexpr int kLignesPoso = 2; // the posology shows at least these
+constexpr int kLargeurEgale = 1000; // of the lists and of the document, shared out of what there is
+constexpr int kLignesPoso = 2;      // the posology shows at least these
 
 QHBoxLayout* Rang(std::initializer_list<QWidget*> gauche, std::initializer_list<QWidget*> droite)
 {
@@ -293,6 +294,7 @@ QWidget* Zones(ControlesMedoc& c, QWidget* carte)
     c.Document->hide();
     zones->setStretchFactor(0, 1);
     zones->setStretchFactor(1, 1);
+    zones->setSizes({kLargeurEgale, kLargeurEgale});
     return zones;
 }
 
