@@ -69,6 +69,7 @@ QListView, QTreeView, QTableView { padding: 4px; outline: 0; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled, QAbstractSpinBox:disabled, QComboBox:disabled,
 QListView:disabled, QTreeView:disabled { background: @fond@; color: @eteint@; }
 QLineEdit[readOnly="true"], QTextEdit[readOnly="true"], QPlainTextEdit[readOnly="true"] { background: @fond@; }
+QTextBrowser[readOnly="true"] { background: @blanc@; }
 QComboBox { padding: 5px 9px; min-height: 20px; combobox-popup: 0; }
 QComboBox:hover { border-color: @encre@; }
 QComboBox:focus, QComboBox:on { border: 2px solid @encre@; padding: 4px 8px; }
