@@ -155,6 +155,7 @@ QCalendarWidget QWidget#qt_calendar_navigationbar { background: @fond@; }
 )");
 
 constexpr QLatin1String kAscenseurs(R"(
+QAbstractScrollArea::corner { background: transparent; border: none; }
 QScrollBar { background: transparent; border: none; }
 QScrollBar:vertical { width: 14px; margin: 2px; }
 QScrollBar:horizontal { height: 14px; margin: 2px; }

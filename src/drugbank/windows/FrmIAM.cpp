@@ -11,7 +11,7 @@ namespace style = application::style;
 
 namespace {
 
-constexpr int kLargeur = 760;
+constexpr int kLargeur = 860;
 constexpr int kHauteur = 520;
 
 } // namespace

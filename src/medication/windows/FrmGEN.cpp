@@ -15,7 +15,7 @@ namespace {
 
 namespace style = application::style;
 
-constexpr int kLargeur = 860;
+constexpr int kLargeur = 980;
 constexpr int kHauteur = 460;
 
 /// Has no caption and does nothing: it takes the focus at the opening, so that no row is chosen yet.
