@@ -1,0 +1,25 @@
+// A bank that does not open: nothing is said of interactions or generics that nobody could ask for.
+banque({chargeable: false, packs: [{cip: "3400930000011", id: 11, produit: 101, nom: "DOLIPRANE", prix: 1.16}]});
+installer();
+ecrire(valeur("CheminMedecin") + "/Base.cfg", '"TVS",0,2\r\n');
+clic("FrmDepart.CmdQuitter");
+lancer();
+clic("FrmChoixBase.CmdSuite");
+ajouter("Medoc", "Biblio", ["QSP 3 mois", null]);
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdPharma");
+faux(visible("FrmMedoc.LblNonVerifiees"), "rien à vérifier");
+clic("FrmMedoc.TV", 0);
+clic("FrmMedoc.CmdAjouter1");
+vrai(visible("FrmMedoc.LblNonVerifiees"), "la fenêtre le dit");
+clic("FrmMedoc.HlbI");
+contient(texte("FrmIAM.Txt"), "n'ont pas pu être vérifiées", "le rapport aussi");
+clic("FrmIAM.CmdFermer");
+egal(valeur("RapportInteractions"), "", "rien n'est retenu");
+faux(visible("FrmMedoc.AniGIFI"), "l'image reste cachée");
+clic("FrmMedoc.TV", 0);
+clic("FrmMedoc.HlbG");
+boites([[/les génériques n'ont pas pu être cherchés/, "OK"]]);
+clic("FrmMedoc.CmdClear");
+faux(visible("FrmMedoc.LblNonVerifiees"), "plus de ligne");
+clic("FrmMedoc.CmdAnnule");
