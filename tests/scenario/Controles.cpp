@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QWindow>
 
 namespace scenario {
 
@@ -92,10 +93,19 @@ Controle Trouve(const QString& nom)
     throw Echec{QStringLiteral("%1 : le contrôle n'existe pas").arg(nom)};
 }
 
+/// True for a window that the system keeps above another one as its own, child or not.
+bool Appartient(const QWidget* fenetre, const QWidget* modale)
+{
+    const QWindow* dessus = fenetre->windowHandle();
+    const QWindow* dessous = modale->windowHandle();
+    return dessus && dessous && dessous->isAncestorOf(dessus, QWindow::IncludeTransients);
+}
+
 QWidget* FenetreBloquante(const QWidget* fenetre)
 {
     QWidget* modale = QApplication::activeModalWidget();
-    const bool libre = !modale || modale == fenetre || modale->isAncestorOf(fenetre);
+    const bool libre =
+        !modale || modale == fenetre || modale->isAncestorOf(fenetre) || Appartient(fenetre, modale);
     return libre ? nullptr : modale;
 }
 

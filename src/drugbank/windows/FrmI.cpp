@@ -19,7 +19,7 @@ namespace style = application::style;
 
 namespace {
 
-constexpr int kLargeur = 520;
+constexpr int kLargeur = 600;
 constexpr int kHauteur = 210;
 constexpr int kImage = 40;
 
@@ -55,7 +55,7 @@ FrmI::FrmI(application::Contexte& contexte, application::Fenetres&)
     QWidget* carte = style::Carte(this);
     auto* rang = style::DansCarte<QHBoxLayout>(carte);
     rang->setSpacing(style::kEntreGroupes);
-    rang->addWidget(Image(carte), 0, Qt::AlignTop);
+    rang->addWidget(Image(carte), 0, Qt::AlignVCenter);
     rang->addWidget(Out_, 1);
     QVBoxLayout* disposition = style::Fenetre(this);
     disposition->addWidget(carte, 1);
@@ -79,7 +79,7 @@ void FrmI::Montre()
 
 bool FrmI::event(QEvent* evenement)
 {
-    if (evenement->type() == QEvent::WindowBlocked) {
+    if (evenement->type() == QEvent::WindowBlocked || evenement->type() == QEvent::WindowUnblocked) {
         QTimer::singleShot(0, this, &FrmI::ResteAuDessus);
     }
     return QDialog::event(evenement);

@@ -1,0 +1,34 @@
+// A start that never leaves 14: the doctor works on, may give up, and closing never waits.
+banque({attentes: 100000});
+installer();
+ecrire(valeur("CheminMedecin") + "/Base.cfg", "\"TVS\",2,2\r\n");
+clic("FrmDepart.CmdQuitter");
+lancer();
+clic("FrmChoixBase.CmdSuite");
+egal(valeur("TypeBase"), "TVS", "la banque du médecin");
+clic("FrmDepart.CmdNO");
+vrai(visible("FrmI"), "le démarrage se montre");
+contient(texte("FrmI.Out"), " Initialisation de la pharmacie Vidal en cours ... veuillez patienter", "et dit ce qu'il attend");
+egal(valeur("RetourInitBanque"), 14, "il n'en finit pas");
+vrai(visible("FrmI.CmdAnnuler"), "après trente secondes on peut y renoncer");
+clic("FrmOrdo.CmdPharma");
+vrai(visible("FrmMedoc"), "le médecin travaille pendant ce temps");
+clic("FrmI.CmdAnnuler");
+faux(visible("FrmI"), "et renonce, même devant une fenêtre modale");
+egal([valeur("BanqueInitialisee"), valeur("SessionBanque")], [1, 0], "le démarrage a échoué");
+clic("FrmMedoc.CmdAnnule");
+const demandes = appels().length;
+clic("FrmOrdo.CmdAccueil");
+clic("FrmDepart.CmdNO");
+egal(appels().length, demandes, "et ne recommence pas");
+clic("FrmOrdo.CmdFermer");
+vrai(fini(), "fermer n'attend pas");
+faux(appels().some(appel => appel.nom === "VidalAPI_release"), "ni ne rend ce qui démarre encore");
+
+lancer();
+clic("FrmChoixBase.CmdSuite");
+clic("FrmDepart.CmdNO");
+vrai(visible("FrmI"), "un autre lancement recommence");
+clic("FrmOrdo.CmdFermer");
+vrai(fini(), "fermer pendant le démarrage y renonce");
+faux(appels().some(appel => appel.nom === "VidalAPI_release"), "sans rien rendre");
