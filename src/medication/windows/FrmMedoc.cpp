@@ -156,9 +156,7 @@ void FrmMedoc::Active()
     }
     c_.ChkMono->setChecked(contexte_.Reglages.Options.EtatChkMono == 1);
     ConfigureModeBase();
-    if (InteractionsARefaire(contexte_.Banque)) {
-        CalculeInteractions();
-    }
+    RattrapeInteractions();
     if (choix.BaseChangee != 2 || choix.TypeBaseArbre != contexte_.Banque.TypeBase) {
         ChargeMedicaments();
     }

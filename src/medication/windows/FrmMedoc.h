@@ -90,6 +90,8 @@ private:
     void RelieInteractions();
     /// In the bank mode, after each change of the lines.
     void CalculeInteractions();
+    /// The same once a bank answers that did not.
+    void RattrapeInteractions();
     void MontreInteractions(medication::Clic clic);
     void MontreNonVerifiees();
     void ArreteAnimations();

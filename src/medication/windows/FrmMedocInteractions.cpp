@@ -1,3 +1,4 @@
+#include "application/Signaux.h"
 #include "drugbank/Banque.h"
 #include "drugbank/windows/FrmIAM.h"
 #include "medication/windows/FrmMedoc.h"
@@ -12,6 +13,8 @@ namespace medication {
 void FrmMedoc::RelieInteractions()
 {
     connect(c_.AniGIFI, &ImageAnimee::Clic, this, [this] { MontreInteractions(medication::Clic::AniGIFI); });
+    connect(&contexte_.Signaux, &application::Signaux::StatutBanqueChange, this,
+            &FrmMedoc::RattrapeInteractions);
     connect(c_.HlbI, &QPushButton::clicked, this, [this] { MontreInteractions(medication::Clic::HlbI); });
 }
 
@@ -27,6 +30,13 @@ void FrmMedoc::CalculeInteractions()
         c_.AniGIFI->Arrete();
     }
     MontreNonVerifiees();
+}
+
+void FrmMedoc::RattrapeInteractions()
+{
+    if (InteractionsARefaire(contexte_.Banque)) {
+        CalculeInteractions();
+    }
 }
 
 void FrmMedoc::MontreNonVerifiees()
@@ -45,9 +55,7 @@ void FrmMedoc::ArreteAnimations()
 
 void FrmMedoc::MontreInteractions(medication::Clic clic)
 {
-    if (InteractionsARefaire(contexte_.Banque)) {
-        CalculeInteractions();
-    }
+    RattrapeInteractions();
     fenetres_.Donne<drugbank::FrmIAM>().MontreInteractions(TexteInteractions(contexte_.Banque, clic));
 }
 

@@ -152,6 +152,19 @@ private Q_SLOTS:
         QCOMPARE(Banque().RapportInteractions, u"tard"_s);
     }
 
+    void AStartThatEndsBehindTheLinesChecksThem()
+    {
+        Banque().SessionManquee = true;
+        DeuxLignes();
+        banque_->Rapports[{101, 102}] = u"tard"_s;
+        Q_EMIT monde_->Etat.Signaux.StatutBanqueChange();
+        QVERIFY(Avertit());
+        Banque().SessionManquee = false;
+        Q_EMIT monde_->Etat.Signaux.StatutBanqueChange();
+        QVERIFY(Joue("AniGIFI") && !Avertit());
+        QCOMPARE(Banque().RapportInteractions, u"tard"_s);
+    }
+
     void TheLocalModeAsksNothingAndShowsNothing()
     {
         DeuxLignes();
