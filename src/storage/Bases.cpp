@@ -1,6 +1,11 @@
 #include "storage/Bases.h"
 
 #include "common/Fichiers.h"
+#include "storage/ConversionJet.h"
+#include "storage/messages.h"
+
+#include <QFileInfo>
+#include <QScopedValueRollback>
 
 namespace storage {
 
@@ -38,9 +43,31 @@ Base& Bases::Ouverte(std::unique_ptr<Base>& base, const QString& chemin, GenreBa
 {
     if (!base || base->Chemin() != chemin) {
         base.reset();
+        ConvertitSiJet(chemin, genre);
         base = std::make_unique<Base>(chemin, genre);
     }
     return *base;
+}
+
+void Bases::ConvertitSiJet(const QString& chemin, GenreBase genre)
+{
+    if (convertit_) {
+        throw Panne(messages::ConversionEnCours, chemin);
+    }
+    const QFileInfo info(chemin);
+    if (const auto refus = refus_.constFind(chemin); refus != refus_.cend()) {
+        if (refus->Taille == info.size() && refus->Heure == info.lastModified()) {
+            throw RefusJet(refus->Motif);
+        }
+        refus_.erase(refus);
+    }
+    const QScopedValueRollback<bool> garde(convertit_, true);
+    try {
+        storage::ConvertitSiJet(chemin, genre, {.Suivi = suivi_});
+    } catch (const RefusJet& motif) {
+        refus_.insert(chemin, {info.size(), info.lastModified(), motif});
+        throw;
+    }
 }
 
 } // namespace storage

@@ -1,6 +1,7 @@
 #include "storage/Completion.h"
 
 #include "storage/Base.h"
+#include "storage/Correspondance.h"
 #include "storage/Schema.h"
 #include "storage/Verification.h"
 
@@ -10,28 +11,13 @@ namespace storage {
 
 namespace {
 
-bool MemeNom(const Colonne& une, const Colonne& autre)
+QStringList Noms(const Table& table)
 {
-    return une.Nom.compare(autre.Nom, Qt::CaseInsensitive) == 0;
-}
-
-/// For each column of `voulue` the place in `presente` that holds it, -1 for none. Columns whose names are
-/// all known, in their order, are found by name; others by their position, which is what the format goes by.
-QList<qsizetype> Places(const Table& voulue, const Table& presente)
-{
-    QList<qsizetype> places(voulue.Colonnes.size(), -1);
-    qsizetype suivante = 0;
-    for (qsizetype i = 0; i < places.size() && suivante < presente.Colonnes.size(); ++i) {
-        if (MemeNom(voulue.Colonnes[i], presente.Colonnes[suivante])) {
-            places[i] = suivante++;
-        }
+    QStringList noms;
+    for (const Colonne& colonne : table.Colonnes) {
+        noms.append(colonne.Nom);
     }
-    if (suivante < presente.Colonnes.size()) {
-        for (qsizetype i = 0; i < places.size(); ++i) {
-            places[i] = i < presente.Colonnes.size() ? i : -1;
-        }
-    }
-    return places;
+    return noms;
 }
 
 /// An index keeps its name with the table that it stands on: the rebuilt one could not have its own.
@@ -47,7 +33,7 @@ void RetireIndexes(Base& base, const QString& table)
 /// Gives whether every column of the former table found its place.
 bool CopieLignes(Base& base, const Table& table, const Table& presente, const QString& ancien)
 {
-    const QList<qsizetype> places = Places(table, presente);
+    const QList<qsizetype> places = Places(table, Noms(presente));
     QStringList vers;
     QStringList depuis;
     for (qsizetype i = 0; i < places.size(); ++i) {

@@ -2,6 +2,7 @@
 
 #include "common/Tolere.h"
 #include "storage/Base.h"
+#include "storage/EnteteJet.h"
 #include "storage/Pannes.h"
 #include "storage/messages.h"
 
@@ -71,7 +72,8 @@ void VerifieFichier(const QString& chemin)
     }
     const QByteArray entete("SQLite format 3", 16);
     if (fichier.read(entete.size()) != entete) {
-        throw Panne(messages::PasUneBase, chemin);
+        const bool jet = LitFormatJet(chemin) != FormatJet::Aucun;
+        throw Panne(jet ? messages::JetNonConvertie : messages::PasUneBase, chemin);
     }
 }
 

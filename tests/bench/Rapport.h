@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <functional>
 #include <vector>
 
 namespace bench {
@@ -24,15 +25,18 @@ inline double Mediane(std::vector<double> valeurs)
 }
 
 /// Times `mesure` against its yardstick `etalon`, in turn, so that a slow moment of the machine hits both.
-/// The benchmark's time is that of `mesure`; the counters are the medians of both and of their ratios.
+/// The benchmark's time is that of `mesure`; the counters are the medians of both and of their ratios. What
+/// `prepare` does before each of `mesure` counts nowhere.
 template <typename Mesure, typename Etalon>
-void Compare(benchmark::State& state, Mesure&& mesure, Etalon&& etalon)
+void Compare(
+    benchmark::State& state, Mesure&& mesure, Etalon&& etalon, const std::function<void()>& prepare = [] {})
 {
     std::vector<double> temps;
     std::vector<double> reference;
     std::vector<double> rapports;
     for ([[maybe_unused]] auto _ : state) {
         reference.push_back(Secondes(etalon));
+        prepare();
         temps.push_back(Secondes(mesure));
         rapports.push_back(temps.back() / reference.back());
         state.SetIterationTime(temps.back());

@@ -21,10 +21,11 @@ namespace application {
 
 Application::Application(const Dehors& dehors, const QString& cheminProgramme,
                          const QString& cheminInstallation)
-    : contexte_(etat_.Contexte(dehors)), fenetres_(contexte_)
+    : contexte_(etat_.Contexte(dehors)), fenetres_(contexte_), conversion_(fenetres_)
 {
     etat_.Chemins.CheminProgramme = cheminProgramme;
     etat_.Chemins.CheminInstallation = cheminInstallation;
+    etat_.Bases.Suit(&conversion_);
     connect(&etat_.Signaux, &Signaux::FinDemandee, this, &Application::Arrete);
     connect(&etat_.Signaux, &Signaux::StatutBanqueChange, this, &Application::SuitBanque);
 }

@@ -3,6 +3,7 @@
 #include "application/Etat.h"
 #include "application/windows/Fenetres.h"
 #include "startup/Demarrage.h"
+#include "storage/windows/ConversionMontree.h"
 
 #include <QObject>
 
@@ -45,6 +46,7 @@ private:
     application::Etat etat_;
     application::Contexte contexte_;
     application::Fenetres fenetres_;
+    storage::ConversionMontree conversion_;
     bool arretee_ = false;
 };
 
