@@ -63,8 +63,10 @@ private Q_SLOTS:
 void TestBibliothequeSeance::LaSessionRepond()
 {
     Poste poste(true);
-    poste.Demarre();
     const Banque& banque = poste.Etat.Banque;
+    const QString davance = banque.DateExpirationBase;
+    poste.Demarre();
+    QCOMPARE(davance, banque.DateExpirationBase);
     QCOMPARE(banque.RetourInitBanque, 0);
     QVERIFY(BanqueRepond(banque) && !banque.VersionBanque.isEmpty());
     QVERIFY(!banque.DateExpirationBase.isEmpty() && banque.DateExpirationBase != QLatin1String("01/01/1970"));
