@@ -42,10 +42,11 @@ Entier Bibliotheque::Demarre(Poignee* session)
         return kDemandeVide;
     }
     *session = 0;
-    Entier statut = session_ ? session_->Statut() : kEchec;
+    const QString fichier = Fichier();
+    Entier statut = session_ && session_->Fichier() == fichier ? session_->Statut() : kEchec;
     if (statut != kPrete && statut != kDemarrage) {
         session_.reset();
-        session_ = std::make_unique<Session>(Fichier());
+        session_ = std::make_unique<Session>(fichier);
         numero_ = Remis.Reserve();
         statut = kDemarrage; // however quick it is: who starts one asks for its result
     }

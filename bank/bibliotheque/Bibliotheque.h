@@ -11,7 +11,8 @@ namespace banque::bibliotheque {
 class Bibliotheque
 {
 public:
-    /// Writes the number of the session, a new one unless one runs already or is starting; null is refused.
+    /// Writes the number of the session, a new one unless one of the same file runs or is
+    /// starting; null is refused.
     Entier Demarre(Poignee* session);
     /// The session of a number, whatever became of its start; null when it is none.
     Session* Donne(Poignee session) const

@@ -25,6 +25,8 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
+    const QString& Fichier() const { return fichier_; }
+
     /// 14 while it loads, then what became of it.
     Entier Statut();
     /// The same once it has loaded.

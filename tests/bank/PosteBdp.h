@@ -20,9 +20,7 @@ public:
     /// Imports public files, with the text of a thesaurus or without.
     explicit PosteBdp(const QString& sources, const QString& thesaurus = {})
         : Bibliotheque(QStringLiteral(CHEMIN_BDP)),
-          Banque(std::make_shared<drugbank::LiaisonBanque>(Bibliotheque.fileName())),
-          choisit_(
-              reinterpret_cast<void (*)(const char*)>(Bibliotheque.resolve("BanquePublique_choisitFichier")))
+          Banque(std::make_shared<drugbank::LiaisonBanque>(Bibliotheque.fileName()))
     {
         banque::Importe({.Dossier = sources, .Vers = Fichier(), .Interactions = thesaurus});
         Choisit(Fichier());
@@ -38,7 +36,10 @@ public:
     QString Fichier() const { return common::Joint(dossier_.path(), QStringLiteral("banque.sqlite")); }
     QString Dossier() const { return dossier_.path(); }
 
-    void Choisit(const QString& fichier) { choisit_(fichier.toUtf8().constData()); }
+    void Choisit(const QString& fichier)
+    {
+        Banque->BanquePublique_choisitFichier(fichier.toUtf8().constData());
+    }
     /// Starts in the background and waits, as the program does; the last status.
     qint32 Demarre()
     {
@@ -75,7 +76,6 @@ public:
     std::optional<drugbank::RequetesBanque> Requetes;
 
 private:
-    void (*choisit_)(const char*);
     QTemporaryDir dossier_;
 };
 

@@ -96,8 +96,14 @@ void TestBibliothequeDemarrage::demarreDeuxFois()
     QCOMPARE(seconde, poste_.Session);
     QCOMPARE(poste_.Banque->VidalAPI_asyncInit(&seconde, PosteBdp::kProduit), 0);
     QCOMPARE(poste_.Banque->VidalAPI_asyncStartResult(seconde, 1), 0);
-    poste_.Libere();
-    QVERIFY(poste_.Banque->VidalAPI_asyncStartResult(seconde, 1) != 0);
+    // Another file is another session, which takes the place of this one.
+    poste_.Choisit(QStringLiteral("/nulle part/banque.sqlite"));
+    QCOMPARE(poste_.Banque->VidalAPI_init(&seconde, PosteBdp::kProduit), 1);
+    QVERIFY(seconde != poste_.Session);
+    QVERIFY(poste_.Banque->VidalAPI_asyncStartResult(poste_.Session, 1) != 0);
+    poste_.Banque->VidalAPI_release(seconde);
+    QCOMPARE(poste_.Banque->VidalAPI_asyncStartResult(seconde, 1), 5);
+    poste_.Choisit(poste_.Fichier());
 }
 
 void TestBibliothequeDemarrage::dateDExpiration()

@@ -83,7 +83,7 @@ void TestBibliothequeReelle::ordonnancesAuHasard()
     QRandomGenerator hasard(20260519);
     drugbank::RequetesBanque& requetes = *poste_.Poste->Requetes;
     qsizetype couples = 0;
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 40; ++i) {
         QList<qint32> produits;
         for (int j = 0; j < 20; ++j) {
             const QString lettre(QChar(u'a' + hasard.bounded(26)));
