@@ -137,7 +137,7 @@ void Ecriture::Execute(const QString& instruction)
     }
 }
 
-void Ecriture::Valide()
+void Ecriture::Valide(const std::function<void()>& avant)
 {
     for (const QString& index : Index()) {
         if (!index.trimmed().isEmpty()) {
@@ -146,6 +146,9 @@ void Ecriture::Valide()
     }
     Execute(QStringLiteral("commit"));
     base_.close();
+    if (avant) {
+        avant();
+    }
     common::MetEnPlace(ebauche_, chemin_);
 }
 

@@ -8,13 +8,15 @@
 #include "bank/messages.h"
 #include "common/Fichiers.h"
 
+#include <QFileInfo>
+
 namespace banque {
 
 namespace {
 
 constexpr int kMoisDeValidite = 12;
 
-void EcritInformation(Ecriture& ecriture, const QDate& date)
+void EcritInformation(Ecriture& ecriture, const QDate& date, const QString& nature)
 {
     Insertion information = ecriture.Prepare(QStringLiteral("information"));
     information.Ajoute({QStringLiteral("date_donnees"), date.toString(Qt::ISODate)});
@@ -23,6 +25,20 @@ void EcritInformation(Ecriture& ecriture, const QDate& date)
         {QStringLiteral("source"),
          QStringLiteral("Base de données publique des médicaments (ANSM, HAS, Assurance Maladie)")});
     information.Ajoute({QStringLiteral("version"), QString::number(kVersionBanque)});
+    if (!nature.isEmpty()) {
+        information.Ajoute({QStringLiteral("nature"), nature});
+    }
+}
+
+void LitThesaurus(Ecriture& ecriture, const Demande& demande, Bilan& bilan, const Avancement& avancement)
+{
+    const QString nom = QFileInfo(demande.Interactions).fileName();
+    if (avancement && !avancement(nom, 0, 0)) {
+        throw Interruption(messages::Interrompu(), common::CheminAffiche(demande.Interactions));
+    }
+    const ChiffresThesaurus chiffres =
+        ImporteThesaurus(ecriture.Base(), common::LitFichier(demande.Interactions));
+    bilan.Interactions = chiffres.Lignes() + chiffres.Desaccords;
 }
 
 } // namespace
@@ -39,14 +55,12 @@ Bilan Importe(const Demande& demande, const Avancement& avancement)
     if (!date.isValid()) {
         throw common::Erreur(messages::DateInconnue(), common::CheminAffiche(demande.Dossier));
     }
-    EcritInformation(ecriture, date);
+    EcritInformation(ecriture, date, demande.Nature);
     bilan.DateDonnees = date.toString(Qt::ISODate);
     if (!demande.Interactions.isEmpty()) {
-        const ChiffresThesaurus chiffres =
-            ImporteThesaurus(ecriture.Base(), common::LitFichier(demande.Interactions));
-        bilan.Interactions = chiffres.Lignes() + chiffres.Desaccords;
+        LitThesaurus(ecriture, demande, bilan, avancement);
     }
-    ecriture.Valide();
+    ecriture.Valide(demande.AvantRemplacement);
     return bilan;
 }
 

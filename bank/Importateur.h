@@ -14,6 +14,10 @@ struct Demande
     QString Vers;              ///< the bank file
     QString Interactions = {}; ///< the text of the thesaurus of interactions; without it the bank has none
     QDate DateDonnees = {};    ///< the day the files were published; else the newest date that they hold
+    QString Nature = {};       ///< what the data are when they are not the whole public base, in French
+    /// Called when the new bank is whole, right before it takes the place of the former one: whoever has that
+    /// one open closes it here. What it throws leaves the former one.
+    std::function<void()> AvantRemplacement = {};
 };
 
 /// The import was interrupted by its caller.

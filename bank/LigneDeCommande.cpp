@@ -38,6 +38,8 @@ std::optional<Demande> LitArguments(const QStringList& arguments)
             demande.Vers = valeur;
         } else if (arguments[i] == QLatin1String("--interactions")) {
             demande.Interactions = valeur;
+        } else if (arguments[i] == QLatin1String("--nature")) {
+            demande.Nature = valeur;
         } else if (arguments[i] == QLatin1String("--date")) {
             demande.DateDonnees = QDate::fromString(valeur, Qt::ISODate);
             if (!demande.DateDonnees.isValid()) {
@@ -55,10 +57,11 @@ QString Usage()
 {
     return QStringLiteral(
         "Usage : scriptelle-banque importer DOSSIER [--interactions FICHIER] --vers banque.sqlite\n"
-        "       [--date aaaa-mm-jj]\n"
+        "       [--date aaaa-mm-jj] [--nature TEXTE]\n"
         "DOSSIER contient les fichiers de la Base de données publique des médicaments,\n"
         "sous leur nom d'origine (CIS_bdpm.txt, CIS_CIP_bdpm.txt, ...).\n"
         "FICHIER est le texte du Thésaurus des interactions médicamenteuses.\n"
+        "TEXTE dit ce que sont les données, quand elles ne sont pas la base entière.\n"
         "Fin : 0 importée, 3 importée avec des lignes refusées, 1 échec, 2 usage, 130 "
         "interrompue.\n");
 }
