@@ -46,8 +46,8 @@ public:
     void Execute(const QString& instruction);
     /// The bank being written, for what fills tables of its own within the same transaction.
     const QSqlDatabase& Base() const { return base_; }
-    /// Makes the indexes, flushes the file to the disk and puts it in the place of the former one, `avant` being
-    /// called between. Throws `Erreur`.
+    /// Makes the indexes, flushes the file to the disk and puts it in the place of the former one, `avant`
+    /// being called between. Throws `Erreur`.
     void Valide(const std::function<void()>& avant);
 
 private:

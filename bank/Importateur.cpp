@@ -47,7 +47,7 @@ Bilan Importe(const Demande& demande, const Avancement& avancement)
 {
     const Sources sources(demande.Dossier);
     Bilan bilan;
-    bilan.Avertissements = sources.Avertissements();
+    bilan.Avertissements = sources.Avertissements(demande.Interactions);
     Ecriture ecriture(demande.Vers);
     Remplissage remplissage(ecriture, sources, bilan, avancement);
     remplissage.Tout();

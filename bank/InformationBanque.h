@@ -11,7 +11,7 @@ struct InformationBanque
 {
     QDate DateDonnees;
     QDate Expiration;
-    QString Nature; ///< what its data are when they are not the whole public base
+    QString Nature = {}; ///< what its data are when they are not the whole public base
     int Specialites = 0;
     int Interactions = 0; ///< 0 for a bank made without the thesaurus
 };

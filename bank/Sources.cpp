@@ -8,10 +8,8 @@
 
 namespace banque {
 
-namespace {
-
 /// What a prescription stands on: without one of these the bank would mislead.
-const QStringList& Exigees()
+const QStringList& SourcesExigees()
 {
     using namespace sources;
     static const QStringList exigees{kSpecialites, kPresentations,  kCompositions, kGroupes,
@@ -19,14 +17,12 @@ const QStringList& Exigees()
     return exigees;
 }
 
-const QStringList& Facultatives()
+const QStringList& SourcesFacultatives()
 {
     using namespace sources;
     static const QStringList facultatives{kLiensAvis, kAvisSmr, kAvisAsmr};
     return facultatives;
 }
-
-} // namespace
 
 Sources::Sources(const QString& dossier) : dossier_(dossier)
 {
@@ -35,7 +31,7 @@ Sources::Sources(const QString& dossier) : dossier_(dossier)
         throw common::Erreur(messages::DossierAbsent(affiche), affiche);
     }
     presents_ = QDir(dossier).entryList(QDir::Files, QDir::Name);
-    for (const QString& nom : Exigees()) {
+    for (const QString& nom : SourcesExigees()) {
         if (Chemin(nom).isEmpty()) {
             throw common::Erreur(messages::FichierAbsent(nom, affiche), affiche);
         }
@@ -52,17 +48,18 @@ QString Sources::Chemin(const QString& nom) const
     return {};
 }
 
-QStringList Sources::Avertissements() const
+QStringList Sources::Avertissements(const QString& thesaurus) const
 {
     QStringList avertissements;
-    for (const QString& nom : Facultatives()) {
+    for (const QString& nom : SourcesFacultatives()) {
         if (Chemin(nom).isEmpty()) {
             avertissements.append(messages::FichierFacultatifAbsent(nom));
         }
     }
-    const QStringList connus = Exigees() + Facultatives();
+    const QStringList connus = SourcesExigees() + SourcesFacultatives();
     for (const QString& present : presents_) {
-        if (!connus.contains(present, Qt::CaseInsensitive)) {
+        const bool lu = QFileInfo(common::Joint(dossier_, present)) == QFileInfo(thesaurus);
+        if (!lu && !connus.contains(present, Qt::CaseInsensitive)) {
             avertissements.append(messages::FichierInconnu(present));
         }
     }

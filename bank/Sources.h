@@ -19,6 +19,16 @@ inline const QString kAvisSmr = QStringLiteral("CIS_HAS_SMR_bdpm.txt");
 inline const QString kAvisAsmr = QStringLiteral("CIS_HAS_ASMR_bdpm.txt");
 } // namespace sources
 
+/// The files that no bank can miss.
+const QStringList& SourcesExigees();
+/// Those that a bank can do without.
+const QStringList& SourcesFacultatives();
+/// Both.
+inline QStringList NomsDesSources()
+{
+    return SourcesExigees() + SourcesFacultatives();
+}
+
 /// The files of a directory, found whatever the case of their names.
 class Sources
 {
@@ -28,8 +38,9 @@ public:
 
     /// The path of a file; empty when it is absent.
     QString Chemin(const QString& nom) const;
-    /// Files that are unknown, or absent though a bank can do without them: a sentence each.
-    QStringList Avertissements() const;
+    /// Files that are unknown, or absent though a bank can do without them: a sentence each. `thesaurus` is
+    /// read besides, and may lie there too.
+    QStringList Avertissements(const QString& thesaurus = {}) const;
 
 private:
     QString dossier_;

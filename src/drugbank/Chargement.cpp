@@ -3,6 +3,7 @@
 #include "common/Dates.h"
 #include "common/Fichiers.h"
 #include "common/Texte8.h"
+#include "drugbank/BanquePublique.h"
 #include "startup/Chemins.h"
 
 #include <QDir>
@@ -29,14 +30,6 @@ template <typename Liaison> std::shared_ptr<Liaison> SiChargee(std::shared_ptr<L
     return liaison->Chargee() ? liaison : nullptr;
 }
 
-/// The bank file that an update has left, else the one that came with the program.
-QString FichierPublic(const startup::Chemins& chemins)
-{
-    const QString nom = QStringLiteral("banque.sqlite");
-    const QString recent = common::Joint(chemins.CheminInstallation, nom);
-    return common::FichierExiste(recent) ? recent : common::Joint(chemins.CheminProgramme, nom);
-}
-
 } // namespace
 
 std::shared_ptr<LiaisonAide> ChargeAide(const startup::Chemins& chemins)
@@ -59,7 +52,7 @@ QString CheminBanquePublique(const startup::Chemins& chemins)
 void ChoisitFichierPublic(const LiaisonBanque& banque, const startup::Chemins& chemins)
 {
     if (banque.BanquePublique_choisitFichier.Existe()) {
-        banque.BanquePublique_choisitFichier(FichierPublic(chemins).toUtf8().constData());
+        banque.BanquePublique_choisitFichier(FichierBanquePublique(chemins).toUtf8().constData());
     }
 }
 

@@ -152,6 +152,14 @@ void Seance::Libere(Contexte& contexte)
     Q_EMIT contexte.Signaux.StatutBanqueChange();
 }
 
+void Seance::LiberePublique(Contexte& contexte)
+{
+    if (EstPublique(contexte.Banque) ||
+        (module_ && cheminModule_ == CheminBanquePublique(contexte.Chemins))) {
+        Libere(contexte);
+    }
+}
+
 void Seance::SuitBase(Contexte& contexte)
 {
     const Banque& banque = contexte.Banque;

@@ -35,6 +35,9 @@ public:
     /// `FermeBanque` without the helper, and the next `Demarre` starts anew: for a bank file that changes.
     void Libere(application::Contexte& contexte);
 
+    /// The same where the session or the library in hand is the open bank's; any other stays.
+    void LiberePublique(application::Contexte& contexte);
+
     /// After another base was chosen: a session of the open bank never answers for the other banks, whose
     /// ids mean other medications, nor the other way round.
     void SuitBase(application::Contexte& contexte);

@@ -1,5 +1,9 @@
 #include "settings/ChoixPharmacie.h"
 
+#include "drugbank/Banque.h"
+#include "drugbank/BanquePublique.h"
+#include "drugbank/Chargement.h"
+#include "outside/Horloge.h"
 #include "settings/messages.h"
 
 #include <algorithm>
@@ -16,10 +20,13 @@ struct Pharmacie
     QLatin1String Nom;
 };
 
-constexpr std::array<Pharmacie, 3> kPharmacies = {
+constexpr int kPublique = 3;
+
+constexpr std::array<Pharmacie, kNbPharmacies> kPharmacies = {
     {{QLatin1String("BIP"), -1, QLatin1String("Scriptelle")},
      {QLatin1String("TVS"), 2, QLatin1String("VIDAL Expert")},
-     {QLatin1String("VDE"), 1, QLatin1String("VIDAL Dentaire")}}};
+     {QLatin1String("VDE"), 1, QLatin1String("VIDAL Dentaire")},
+     {QLatin1String("BDP"), drugbank::kProduitPublic, QLatin1String("Base publique")}}};
 
 void Prend(drugbank::Banque& banque, const Pharmacie& pharmacie)
 {
@@ -35,12 +42,33 @@ bool EstInstallee(const drugbank::Banque& banque)
 
 } // namespace
 
-ChoixPharmacie ChoisitPharmacie(drugbank::Banque& banque, int rang)
+QString EtatBasePublique(const application::Contexte& contexte)
 {
+    const bool presente = drugbank::BanquePubliquePresente(contexte.Chemins);
+    const auto information = drugbank::LitBanquePublique(contexte.Chemins);
+    if (!presente || !information) {
+        return messages::BasePubliqueNonInstallee(presente ? messages::SansFichierDeBanque()
+                                                           : messages::SansBibliotheque());
+    }
+    const QString jour = drugbank::JourAffiche(information->DateDonnees);
+    const QStringList reserves = drugbank::Reserves(*information, contexte.Dehors.Horloge.Aujourdhui());
+    QStringList phrases = QStringList{messages::BasePubliqueInstallee(jour)} + reserves;
+    if (!reserves.isEmpty()) {
+        phrases.append(messages::OuMettreAJour());
+    }
+    return phrases.join(u'\n');
+}
+
+ChoixPharmacie ChoisitPharmacie(application::Contexte& contexte, int rang)
+{
+    drugbank::Banque& banque = contexte.Banque;
     const Pharmacie& pharmacie = kPharmacies.at(static_cast<std::size_t>(rang));
     Prend(banque, pharmacie);
     if (rang == 0) {
         return {0, messages::BaseScriptelle(), false};
+    }
+    if (rang == kPublique) {
+        return {rang, EtatBasePublique(contexte), true};
     }
     if (!banque.ModuleAide) {
         Prend(banque, kPharmacies.front());

@@ -102,6 +102,35 @@ inline QString BaseNonInstallee(const QString& nom)
     return QStringLiteral("La base %1 n'est pas correctement installée !").arg(nom);
 }
 
+inline QString BasePubliqueInstallee(const QString& jour)
+{
+    return QStringLiteral("La base publique des médicaments est correctement installée ! Données du %1.")
+        .arg(jour);
+}
+
+inline QString BasePubliqueNonInstallee(const QString& cause)
+{
+    return QStringLiteral("La base publique des médicaments n'est pas correctement installée ! %1")
+        .arg(cause);
+}
+
+inline QString SansBibliotheque()
+{
+    return QStringLiteral("Sa bibliothèque « scriptelle-bdp » manque à côté du programme.");
+}
+
+inline QString OuMettreAJour()
+{
+    return QStringLiteral("Pour la mettre à jour : menu « Outils », « Mettre à jour la base publique… ».");
+}
+
+inline QString SansFichierDeBanque()
+{
+    return QStringLiteral(
+        "Son fichier « banque.sqlite » manque ou n'est pas lisible : menu « Outils », « Mettre "
+        "à jour la base publique… ».");
+}
+
 inline QString TitreFichierLogo()
 {
     return QStringLiteral("Chemin du Fichier Logo");

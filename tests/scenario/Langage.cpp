@@ -120,6 +120,7 @@ void Langage::Prepare(QJSEngine& moteur)
     global.setProperty(QStringLiteral("__appels"), moteur.toScriptValue(QStringList(appels_.keys())));
     global.setProperty(QStringLiteral("programme"), session_.Monde.Programme());
     global.setProperty(QStringLiteral("utilisateur"), session_.Monde.Utilisateur());
+    global.setProperty(QStringLiteral("extrait"), QStringLiteral(EXTRAIT));
     moteur.installExtensions(QJSEngine::ConsoleExtension);
     ChargeRessource(moteur, QStringLiteral("langue.js"));
     ChargeRessource(moteur, QStringLiteral("prelude.js"));

@@ -78,15 +78,16 @@ void TestSaisieOptions::AnotherBaseFillsTheTreeAgain()
 
 void TestSaisieOptions::TheHelperLibraryDecides()
 {
-    drugbank::Banque banque;
-    QCOMPARE(ChoisitPharmacie(banque, 2).LblBase, messages::SansModuleAide());
+    Cabinet cabinet;
+    drugbank::Banque& banque = cabinet.Etat.Banque;
+    QCOMPARE(ChoisitPharmacie(cabinet.Contexte, 2).LblBase, messages::SansModuleAide());
     QCOMPARE(banque.ProduitBanque, -1);
     banque.ModuleAide = true;
     banque.VidalHelper_getVidalAPIPath = [](qint32 produit) { return produit == 1 ? 0 : 21; };
-    QCOMPARE(ChoisitPharmacie(banque, 2).LblBase,
+    QCOMPARE(ChoisitPharmacie(cabinet.Contexte, 2).LblBase,
              QStringLiteral("La base VIDAL Dentaire est correctement installée !"));
     QCOMPARE(banque.TypeBase, QStringLiteral("VDE"));
-    QCOMPARE(ChoisitPharmacie(banque, 1).LblBase,
+    QCOMPARE(ChoisitPharmacie(cabinet.Contexte, 1).LblBase,
              QStringLiteral("La base VIDAL Expert n'est pas correctement installée !"));
     QCOMPARE(banque.ProduitBanque, 2);
 }

@@ -1,7 +1,7 @@
 #include "settings/windows/OngletPharmacies.h"
 
 #include "application/windows/Style.h"
-#include "settings/ChoixPharmacie.h"
+#include "drugbank/Banque.h"
 #include "settings/messages.h"
 
 #include <QCheckBox>
@@ -20,7 +20,7 @@ OngletPharmacies::OngletPharmacies(application::Contexte& contexte, QWidget* par
 {
     Dispose();
     Charge();
-    for (int rang = 0; rang < 3; ++rang) {
+    for (int rang = 0; rang < kNbPharmacies; ++rang) {
         connect(OptB_[rang], &QRadioButton::clicked, this, [this, rang] { Choisit(rang); });
     }
 }
@@ -33,8 +33,8 @@ void OngletPharmacies::Dispose()
     groupe->addWidget(style::Titre(QStringLiteral("LblPharmacie"),
                                    QStringLiteral("Choisir la base de données de la pharmacie"), carte));
     const QStringList legendes = {QStringLiteral("&Scriptelle"), QStringLiteral("&Vidal TVS"),
-                                  QStringLiteral("Vidal &Dentaire")};
-    for (int rang = 0; rang < 3; ++rang) {
+                                  QStringLiteral("Vidal &Dentaire"), QStringLiteral("&Base publique")};
+    for (int rang = 0; rang < kNbPharmacies; ++rang) {
         OptB_[rang] = new QRadioButton(legendes.at(rang), carte);
         OptB_[rang]->setObjectName(QStringLiteral("OptB(%1)").arg(rang));
         groupe->addWidget(OptB_[rang], 0, Qt::AlignLeft);
@@ -64,6 +64,8 @@ void OngletPharmacies::Charge()
     }
     if (rang == 0) {
         LblBase_->setText(messages::BaseScriptelle());
+    } else if (rang == kNbPharmacies - 1) {
+        LblBase_->setText(EtatBasePublique(contexte_));
     }
 }
 
@@ -71,7 +73,7 @@ void OngletPharmacies::Choisit(int rang)
 {
     LblBase_->setText(messages::RechercheBase());
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    const ChoixPharmacie choix = ChoisitPharmacie(contexte_.Banque, rang);
+    const ChoixPharmacie choix = ChoisitPharmacie(contexte_, rang);
     OptB_[choix.Rang]->setChecked(true);
     ChKMedU_->setChecked(choix.Relief && contexte_.Reglages.Options.ReliefMedUtilises != 0);
     ChKMedU_->setEnabled(choix.Relief);

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "application/Contexte.h"
+#include "settings/ChoixPharmacie.h"
 #include "settings/windows/Onglet.h"
+
+#include <array>
 
 class QCheckBox;
 class QLabel;
@@ -27,7 +30,7 @@ private:
     void Choisit(int rang);
 
     application::Contexte& contexte_;
-    QRadioButton* OptB_[3] = {};
+    std::array<QRadioButton*, kNbPharmacies> OptB_ = {};
     QLabel* LblBase_ = nullptr;
     QCheckBox* ChKMedU_ = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "application/Signaux.h"
 #include "backup/windows/FrmRestaure.h"
+#include "drugbank/windows/FrmMajBanque.h"
 #include "medication/windows/FrmMedoc.h"
 #include "prescription/Editeur.h"
 #include "prescription/windows/FrmJournal.h"
@@ -71,6 +72,7 @@ void FrmDepart::BrancheMenus()
     suit(menus_.mnuLogo, [this] { OuvreOptionsDuMedecin(kLogo); });
     suit(menus_.mnuBase, [this] { OuvreOptionsDuMedecin(kPharmacies); });
     suit(menus_.mnuRestaure, [this] { fenetres_.OuvreModale<backup::FrmRestaure>(); });
+    suit(menus_.mnuMajBanque, [this] { fenetres_.OuvreModale<drugbank::FrmMajBanque>(); });
     suit(menus_.mnuJournal, [this] { fenetres_.OuvreModale<prescription::FrmJournal>(); });
     suit(menus_.mnuAideOld, [this] { OuvreAide(contexte_); });
     suit(menus_.mnuAideNew, [this] { OuvreNouvelleAide(contexte_); });

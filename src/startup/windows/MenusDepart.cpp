@@ -56,6 +56,8 @@ void MenusDepart::RemplitOutils()
     mnuOutils->addSeparator();
     mnuBase = Entree(mnuOutils, "mnuBase", QStringLiteral("&Choisir la base de données de la pharmacie"),
                      "capsule");
+    mnuMajBanque = Entree(mnuOutils, "mnuMajBanque", QStringLiteral("Mettre à jour la base &publique…"),
+                          "arrow-clockwise");
     mnuOutils->addSeparator();
     Reporte(Entree(mnuOutils, "mnuTransfertDonn", QStringLiteral("&Transfert des données"), "hdd"));
     mnuOutils->addSeparator();

@@ -15,6 +15,7 @@ struct MenusDepart
     QMenu* mnuOutils;
     QAction* mnuLogo;
     QAction* mnuBase;
+    QAction* mnuMajBanque;
     QAction* mnuMAJClef;
     QAction* mnuRestaure;
     QAction* mnuJournal;

@@ -1,6 +1,7 @@
 #include "certificates/windows/FrmCertif.h"
 #include "drugbank/Banque.h"
 #include "drugbank/windows/FrmIAM.h"
+#include "drugbank/windows/FrmMajBanque.h"
 #include "medication/windows/FrmGEN.h"
 #include "medication/windows/FrmMedoc.h"
 #include "medication/windows/FrmNouveauM.h"
@@ -294,6 +295,7 @@ void TestAccessibilite::Fenetres()
     rang("FrmOptions, Logo", [](P& p) -> QWidget& { return MontreOptions(p, 5); });
     rang("FrmOptions, Duplicata", [](P& p) -> QWidget& { return MontreOptions(p, 6); });
     rang("FrmIAM", &Montre<drugbank::FrmIAM>);
+    rang("FrmMajBanque", &Montre<drugbank::FrmMajBanque>);
 }
 
 QWidget& TestAccessibilite::Ouvre()

@@ -2,7 +2,7 @@
 installer();
 const parties = nom => lignes("FrmDepart." + nom).filter(texte => texte !== "" && texte !== "-");
 egal(parties("mnuOutils"), ["Réparer et compacter les bases de données", "Insérer un logo",
-    "Choisir la base de données de la pharmacie", "Transfert des données",
+    "Choisir la base de données de la pharmacie", "Mettre à jour la base publique…", "Transfert des données",
     "Mise à jour des bases de  données sur support externe (clef USB  ou serveur)", "Journal des ordonnances", "Restaurer une sauvegarde…"],
     "les outils");
 clic("FrmDepart.CmdAide");
