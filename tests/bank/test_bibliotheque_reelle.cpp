@@ -1,6 +1,9 @@
 #include "BanqueDeTest.h"
 #include "PosteReel.h"
 
+#include "drugbank/AdresseDocument.h"
+#include "drugbank/PageDocument.h"
+
 #include <QRandomGenerator>
 #include <QTest>
 #include <QUrl>
@@ -16,6 +19,7 @@ private Q_SLOTS:
     void connaitLesMedicaments();
     void recherchesAuHasard();
     void ordonnancesAuHasard();
+    void pagesQueLaVueMontre();
 
 private:
     support::PosteReel poste_;
@@ -101,6 +105,32 @@ void TestBibliothequeReelle::ordonnancesAuHasard()
         couples += rapport.count(bloc);
     }
     QVERIFY(couples > 0);
+}
+
+/// The program's view takes the address, and shows each page as a page: some are long, none is too much.
+void TestBibliothequeReelle::pagesQueLaVueMontre()
+{
+    drugbank::RequetesBanque& requetes = *poste_.Poste->Requetes;
+    int pages = 0;
+    qint64 plusLongue = 0;
+    for (char16_t a = u'a'; a <= u'z'; ++a) {
+        for (char16_t b = u'a'; b <= u'z'; b += 5) {
+            const QList<Pack> packs = requetes.RecherchePacks(QString(QChar(a)) + QChar(b), 64);
+            for (const Pack& pack : packs.first(qMin<qsizetype>(3, packs.size()))) {
+                const QUrl adresse = drugbank::AdresseDepuisTexte(requetes.Monographie(pack.Id));
+                QCOMPARE(drugbank::SortDeLAdresse(adresse), drugbank::Sort::Fichier);
+                const drugbank::Recu recu = drugbank::LitLeFichier(adresse, drugbank::kPageMaximum);
+                QVERIFY2(recu.Manque.isEmpty(), qPrintable(recu.Manque));
+                const QString html = drugbank::HtmlDeLaPage(recu.Octets);
+                QVERIFY2(html.contains(QStringLiteral("</h1>")) && html.contains(QStringLiteral("</table>")),
+                         qPrintable(pack.Nom));
+                plusLongue = qMax(plusLongue, recu.Octets.size());
+                ++pages;
+            }
+        }
+    }
+    QVERIFY(pages > 20);
+    QVERIFY(plusLongue < 1'000'000);
 }
 
 QTEST_GUILESS_MAIN(TestBibliothequeReelle)
