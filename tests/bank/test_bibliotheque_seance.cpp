@@ -1,102 +1,75 @@
-#include "BanqueDeTest.h"
 #include "bank/Importateur.h"
-#include "drugbank/Banque.h"
-#include "drugbank/Chargement.h"
-#include "support/Monde.h"
+#include "drugbank/PosteBanque.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QTest>
 
 using namespace drugbank;
+using Poste = support::PosteBanque;
 
 namespace {
 
-/// The program with the open bank beside it, as it is installed; its bank file may be missing.
-struct Poste : support::Monde
+/// The real library and a bank of the project's own files beside the program.
+void PoseLaVraie(Poste& poste)
 {
-    explicit Poste(bool avecFichier)
-    {
-        common::CreeDossier(Etat.Chemins.CheminProgramme);
-        const QFileInfo bibliotheque(QStringLiteral(CHEMIN_BDP));
-        if (!QFile::copy(bibliotheque.filePath(),
-                         common::Joint(Etat.Chemins.CheminProgramme, bibliotheque.fileName()))) {
-            qFatal("%s", CHEMIN_BDP);
-        }
-        if (avecFichier) {
-            banque::Importe({.Dossier = support::DossierExtrait(),
-                             .Vers = Chemin(QStringLiteral("programme/banque.sqlite")),
-                             .Interactions = {}});
-        }
-        Etat.Banque.TypeBase = QStringLiteral("BDP");
-        Etat.Banque.ProduitBanque = kProduitPublic;
-        Etat.Seance.Charge(Contexte);
-    }
-    ~Poste() { Etat.Seance.Ferme(Contexte); }
-    Poste(const Poste&) = delete;
-    Poste& operator=(const Poste&) = delete;
+    const QString suffixe = QFileInfo(QStringLiteral(CHEMIN_BDP)).suffix();
+    QVERIFY(QFile::copy(QStringLiteral(CHEMIN_BDP),
+                        poste.Chemin(QStringLiteral("programme/scriptelle-bdp.%1").arg(suffixe))));
+    banque::Importe(
+        {.Dossier = QStringLiteral(RACINE_PROJET "/bank/extrait"),
+         .Vers = poste.Chemin(QStringLiteral("programme/banque.sqlite")),
+         .Interactions = QStringLiteral(RACINE_PROJET "/bank/extrait/thesaurus/interactions.txt")});
+    poste.ChoisitPublique();
+}
 
-    void Demarre()
-    {
-        Etat.Seance.Demarre(Contexte);
-        Horloge.Passe(0);
-        for (int sonde = 0; sonde < 400 && Etat.Banque.RetourInitBanque == kStatutEnCours; ++sonde) {
-            QTest::qSleep(5);
-            Horloge.Passe(50);
-        }
-        Horloge.Passe(30'000);
-    }
-};
+/// The start goes on while the library loads on its own thread.
+void DemarreEtAttends(Poste& poste)
+{
+    poste.Demarre();
+    QTRY_VERIFY_WITH_TIMEOUT((poste.Horloge.Passe(2000), poste.Banque.BanqueInitialisee == 1), 20'000);
+    poste.Horloge.Passe(60'000);
+}
 
 } // namespace
 
+/// The program's session over the open bank itself.
 class TestBibliothequeSeance : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void LaSessionRepond();
-    void LeFichierSeRemplaceEntreDeuxSessions();
-    void SansFichierElleLeDit();
+    void ouvreInterrogeFerme();
+    void fichierAbsent();
 };
 
-void TestBibliothequeSeance::LaSessionRepond()
+void TestBibliothequeSeance::ouvreInterrogeFerme()
 {
-    Poste poste(true);
-    const Banque& banque = poste.Etat.Banque;
-    const QString davance = banque.DateExpirationBase;
-    poste.Demarre();
-    QCOMPARE(davance, banque.DateExpirationBase);
-    QCOMPARE(banque.RetourInitBanque, 0);
-    QVERIFY(BanqueRepond(banque) && !banque.VersionBanque.isEmpty());
-    QVERIFY(!banque.DateExpirationBase.isEmpty() && banque.DateExpirationBase != QLatin1String("01/01/1970"));
-    QCOMPARE(banque.MessageBanque,
-             QStringLiteral("Pharmacie initialisée\nDate d'expiration = ") + banque.DateExpirationBase);
-    QCOMPARE(banque.Acces->RecherchePacks(QStringLiteral("velmont"), 64).size(), 50);
+    Poste poste;
+    PoseLaVraie(poste);
+    poste.Charge();
+    QCOMPARE(poste.Banque.DateExpirationBase, QStringLiteral("18/05/2027"));
+    DemarreEtAttends(poste);
+    QVERIFY(BanqueRepond(poste.Banque));
+    QCOMPARE(poste.Banque.RetourInitBanque, 0);
+    QVERIFY2(poste.Banque.VersionBanque.startsWith(QStringLiteral("BDP ")),
+             qPrintable(poste.Banque.VersionBanque));
+    QCOMPARE(poste.Banque.Acces->RecherchePacks(QStringLiteral("parac 1 000"), 64).size(), 4);
+    QVERIFY(poste.Banque.Acces->Interactions({90000185, 90000213}, 0).contains(QStringLiteral("mars 2021")));
+    const QUrl page(poste.Banque.Acces->Monographie(9000001));
+    QVERIFY(QFile::exists(page.toLocalFile()));
+    poste.Ferme();
+    QVERIFY(!QFile::exists(page.toLocalFile()));
 }
 
-void TestBibliothequeSeance::LeFichierSeRemplaceEntreDeuxSessions()
+void TestBibliothequeSeance::fichierAbsent()
 {
-    Poste poste(true);
-    poste.Demarre();
-    poste.Etat.Seance.Libere(poste.Contexte);
-    const QString fichier = poste.Chemin(QStringLiteral("programme/banque.sqlite"));
-    const QString recent = poste.Chemin(QStringLiteral("recente.sqlite"));
-    QVERIFY(QFile::copy(fichier, recent) && QFile::remove(fichier) && QFile::rename(recent, fichier));
-    poste.Demarre();
-    QCOMPARE(poste.Etat.Banque.RetourInitBanque, 0);
-    QVERIFY(BanqueRepond(poste.Etat.Banque));
-}
-
-void TestBibliothequeSeance::SansFichierElleLeDit()
-{
-    Poste poste(false);
-    poste.Demarre();
-    const Banque& banque = poste.Etat.Banque;
-    QVERIFY(banque.RetourInitBanque != 0);
-    QVERIFY(!BanqueRepond(banque) && !banque.Statut.Visible);
-    QCOMPARE(banque.BanqueInitialisee, quint8(1));
-    QVERIFY(!banque.MessageBanque.contains(QStringLiteral("initialisée")));
+    Poste poste;
+    PoseLaVraie(poste);
+    QVERIFY(QFile::remove(poste.Chemin(QStringLiteral("programme/banque.sqlite"))));
+    poste.Charge();
+    DemarreEtAttends(poste);
+    QVERIFY(!BanqueRepond(poste.Banque)); // never "no interaction"
+    QVERIFY(!poste.Banque.MessageBanque.contains(QStringLiteral("Pharmacie initialisée")));
+    poste.Ferme();
 }
 
 QTEST_GUILESS_MAIN(TestBibliothequeSeance)
