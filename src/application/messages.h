@@ -5,12 +5,6 @@
 /// What the program says about itself.
 namespace application::messages {
 
-/// What an action says whose window does not stand yet. The same words everywhere.
-inline QString PasEncoreDisponible()
-{
-    return QStringLiteral("Cette fonction n'est pas encore disponible dans cette version.");
-}
-
 inline QString ArretSurErreur(const QString& phrase, const QString& lieu)
 {
     QString texte = QStringLiteral("Une erreur oblige Scriptelle à s'arrêter.\n\n") + phrase;

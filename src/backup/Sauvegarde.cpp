@@ -43,14 +43,21 @@ bool EstUneBase(const QString& chemin)
            fichier.read(15) == "SQLite format 3";
 }
 
-/// What belongs to the program's own work, or to a copy of the past.
-bool Ecarte(const QString& nom)
+/// What belongs to the program's own work.
+bool EstPassager(const QString& nom)
 {
     static const QRegularExpression passager(
-        QStringLiteral(
-            R"(^Sauvegardes/|(^|/)\.|(^|/)Ancien_[^/]*$| \(Jet\)\.mdb$|-journal$|\.(sqlar|lock|tmp)$)"),
+        QStringLiteral(R"(^(Sauvegardes|Transfert\.[a-z]+)/|(^|/)\.|-journal$|\.(sqlar|lock|tmp)$)"),
         QRegularExpression::CaseInsensitiveOption);
     return passager.match(nom).hasMatch();
+}
+
+/// A database of the past.
+bool EstAncien(const QString& nom)
+{
+    static const QRegularExpression ancien(QStringLiteral(R"((^|/)Ancien_[^/]*$| \(Jet\)\.mdb$)"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return ancien.match(nom).hasMatch();
 }
 
 QByteArray LitTout(const QString& chemin)
@@ -89,7 +96,7 @@ void Archive(const Lieu& lieu, const QString& nom)
     const QString ebauche = Joint(atelier.path(), QStringLiteral("ebauche"));
     {
         storage::Archive archive(ebauche, storage::Archive::Mode::Creation);
-        for (const QString& piece : FichiersDeLArbre(lieu.Arbre)) {
+        for (const QString& piece : FichiersDeLArbre(lieu.Arbre, Etendue::Sauvegarde)) {
             const QString chemin = lieu.Arbre + u'/' + piece;
             archive.Ajoute(piece, LitPiece(chemin, Joint(atelier.path(), QStringLiteral("base"))),
                            QFileInfo(chemin).lastModified());
@@ -152,14 +159,14 @@ Lieu LieuDuTravail(const startup::Chemins& chemins)
     return lieu;
 }
 
-QStringList FichiersDeLArbre(const QString& arbre)
+QStringList FichiersDeLArbre(const QString& arbre, Etendue etendue)
 {
     const QDir racine(arbre);
     QStringList noms;
     QDirIterator parcours(arbre, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
     while (parcours.hasNext()) {
         const QString nom = racine.relativeFilePath(parcours.next());
-        if (!Ecarte(nom)) {
+        if (!EstPassager(nom) && (etendue == Etendue::Transfert || !EstAncien(nom))) {
             noms.append(nom);
         }
     }

@@ -40,7 +40,13 @@ bool SauveDuJour(const Lieu& lieu, const QDate& jour);
 /// Copies the tree as it stands before a copy is put back; the last three of these are kept. Throws `Erreur`.
 void SauveAvantRestauration(const Lieu& lieu, const QDateTime& moment);
 
-/// The files of the tree that a copy holds, as paths below it.
-QStringList FichiersDeLArbre(const QString& arbre);
+/// What of a tree is meant.
+enum class Etendue {
+    Sauvegarde, ///< what a practice works with
+    Transfert   ///< former databases too, which an upgrade or a conversion has left
+};
+
+/// The files of a tree, as paths below it; never its safety copies, drafts and locks.
+QStringList FichiersDeLArbre(const QString& arbre, Etendue etendue);
 
 } // namespace backup

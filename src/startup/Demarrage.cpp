@@ -16,6 +16,7 @@
 #include "startup/PremierMedecin.h"
 #include "startup/PreparationDonnees.h"
 #include "startup/messages.h"
+#include "transfer/CopieArbre.h"
 
 #include <algorithm>
 
@@ -45,9 +46,10 @@ void CopieChezMedecin(const Chemins& chemins, const QString& nom)
     }
 }
 
-/// A copy that was being put back when the program ended.
-void FinitRestauration(Contexte& contexte, const QString& arbre)
+/// What was taking its place in the tree when the program ended: a transfer, a copy that was put back.
+void FinitLesRemises(Contexte& contexte, const QString& arbre)
 {
+    outside::Tente(contexte.Dehors.Boites, [&] { transfer::FinitTransfert(arbre); });
     outside::Tente(contexte.Dehors.Boites, [&] { backup::FinitRestauration(arbre); });
 }
 
@@ -179,7 +181,7 @@ bool Demarrage::PrepareDonnees()
         return false;
     }
     ExigeCheminData(chemins);
-    FinitRestauration(contexte_, chemins.CheminData);
+    FinitLesRemises(contexte_, chemins.CheminData);
     DeplaceInstallation(chemins);
     DeplaceCommun(contexte_);
     common::CreeDossierPrive(Joint(chemins.CheminData, QStringLiteral("Certificats")));
@@ -214,7 +216,7 @@ bool Demarrage::RegleDepuisOptions()
         return false;
     }
     RegleCheminTravail(contexte_);
-    FinitRestauration(contexte_, contexte_.Chemins.CheminTravail);
+    FinitLesRemises(contexte_, contexte_.Chemins.CheminTravail);
     RegleCheminMedecin(contexte_);
     return true;
 }

@@ -15,6 +15,9 @@
 #include "startup/windows/FrmDepart.h"
 #include "startup/windows/FrmMedecins.h"
 
+#include "transfer/Transfert.h"
+#include "transfer/windows/FrmTransfert.h"
+
 #include <QComboBox>
 #include <QMenu>
 #include <QPushButton>
@@ -69,6 +72,8 @@ void FrmDepart::BrancheMenus()
     const auto suit = [this](QAction* entree, auto action) {
         connect(entree, &QAction::triggered, this, action);
     };
+    suit(menus_.mnuRepare, [this] { Repare(); });
+    suit(menus_.mnuTransfertDonn, [this] { TransfereDonnees(); });
     suit(menus_.mnuLogo, [this] { OuvreOptionsDuMedecin(kLogo); });
     suit(menus_.mnuBase, [this] { OuvreOptionsDuMedecin(kPharmacies); });
     suit(menus_.mnuRestaure, [this] { fenetres_.OuvreModale<backup::FrmRestaure>(); });
@@ -109,6 +114,28 @@ void FrmDepart::Accueille()
     Cache<medication::FrmMedoc>(fenetres_);
     Cache<prescription::FrmOrdo>(fenetres_);
     Restaure();
+}
+
+void FrmDepart::Repare()
+{
+    if (transfer::DemandeReparation(contexte_)) {
+        close();
+        transfer::LanceReparation(contexte_);
+    }
+}
+
+void FrmDepart::TransfereDonnees()
+{
+    transfer::FrmTransfert suivi(this);
+    const bool fin = transfer::TransfereDonnees(contexte_, [&](int fichier, int nombre) {
+        setCursor(Qt::WaitCursor);
+        suivi.Avance(fichier, nombre);
+    });
+    suivi.hide();
+    unsetCursor();
+    if (fin) {
+        close();
+    }
 }
 
 void FrmDepart::OuvreOptions(int onglet)

@@ -51,6 +51,8 @@ private:
     void RevetSansMedecin(bool oui);
     void EditeOrdonnances();
     void Accueille();
+    void Repare();
+    void TransfereDonnees();
     void OuvreOptions(int onglet);
     void OuvreOptionsDuMedecin(int onglet);
     void OuvreOptionsDuPlateau();

@@ -1,6 +1,5 @@
 #include "startup/windows/MenusDepart.h"
 
-#include "application/messages.h"
 #include "application/windows/Style.h"
 
 #include <QAction>
@@ -29,12 +28,6 @@ QAction* Entree(QMenu* menu, const char* nom, const QString& texte, const char* 
     return entree;
 }
 
-void Reporte(QAction* entree)
-{
-    entree->setEnabled(false);
-    entree->setToolTip(application::messages::PasEncoreDisponible());
-}
-
 } // namespace
 
 MenusDepart::MenusDepart(QWidget* fenetre)
@@ -49,8 +42,8 @@ MenusDepart::MenusDepart(QWidget* fenetre)
 
 void MenusDepart::RemplitOutils()
 {
-    Reporte(Entree(mnuOutils, "mnuRepare", QStringLiteral("&Réparer et compacter les bases de données"),
-                   "tools"));
+    mnuRepare =
+        Entree(mnuOutils, "mnuRepare", QStringLiteral("&Réparer et compacter les bases de données"), "tools");
     mnuOutils->addSeparator();
     mnuLogo = Entree(mnuOutils, "mnuLogo", QStringLiteral("Insérer un &logo"), "image");
     mnuOutils->addSeparator();
@@ -59,7 +52,7 @@ void MenusDepart::RemplitOutils()
     mnuMajBanque = Entree(mnuOutils, "mnuMajBanque", QStringLiteral("Mettre à jour la base &publique…"),
                           "arrow-clockwise");
     mnuOutils->addSeparator();
-    Reporte(Entree(mnuOutils, "mnuTransfertDonn", QStringLiteral("&Transfert des données"), "hdd"));
+    mnuTransfertDonn = Entree(mnuOutils, "mnuTransfertDonn", QStringLiteral("&Transfert des données"), "hdd");
     mnuOutils->addSeparator();
     mnuMAJClef = Entree(
         mnuOutils, "mnuMAJClef",

@@ -13,9 +13,11 @@ struct MenusDepart
     explicit MenusDepart(QWidget* fenetre);
 
     QMenu* mnuOutils;
+    QAction* mnuRepare;
     QAction* mnuLogo;
     QAction* mnuBase;
     QAction* mnuMajBanque;
+    QAction* mnuTransfertDonn;
     QAction* mnuMAJClef;
     QAction* mnuRestaure;
     QAction* mnuJournal;

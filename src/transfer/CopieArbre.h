@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace transfer {
+
+/// Why two directories cannot be source and destination of one transfer.
+enum class Voisinage {
+    Separes,
+    Memes,
+    Imbriques ///< one inside the other
+};
+
+/// What stands between both, links followed.
+Voisinage Compare(const QString& source, const QString& destination);
+
+/// Called before each file with its number, from 0, and their number in all.
+using Avancement = std::function<void(int fichier, int nombre)>;
+
+/// Copies a data tree over another one. Files of the destination with other names stay. Databases are copied
+/// as they stand between two writings; safety copies, locks and drafts stay where they are. Each copy is
+/// read back and compared. Throws `Erreur` with the file that failed: the destination is as it was then.
+void CopieArbre(const QString& source, const QString& destination, const Avancement& avancement = {});
+
+/// Finishes in a tree what a cut transfer has left: the new tree when its copy was whole, else the former
+/// one. False when there was nothing. Throws `Erreur`.
+bool FinitTransfert(const QString& arbre);
+
+} // namespace transfer
