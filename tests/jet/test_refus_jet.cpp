@@ -52,6 +52,7 @@ private Q_SLOTS:
     void RefuseUnMauvaisLecteur_data();
     void RefuseUnMauvaisLecteur();
     void RefuseUneBaseSansNosTables();
+    void RefuseUneTableRenommeeParAccident();
     void SupporteDesCopiesAbimees();
     void AttendLAutrePoste();
     void DitQuUnAutrePosteConvertit();
@@ -198,6 +199,23 @@ void TestRefusJet::RefuseUneBaseSansNosTables()
     const QString phrase =
         support::PhraseDEchec([&] { storage::ConvertitSiJet(copie.Chemin(), storage::GenreBase::Medoc); });
     QVERIFY2(phrase.contains(QStringLiteral("aucune des tables")), qPrintable(phrase));
+    QVERIFY(copie.Intacte());
+}
+
+/// One letter of a name in the catalogue: a whole table would be lost without a word.
+void TestRefusJet::RefuseUneTableRenommeeParAccident()
+{
+    if (!DonneesJet::Presentes()) {
+        QSKIP("the Jet files are not here");
+    }
+    CopieJet copie(kPetit);
+    QByteArray octets = copie.Contenu();
+    octets.replace("OrdoEnr", "OrdoEnq");
+    octets.replace(QByteArray("O\0r\0d\0o\0E\0n\0r\0", 14), QByteArray("O\0r\0d\0o\0E\0n\0q\0", 14));
+    QVERIFY(octets != copie.Contenu());
+    copie.Ecris(octets);
+    const QString phrase = copie.Convertit();
+    QVERIFY2(phrase.contains(QStringLiteral("est endommagée")), qPrintable(phrase));
     QVERIFY(copie.Intacte());
 }
 

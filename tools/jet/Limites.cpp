@@ -42,10 +42,12 @@ void PoseLimites()
 
 void PoseLimites()
 {
-    const rlimit memoire{kMemoire, kMemoire};
+    [[maybe_unused]] const rlimit memoire{kMemoire, kMemoire};
     const rlimit secondes{kSecondes, kSecondes};
     const rlimit aucune{0, 0};
+#ifndef SANS_LIMITE_DE_MEMOIRE
     setrlimit(RLIMIT_AS, &memoire);
+#endif
     setrlimit(RLIMIT_CPU, &secondes);
     setrlimit(RLIMIT_CORE, &aucune);
 }

@@ -138,9 +138,9 @@ Emplacement Table::Suis(const Emplacement& pointeur) const
     return fichier_.Trouve(fichier_.LitPage(adresse >> 8), adresse & 0xFF);
 }
 
-void Table::Compte()
+void Table::Verifie()
 {
-    Parcourt([](const Emplacement&) {});
+    Parcourt([this](const Emplacement& ligne) { Decoupe(ligne); });
 }
 
 void Table::Ecris(Ebauche& ebauche, const storage::PlanJet& plan,
@@ -158,13 +158,18 @@ void Table::Ecris(Ebauche& ebauche, const storage::PlanJet& plan,
     avance(lues_);
 }
 
-void Table::EcrisLigne(Ebauche& ebauche, const storage::PlanJet& plan, const Emplacement& ligne)
+void Table::Decoupe(const Emplacement& ligne)
 {
     const int champs =
         mdb_crack_row(table_.get(), static_cast<int>(ligne.Debut), ligne.Longueur, champs_.data());
     if (champs != static_cast<int>(table_->num_cols)) {
         throw Defaut("row that cannot be taken apart");
     }
+}
+
+void Table::EcrisLigne(Ebauche& ebauche, const storage::PlanJet& plan, const Emplacement& ligne)
+{
+    Decoupe(ligne);
     for (qsizetype i = 0; i < plan.Sources.size(); ++i) {
         const qsizetype source = plan.Sources[i];
         EcrisValeur(ebauche, static_cast<int>(i), Colonne(source), champs_[static_cast<std::size_t>(source)]);

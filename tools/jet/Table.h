@@ -24,8 +24,8 @@ public:
     /// `Defaut`, also when their number is not the declared one.
     void Ecris(Ebauche& ebauche, const storage::PlanJet& plan,
                const std::function<void(std::uint32_t)>& avance);
-    /// Counts the rows without writing any. Throws `Defaut` as `Ecris` does.
-    void Compte();
+    /// Takes every row apart without writing any. Throws `Defaut` as `Ecris` does.
+    void Verifie();
 
 private:
     struct Libere
@@ -36,6 +36,7 @@ private:
     template <typename Recoit> void ParcourtPage(std::uint32_t page, Recoit&& recoit);
     Emplacement Suis(const Emplacement& pointeur) const;
     const MdbColumn& Colonne(qsizetype rang) const;
+    void Decoupe(const Emplacement& ligne);
     void EcrisLigne(Ebauche& ebauche, const storage::PlanJet& plan, const Emplacement& ligne);
     void EcrisValeur(Ebauche& ebauche, int vers, const MdbColumn& colonne, const MdbField& champ);
     void EcrisFixe(Ebauche& ebauche, int vers, int type, Octets valeur);
