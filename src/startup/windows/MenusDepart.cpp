@@ -49,8 +49,6 @@ void MenusDepart::RemplitOutils()
     mnuOutils->addSeparator();
     mnuBase = Entree(mnuOutils, "mnuBase", QStringLiteral("&Choisir la base de données de la pharmacie"),
                      "capsule");
-    mnuMajBanque = Entree(mnuOutils, "mnuMajBanque", QStringLiteral("Mettre à jour la base &publique…"),
-                          "arrow-clockwise");
     mnuOutils->addSeparator();
     mnuTransfertDonn = Entree(mnuOutils, "mnuTransfertDonn", QStringLiteral("&Transfert des données"), "hdd");
     mnuOutils->addSeparator();
@@ -60,6 +58,9 @@ void MenusDepart::RemplitOutils()
         "usb-drive");
     mnuOutils->addSeparator();
     mnuJournal = Entree(mnuOutils, "mnuJournal", QStringLiteral("&Journal des ordonnances"), "journal-text");
+    mnuOutils->addSeparator();
+    mnuMajBanque = Entree(mnuOutils, "mnuMajBanque", QStringLiteral("Mettre à jour la base &publique…"),
+                          "arrow-clockwise");
     mnuOutils->addSeparator();
     mnuRestaure =
         Entree(mnuOutils, "mnuRestaure", QStringLiteral("R&estaurer une sauvegarde…"), "clock-history");

@@ -16,9 +16,9 @@ struct MenusDepart
     QAction* mnuRepare;
     QAction* mnuLogo;
     QAction* mnuBase;
-    QAction* mnuMajBanque;
     QAction* mnuTransfertDonn;
     QAction* mnuMAJClef;
+    QAction* mnuMajBanque;
     QAction* mnuRestaure;
     QAction* mnuJournal;
 

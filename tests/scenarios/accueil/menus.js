@@ -2,8 +2,9 @@
 installer();
 const parties = nom => lignes("FrmDepart." + nom).filter(texte => texte !== "" && texte !== "-");
 egal(parties("mnuOutils"), ["Réparer et compacter les bases de données", "Insérer un logo",
-    "Choisir la base de données de la pharmacie", "Mettre à jour la base publique…", "Transfert des données",
-    "Mise à jour des bases de  données sur support externe (clef USB  ou serveur)", "Journal des ordonnances", "Restaurer une sauvegarde…"],
+    "Choisir la base de données de la pharmacie", "Transfert des données",
+    "Mise à jour des bases de  données sur support externe (clef USB  ou serveur)", "Journal des ordonnances",
+    "Mettre à jour la base publique…", "Restaurer une sauvegarde…"],
     "les outils");
 clic("FrmDepart.CmdAide");
 egal(parties("MnuAideInv"), ["Aide", "Nouvelle version"], "l'aide");

@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(
             Noms(depart, "mnuOutils").join(QLatin1Char(' ')),
             QStringLiteral("mnuRepare - mnuLogo - mnuBase - mnuTransfertDonn - mnuMAJClef - mnuJournal - "
-                           "mnuRestaure"));
+                           "mnuMajBanque - mnuRestaure"));
         QCOMPARE(Noms(depart, "MnuAideInv").join(QLatin1Char(' ')), QStringLiteral("mnuAideOld mnuAideNew"));
         QCOMPARE(
             Noms(depart, "mnuInvisible").join(QLatin1Char(' ')),
