@@ -72,7 +72,7 @@ void Recherche(benchmark::State& state)
     QStringList questions;
     const QVariantList noms =
         banque.Valeurs(QStringLiteral("select nom from specialites where commercialisee order by cis"));
-    for (qsizetype i = 0; i < noms.size(); i += 40) {
+    for (qsizetype i = 0; i < noms.size(); i += 80) {
         const QString nom = noms[i].toString().left(24);
         for (qsizetype longueur = 1; longueur <= nom.size(); ++longueur) {
             questions.append(nom.left(longueur));
