@@ -17,6 +17,7 @@
 #include "startup/PreparationDonnees.h"
 #include "startup/messages.h"
 #include "transfer/CopieArbre.h"
+#include "upgrade/MajDue.h"
 
 #include <algorithm>
 
@@ -182,11 +183,15 @@ bool Demarrage::PrepareDonnees()
     }
     ExigeCheminData(chemins);
     FinitLesRemises(contexte_, chemins.CheminData);
+    upgrade::ReprendMaj(contexte_, chemins.CheminData);
     DeplaceInstallation(chemins);
     DeplaceCommun(contexte_);
     common::CreeDossierPrive(Joint(chemins.CheminData, QStringLiteral("Certificats")));
     const bool inscrit = FichierExiste(Joint(chemins.CheminData, QStringLiteral("Medecin.ini")));
-    return inscrit || InscritPremierMedecin(contexte_);
+    if (!inscrit && !InscritPremierMedecin(contexte_)) {
+        return false;
+    }
+    return upgrade::FaitMajDue(contexte_, ecrans_.Maj) != upgrade::SuiteMaj::Renonce;
 }
 
 bool Demarrage::RegleTravail()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "application/Contexte.h"
+#include "upgrade/MajBases.h"
 
 #include <QString>
 #include <functional>
@@ -18,6 +19,8 @@ struct Ecrans
     /// Shows `FrmChoixBase` modally with that row of `CboBase` selected (-1: none) and row `IndexMedecin`
     /// of `CboMed`. True when `CmdSuite` let it go on, false when the program ends.
     std::function<bool(int rangStockage)> MontreChoixBase;
+    /// What the upgrade of the databases shows.
+    upgrade::EcransMaj Maj;
     /// Loads `FrmConfOrdo`.
     std::function<void()> ChargeConfOrdo;
     /// Sets the state of `FrmDepart` to minimised.

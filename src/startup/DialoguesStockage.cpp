@@ -7,6 +7,7 @@
 #include "startup/FichiersChemins.h"
 #include "startup/Medecins.h"
 #include "startup/messages.h"
+#include "upgrade/MajDue.h"
 
 namespace startup {
 
@@ -178,6 +179,7 @@ void RegleChoisi(Contexte& contexte)
     } else if (contexte.Chemins.TypeStockage == kServeur) {
         RegleServeur(contexte);
     }
+    upgrade::ReprendMaj(contexte, contexte.Chemins.CheminTravail);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "MondeDemarrage.h"
 #include "common/Erreur.h"
 #include "settings/FichiersReglages.h"
+#include "startup/PreparationDonnees.h"
 
 #include <QTest>
 
@@ -74,7 +75,9 @@ void TestPreparation::deplaceLInstallation()
     common::EcritFichier(monde.Programme("Copie de Ordo.mdb"), "copie neuve");
     common::EcritFichier(monde.Donnee("Copie de Medoc.mdb"), "ancienne");
     common::EcritFichier(monde.Donnee("Ancien_Ordo.mdb"), "ancienne");
-    QVERIFY(monde.Demarre());
+    monde.Etat.Chemins.CheminData = monde.Data;
+    DeplaceInstallation(monde.Etat.Chemins);
+    NettoieCheminData(monde.Etat.Chemins);
     QCOMPARE(common::LitFichier(monde.Donnee("Medoc.mdb")), medoc);
     QCOMPARE(common::LitFichier(monde.Donnee("Copie de Medoc.mdb")), QByteArray("copie neuve"));
     for (const char* nom : {"Medoc.mdb", "Ordo.mdb", "Copie de Medoc.mdb", "Copie de Ordo.mdb"}) {

@@ -1,6 +1,8 @@
 #include "application/windows/Application.h"
 
 #include "application/Sauvegarde.h"
+#include "application/windows/BarreAttente.h"
+#include "application/windows/Sablier.h"
 #include "backup/Sauvegarde.h"
 #include "backup/messages.h"
 #include "common/Erreur.h"
@@ -18,6 +20,21 @@
 #include <QThreadPool>
 
 namespace application {
+
+namespace {
+
+/// The hourglass and, in the long run, the bar of the upgrade.
+void Travaille(upgrade::Suivi& suivi, const std::function<void()>& travail)
+{
+    const Sablier sablier;
+    BarreAttente barre;
+    suivi.Montre = [&](int milliemes, const QString& mot) { barre.Montre(milliemes, mot); };
+    barre.Montre(0, {});
+    travail();
+    suivi.Montre = {};
+}
+
+} // namespace
 
 Application::Application(const Dehors& dehors, const QString& cheminProgramme,
                          const QString& cheminInstallation)
@@ -76,6 +93,9 @@ startup::Ecrans Application::Ecrans()
 {
     return {.PoliceFenetre = QApplication::font().family(),
             .MontreChoixBase = [this](int rang) { return MontreChoixBase(rang); },
+            .Maj = {.Travaille = Travaille,
+                    .AnnonceRedemarrage =
+                        [this] { fenetres_.Donne<startup::FrmChoixBase>().AnnonceRedemarrage(); }},
             .ChargeConfOrdo = [this] { fenetres_.Donne<settings::FrmConfOrdo>(); },
             .Minimise = [this] { fenetres_.Donne<startup::FrmDepart>().Reduit(); },
             .ChargeFenetres = [this] { ChargeFenetres(); }};

@@ -15,11 +15,19 @@ bool EstAdresse(const QString& texte)
     return QUrl(texte).scheme().size() > 1;
 }
 
+/// Programs are named as on Windows; elsewhere they bear no ".exe".
+QString ProgrammeDuSysteme(const QString& programme)
+{
+    const QString fin = QStringLiteral(".exe");
+    const bool sansFin = programme.endsWith(fin) && !QFileInfo::exists(programme);
+    return sansFin ? programme.chopped(fin.size()) : programme;
+}
+
 } // namespace
 
 bool LanceurQt::Lance(const QString& programme, const QStringList& arguments)
 {
-    return QProcess::startDetached(programme, arguments);
+    return QProcess::startDetached(ProgrammeDuSysteme(programme), arguments);
 }
 
 bool LanceurQt::Ouvre(const QString& documentOuAdresse)

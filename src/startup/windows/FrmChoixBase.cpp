@@ -4,16 +4,27 @@
 #include "startup/ChoixBase.h"
 #include "startup/Demarrage.h"
 #include "startup/Medecins.h"
+#include "upgrade/MajDue.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace startup {
 
 namespace style = application::style;
+
+namespace {
+
+QString TexteRedemarrer()
+{
+    return QStringLiteral("Redémarrer");
+}
+
+} // namespace
 
 FrmChoixBase::FrmChoixBase(application::Contexte& contexte, application::Fenetres&)
     : contexte_(contexte), fond_(page::Rvb(255, 255, 255), page::Rvb(222, 235, 250), 15)
@@ -45,6 +56,19 @@ void FrmChoixBase::Selectionne(int rangStockage)
     }
     CboMed_->setCurrentIndex(contexte_.Medecins.IndexMedecin);
     rangStockage < 0 ? CboBase_->setFocus() : CmdSuite_->setFocus();
+}
+
+void FrmChoixBase::AnnonceRedemarrage()
+{
+    CmdSuite_->setText(TexteRedemarrer());
+}
+
+void FrmChoixBase::showEvent(QShowEvent* evenement)
+{
+    QDialog::showEvent(evenement);
+    if (CmdSuite_->text() == TexteRedemarrer()) {
+        QTimer::singleShot(0, this, &FrmChoixBase::Redemarre);
+    }
 }
 
 void FrmChoixBase::paintEvent(QPaintEvent*)
@@ -101,6 +125,13 @@ void FrmChoixBase::ChoisitBase(int rang)
 {
     ChoisitStockage(contexte_, rang);
     CmdSuite_->setFocus();
+}
+
+void FrmChoixBase::Redemarre()
+{
+    hide();
+    upgrade::Redemarre(contexte_);
+    reject();
 }
 
 void FrmChoixBase::Suit()

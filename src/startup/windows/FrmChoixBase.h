@@ -22,9 +22,13 @@ public:
     /// Selects a row of `CboBase`, -1 for none, and the doctor of the day in `CboMed`.
     void Selectionne(int rangStockage);
 
+    /// After an upgrade: `CmdSuite` bears "Redémarrer", and the window restarts the program when it is shown.
+    void AnnonceRedemarrage();
+
     const page::Dessin& DessinMontre() const override { return fond_.Dessin(); }
 
 protected:
+    void showEvent(QShowEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
 
@@ -33,6 +37,7 @@ private:
     QLayout* LigneDesBoutons();
     void ChoisitBase(int rang);
     void Suit();
+    void Redemarre();
 
     application::Contexte& contexte_;
     FondPeint fond_;
