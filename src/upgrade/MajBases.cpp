@@ -52,8 +52,9 @@ bool EnteteAncienne(const Source& ordo)
 class Travail
 {
 public:
-    Travail(const startup::Chemins& chemins, const QString& arbre, Suivi& suivi)
-        : chemins_(chemins), arbre_(arbre), suivi_(suivi), journal_(arbre, chemins.CheminData, suivi)
+    Travail(const Contexte& contexte, const QString& arbre, Suivi& suivi)
+        : chemins_(contexte.Chemins), bases_(contexte.Bases), arbre_(arbre), suivi_(suivi),
+          journal_(arbre, chemins_.CheminData, suivi)
     {}
 
     void Fait();
@@ -73,7 +74,10 @@ private:
     void RemplitMedoc();
     void RemplitOrdo(const QString& base, const Source& source);
 
+    Source Ouvre(const QString& chemin, GenreBase genre);
+
     const startup::Chemins& chemins_;
+    storage::Bases& bases_;
     QString arbre_;
     Suivi& suivi_;
     JournalMaj journal_;
@@ -81,16 +85,22 @@ private:
     std::optional<Source> racine_; ///< "Ordo.mdb" of the root
 };
 
+/// A Jet file is converted before, and stays beside.
+Source Travail::Ouvre(const QString& chemin, GenreBase genre)
+{
+    bases_.ConvertitSiJet(chemin, genre);
+    Source source(chemin, genre);
+    suivi_.Total += source.Lignes();
+    return source;
+}
+
 void Travail::OuvreSources(const QStringList& bases)
 {
     for (const QString& base : bases) {
-        const GenreBase genre = base == kMedoc ? GenreBase::Medoc : GenreBase::Ordo;
-        sources_.append(Source(journal_.Fichier(base), genre));
-        suivi_.Total += sources_.last().Lignes();
+        sources_.append(Ouvre(journal_.Fichier(base), base == kMedoc ? GenreBase::Medoc : GenreBase::Ordo));
     }
     if (FichierExiste(Joint(arbre_, kOrdo))) {
-        racine_.emplace(Joint(arbre_, kOrdo), GenreBase::Ordo);
-        suivi_.Total += racine_->Lignes();
+        racine_ = Ouvre(Joint(arbre_, kOrdo), GenreBase::Ordo);
     }
 }
 
@@ -182,7 +192,7 @@ void MajBases(Contexte& contexte, const EcransMaj& ecrans, const QString& Repert
                                                      : messages::PatientezSupport());
     contexte.Bases.FermeMedoc();
     contexte.Bases.FermeOrdo();
-    Travail travail(contexte.Chemins, common::ListeDirectories(RepertoireMaJ).constFirst(), suivi);
+    Travail travail(contexte, common::ListeDirectories(RepertoireMaJ).constFirst(), suivi);
     const auto fait = [&] { travail.Fait(); };
     ecrans.Travaille ? ecrans.Travaille(suivi, fait) : fait();
     Annonce(boites, travail);

@@ -34,6 +34,19 @@ QMap<QString, QStringList> Lu(const QString& arbre)
     return lu;
 }
 
+/// Lays a tree out anew. Nothing is flushed to the disk: this is done hundreds of times.
+void Remet(const QString& depart, const QString& arbre)
+{
+    QDir(arbre).removeRecursively();
+    for (const QString& dossier : common::ListeDirectories(depart)) {
+        const QString vers = arbre + dossier.mid(depart.size());
+        QDir().mkpath(vers);
+        for (const QString& nom : QDir(dossier).entryList(QDir::Files)) {
+            QFile::copy(Joint(dossier, nom), Joint(vers, nom));
+        }
+    }
+}
+
 /// The files of a tree, without the template that makes the upgrade due.
 QStringList Noms(const QString& arbre)
 {
@@ -155,8 +168,7 @@ void TestCoupures::aChaquePas()
     int anciens = 0;
     int nouveaux = 0;
     for (int pas = 0;; ++pas) {
-        common::SupprimeDossier(modele.Arbre);
-        common::CopieDossier(depart, modele.Arbre);
+        Remet(depart, modele.Arbre);
         const QString declencheur = Joint(disque, U("Copie de Medoc.mdb"));
         common::CopieFichier(Joint(modele.Etat.Chemins.CheminProgramme, U("BasesInstal/Copie de Medoc.mdb")),
                              declencheur);
@@ -198,11 +210,9 @@ void TestCoupures::pendantLaReprise()
     upgrade::MajBases(modele.Sourd, {}, modele.Arbre);
     const auto nouveau = Lu(modele.Arbre);
     // Cut in the middle of the exchange, with one database gone over.
-    common::SupprimeDossier(modele.Arbre);
-    common::CopieDossier(depart, modele.Arbre);
+    Remet(depart, modele.Arbre);
     for (int pas = 0; !FichierExiste(modele.Donnee("Ancien_Medoc.mdb.avant")); ++pas) {
-        common::SupprimeDossier(modele.Arbre);
-        common::CopieDossier(depart, modele.Arbre);
+        Remet(depart, modele.Arbre);
         QVERIFY(CoupeAu(modele, pas, [&](upgrade::Suivi& suivi) {
             upgrade::MajBases(modele.Sourd, {}, modele.Arbre, suivi);
         }));
@@ -211,8 +221,7 @@ void TestCoupures::pendantLaReprise()
     common::CopieDossier(modele.Arbre, milieu);
     for (const char* etape : {"Echange", "Retour"}) {
         for (int pas = 0;; ++pas) {
-            common::SupprimeDossier(modele.Arbre);
-            common::CopieDossier(milieu, modele.Arbre);
+            Remet(milieu, modele.Arbre);
             QByteArray journal = common::LitFichier(modele.Donnee("MiseAJour.cfg"));
             common::EcritFichier(modele.Donnee("MiseAJour.cfg"), journal.replace("Echange", etape));
             const bool coupe = CoupeAu(modele, pas, [&](upgrade::Suivi& suivi) {
