@@ -2,6 +2,7 @@
 
 #include "storage/Schema.h"
 
+#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -83,6 +84,14 @@ private:
     QString nom_ = QStringLiteral("ancienne");
     QSqlDatabase base_;
 };
+
+/// Has the temporary directories stand in memory where the system offers that: nothing waits for the disk.
+inline void TravailleEnMemoire()
+{
+    if (QFileInfo(QStringLiteral("/dev/shm")).isWritable()) {
+        qputenv("TMPDIR", "/dev/shm");
+    }
+}
 
 inline QString U(const char* texte)
 {

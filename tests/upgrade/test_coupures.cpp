@@ -62,6 +62,7 @@ class TestCoupures : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { TravailleEnMemoire(); }
     void aChaquePas_data();
     void aChaquePas();
     void pendantLaReprise();

@@ -16,6 +16,7 @@ class TestMajBases : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { TravailleEnMemoire(); }
     void arbreEntier();
     void datesRepareees();
     void sansDatesSansReparation();

@@ -16,6 +16,7 @@ class TestRecopie : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { TravailleEnMemoire(); }
     void ligneDeListe_data();
     void ligneDeListe();
     void ligneMemorisee_data();

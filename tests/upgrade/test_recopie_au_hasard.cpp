@@ -10,6 +10,7 @@ class TestRecopieAuHasard : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { TravailleEnMemoire(); }
     void commeLigneParLigne();
 };
 
