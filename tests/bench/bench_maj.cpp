@@ -4,6 +4,7 @@
 #include "support/Monde.h"
 #include "upgrade/MajBases.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -144,4 +145,10 @@ BENCHMARK(MajAvecDates)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 
-BENCHMARK_MAIN();
+int main(int nombre, char** arguments)
+{
+    const QCoreApplication application(nombre, arguments);
+    benchmark::Initialize(&nombre, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
