@@ -130,7 +130,7 @@ std::optional<Saisie> ReprendLigne(prescription::Ordonnance& ordonnance, Choix& 
     choix.ListeSource = static_cast<quint8>(zone);
     IndexEdition(choix, zone) = ligne.Indice;
     choix.IdentifiantRepris = ligne.Texte.right(kFinDeLigne).trimmed();
-    choix.AncienRepris = ligne.AncienFormat;
+    choix.AncienRepris = ligne.EstUnCode;
     lignes.Retire(rang);
     return SaisieDe(ordonnance, zone, ligne.Indice);
 }

@@ -24,7 +24,7 @@ void AjouteRelues(QList<Entree>& entrees, LignesZone& lignes, const QList<LigneM
     for (const LigneMemorisee& relue : relues) {
         if (relue.Zone == zone) {
             rangees.append({TexteDeLigne(relue.TitreLigne, kBlancsRelue, QString::number(relue.IdProduit)),
-                            static_cast<int>(entrees.size()), relue.AncienFormat});
+                            static_cast<int>(entrees.size()), relue.EstUnCode});
             entrees.append({relue.TitreLigne, relue.Posologie});
         }
     }

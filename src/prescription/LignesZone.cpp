@@ -99,7 +99,7 @@ QString IdentifiantDeLigne(const QString& texte)
 QString CodeAncien(const Ligne& ligne)
 {
     const QString code = ligne.Texte.right(kLongueurHorsTitre).trimmed();
-    const bool produit = code.size() <= kLongueurIdentifiant && !ligne.AncienFormat;
+    const bool produit = code.size() <= kLongueurIdentifiant && !ligne.EstUnCode;
     const bool aucun = code == QLatin1String("0") || code == QLatin1String("1");
     bool nombre = false;
     code.toULongLong(&nombre);

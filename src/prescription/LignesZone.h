@@ -10,7 +10,7 @@ struct Ligne
 {
     QString Texte;
     int Indice = 0;
-    bool AncienFormat = false; ///< its identifier dates from before product ids were stored
+    bool EstUnCode = false; ///< its identifier is a code from before product ids were stored
     bool operator==(const Ligne&) const = default;
 };
 

@@ -23,7 +23,7 @@ int IdProduit(const Ligne& ligne)
 }
 
 /// A code of an old version becomes the product id that the bank knows for it; one that it does not know is
-/// kept whole, and asked about again if it was.
+/// kept whole and stays a code.
 LigneMemorisee LigneDe(const Ligne& rangee, const Entree& entree, int zone, const drugbank::Banque& banque)
 {
     LigneMemorisee ligne{entree.Titre, entree.Posologie, zone};
@@ -34,7 +34,7 @@ LigneMemorisee LigneDe(const Ligne& rangee, const Entree& entree, int zone, cons
     const auto produit = code.isEmpty() || !banque.ProduitDuCip ? std::nullopt : banque.ProduitDuCip(code);
     if (!code.isEmpty() && !produit) {
         ligne.IdProduit = code.toLongLong();
-        ligne.AncienFormat = rangee.AncienFormat;
+        ligne.EstUnCode = true;
         return ligne;
     }
     ligne.IdProduit = produit.value_or(IdProduit(rangee));

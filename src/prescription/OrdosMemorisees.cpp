@@ -11,6 +11,10 @@ namespace {
 constexpr qsizetype kLignesCourantes = 32;
 constexpr int kIdProduit = 6; // columns of OrdoEnr
 constexpr int kConverti = 7;
+// What `Converti` holds of a line that nobody asks about.
+constexpr int kProduit = 1;
+constexpr int kCodeGarde = 2; // its code is short enough to be taken for a product id, and is none
+constexpr qint64 kFinDesCodesCourts = 10'000'000'000;
 
 QString Liste()
 {
@@ -61,6 +65,11 @@ void InscritDansListe(storage::Base& medoc, const Memorisee& memorisee)
         {cle.Titre, cle.NomPatient, memorisee.ALD, cle.Datenais});
 }
 
+int ConvertiDe(const LigneMemorisee& ligne)
+{
+    return ligne.EstUnCode && ligne.IdProduit < kFinDesCodesCourts ? kCodeGarde : kProduit;
+}
+
 void AjouteLignes(storage::Base& medoc, const CleMemo& cle, const QList<LigneMemorisee>& lignes)
 {
     for (const LigneMemorisee& ligne : lignes) {
@@ -68,7 +77,7 @@ void AjouteLignes(storage::Base& medoc, const CleMemo& cle, const QList<LigneMem
             QStringLiteral("insert into OrdoEnr (Titre, TitreLigne, Posologie, Zone, Patient, Datenais, "
                            "IdProduit, Converti) values (?, ?, ?, ?, ?, ?, ?, ?)"),
             {cle.Titre, ligne.TitreLigne, ligne.Posologie, ligne.Zone, cle.NomPatient, cle.Datenais,
-             ligne.IdProduit, ligne.AncienFormat ? 0 : 1});
+             ligne.IdProduit, ConvertiDe(ligne)});
     }
 }
 
@@ -76,9 +85,13 @@ void AjouteLignes(storage::Base& medoc, const CleMemo& cle, const QList<LigneMem
 LigneMemorisee LigneDe(const storage::Rangee& rangee)
 {
     const qint64 idProduit = rangee.Entier(3);
-    return {rangee.Texte(0), rangee.Texte(1), rangee.Entier(2) == 2 ? 2 : 1,
+    const bool sansProduit = rangee.Entier(4) != kProduit;
+    return {rangee.Texte(0),
+            rangee.Texte(1),
+            rangee.Entier(2) == 2 ? 2 : 1,
             idProduit == 0 && rangee.EstNull(3) ? 1 : idProduit,
-            rangee.Entier(4) != 1 && rangee.Texte(4).contains(u'0')};
+            sansProduit && rangee.Texte(4).contains(u'0'),
+            sansProduit && idProduit > 1};
 }
 
 /// What a line of an old version is given; nothing when the bank does not know its code.
@@ -105,7 +118,7 @@ void EcritNouveau(storage::Jeu& ligne, const Nouveau& nouveau)
     if (nouveau.IdProduit) {
         ligne.Ecris(kIdProduit, *nouveau.IdProduit);
     }
-    ligne.Ecris(kConverti, 1);
+    ligne.Ecris(kConverti, kProduit);
     ligne.Update();
 }
 
@@ -177,8 +190,10 @@ void MarqueConvertie(storage::Base& medoc, const CleMemo& cle)
 {
     const Condition condition = DansLignes(cle);
     storage::Transaction transaction(medoc);
-    medoc.Execute(QStringLiteral("update OrdoEnr set Converti = 1 where ") + condition.Texte,
-                  condition.Valeurs);
+    medoc.Execute(QStringLiteral("update OrdoEnr set Converti = case when ifnull(Converti, 0) <> ? and "
+                                 "IdProduit > 1 and IdProduit < ? then ? else ? end where ") +
+                      condition.Texte,
+                  QVariantList{kProduit, kFinDesCodesCourts, kCodeGarde, kProduit} + condition.Valeurs);
     transaction.Valide();
 }
 

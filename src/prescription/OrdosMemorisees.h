@@ -31,7 +31,8 @@ struct LigneMemorisee
     QString Posologie;
     int Zone = 1;              ///< 1 or 2
     qint64 IdProduit = 1;      ///< the bank's product id, a CIP code in rows of an old version; 1 for none
-    bool AncienFormat = false; ///< its `Converti` holds a "0"
+    bool AncienFormat = false; ///< its `Converti` holds a "0": the doctor is asked about it
+    bool EstUnCode = false;    ///< `IdProduit` is a code of an old version, asked about or not
     bool operator==(const LigneMemorisee&) const = default;
 };
 
@@ -48,7 +49,7 @@ void AjouteMemorisee(storage::Base& medoc, const Memorisee& memorisee, const QLi
 void RemplaceMemorisee(storage::Base& medoc, const Memorisee& memorisee, const QList<LigneMemorisee>& lignes);
 void SupprimeMemorisee(storage::Base& medoc, const CleMemo& cle);
 
-/// Nobody asks any more about the format of its lines.
+/// Nobody asks any more about the format of its lines; those that hold a code still do.
 void MarqueConvertie(storage::Base& medoc, const CleMemo& cle);
 
 struct Conversion

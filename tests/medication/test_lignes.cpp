@@ -165,13 +165,13 @@ private Q_SLOTS:
         Choix choix;
         ReprendLigne(ordonnance, choix, Zone::Un, 3);
         RemetLigne(ordonnance, choix, Zone::Un, {QStringLiteral("D"), {}});
-        QVERIFY(ordonnance.LstChoix1.Lignes().back().AncienFormat);
+        QVERIFY(ordonnance.LstChoix1.Lignes().back().EstUnCode);
         choix.ListeSource = 1;
         QVERIFY(PasseLigne(ordonnance, choix, Zone::Un, 3, {}));
-        QVERIFY(ordonnance.LstChoix2.Lignes().back().AncienFormat);
+        QVERIFY(ordonnance.LstChoix2.Lignes().back().EstUnCode);
         ReprendLigne(ordonnance, choix, Zone::Un, 0);
         RemetLigne(ordonnance, choix, Zone::Un, {QStringLiteral("A"), {}});
-        QVERIFY(!ordonnance.LstChoix1.Lignes().back().AncienFormat);
+        QVERIFY(!ordonnance.LstChoix1.Lignes().back().EstUnCode);
     }
 
     void OnlyADeadSlotCanBeWrittenAgain()

@@ -229,8 +229,8 @@ void TestMemoire::AnOldCodeNeverBecomesAnotherProduct_data()
     QTest::addColumn<bool>("ancien");
     QTest::addColumn<QString>("range");
     QTest::newRow("known") << u"3400930000011"_s << true << u"101|1"_s;
-    QTest::newRow("unknown") << u"3400930000012"_s << true << u"3400930000012|0"_s;
-    QTest::newRow("seven digits") << u"3595583"_s << true << u"3595583|0"_s;
+    QTest::newRow("unknown") << u"3400930000012"_s << true << u"3400930000012|1"_s;
+    QTest::newRow("seven digits") << u"3595583"_s << true << u"3595583|2"_s;
     QTest::newRow("nobody asks any more") << u"3400930000012"_s << false << u"3400930000012|1"_s;
     QTest::newRow("no product") << u"0"_s << true << u"0|1"_s;
 }

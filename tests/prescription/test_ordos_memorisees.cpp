@@ -99,6 +99,7 @@ private Q_SLOTS:
     void ConvertitLesAnciennes();
     void NeConvertitRienSansBanque();
     void MarqueLaSienneSeule();
+    void GardeUnCodePourUnCode();
 };
 
 void TestOrdosMemorisees::RendCeQuiEstRange()
@@ -273,6 +274,33 @@ void TestOrdosMemorisees::MarqueLaSienneSeule()
     QVERIFY(LitMemorisee(base.Medoc(), {u"HTA"_s}).at(0).AncienFormat);
     QVERIFY(!LitMemorisee(base.Medoc(), DeMartin(u"HTA"_s)).at(0).AncienFormat);
     QCOMPARE(LitMemorisee(base.Medoc(), DeMartin(u"HTA"_s)).at(0).IdProduit, 3400930000011);
+}
+
+void TestOrdosMemorisees::GardeUnCodePourUnCode()
+{
+    BaseDeTest base;
+    const auto pose = [&](const QVariant& id, const QVariant& converti) {
+        support::AjouteLigne(base.Medoc(), kLignes,
+                             {u"HTA"_s, u"X"_s, QString(), 1, u"*"_s, u"0"_s, id, converti});
+    };
+    const auto sontDesCodes = [&] {
+        QList<bool> codes;
+        for (const LigneMemorisee& ligne : LitMemorisee(base.Medoc(), {u"HTA"_s})) {
+            codes.append(ligne.EstUnCode);
+        }
+        return codes;
+    };
+    pose(3400930, 0);
+    pose(3400931, {});
+    pose(101, 1);
+    QCOMPARE(sontDesCodes(), (QList<bool>{true, true, false}));
+    MarqueConvertie(base.Medoc(), {u"HTA"_s});
+    QCOMPARE(sontDesCodes(), (QList<bool>{true, true, false}));
+    RemplaceMemorisee(base.Medoc(), {{u"HTA"_s}, 0}, LitMemorisee(base.Medoc(), {u"HTA"_s}));
+    QCOMPARE(sontDesCodes(), (QList<bool>{true, true, false}));
+    for (const LigneMemorisee& ligne : LitMemorisee(base.Medoc(), {u"HTA"_s})) {
+        QVERIFY(!ligne.AncienFormat);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestOrdosMemorisees)
