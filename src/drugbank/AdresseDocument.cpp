@@ -32,6 +32,13 @@ QString AvecUneRacine(const QString& texte)
                : texte;
 }
 
+/// A file address without a computer whose path begins as that of another computer, "file:////serveur/a":
+/// the system would follow it there.
+bool NommeUnPartage(const QUrl& adresse)
+{
+    return adresse.host().isEmpty() && adresse.path().replace(u'\\', u'/').startsWith(QLatin1String("//"));
+}
+
 } // namespace
 
 QUrl AdresseDepuisTexte(const QString& texte)
@@ -47,7 +54,9 @@ QUrl AdresseDepuisTexte(const QString& texte)
     if (adresse.isLocalFile() && adresse.host() == QLatin1String("localhost")) {
         adresse.setHost({});
     }
-    return adresse;
+    return adresse.isLocalFile() && NommeUnPartage(adresse)
+               ? QUrl::fromLocalFile(adresse.path().replace(u'\\', u'/'))
+               : adresse;
 }
 
 Sort SortDeLAdresse(const QUrl& adresse)
@@ -73,8 +82,8 @@ Sort SortDuLien(const QUrl& adresse, const QUrl& page)
 {
     const Sort sort = SortDeLAdresse(adresse);
     const bool duMemePoste = page.isLocalFile() && adresse.host() == page.host();
-    const bool dUnAutrePoste = sort == Sort::Fichier && !adresse.host().isEmpty() && !duMemePoste;
-    return dUnAutrePoste ? Sort::Refuse : sort;
+    const bool dUnAutrePoste = !adresse.host().isEmpty() && !duMemePoste;
+    return sort == Sort::Fichier && (dUnAutrePoste || NommeUnPartage(adresse)) ? Sort::Refuse : sort;
 }
 
 bool SOuvreDehors(const QUrl& adresse)

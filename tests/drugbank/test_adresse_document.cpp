@@ -59,6 +59,8 @@ private Q_SLOTS:
         QCOMPARE(drugbank::AdresseDepuisTexte(QStringLiteral("file://C:\\a\\b.htm#dci")),
                  QUrl(QStringLiteral("file:///C:/a/b.htm#dci")));
         QCOMPARE(drugbank::AdresseDepuisTexte(QStringLiteral("file://localhost/a")).host(), QString());
+        QCOMPARE(drugbank::AdresseDepuisTexte(QStringLiteral("file:////serveur/a/b.htm")).host(),
+                 QStringLiteral("serveur"));
         QCOMPARE(drugbank::AdresseDepuisTexte({}), QUrl(QStringLiteral("about:blank")));
     }
 
@@ -71,6 +73,11 @@ private Q_SLOTS:
         QCOMPARE(drugbank::SortDuLien(image, locale), Sort::Refuse);
         QCOMPARE(drugbank::SortDuLien(image, boucle), Sort::Refuse);
         QCOMPARE(drugbank::SortDuLien(image, QUrl(QStringLiteral("http://serveur/"))), Sort::Refuse);
+        for (const char* cache : {"file:////serveur/a.png", "/\\serveur\\a.png", "..//serveur/a.png",
+                                  "file:///%5C%5Cserveur/a.png", "file:\\\\serveur\\a.png"}) {
+            const QUrl cible = locale.resolved(QUrl(QString::fromLatin1(cache)));
+            QCOMPARE(drugbank::SortDuLien(cible, locale), Sort::Refuse);
+        }
         QCOMPARE(drugbank::SortDuLien(image, partagee), Sort::Fichier);
         QCOMPARE(drugbank::SortDuLien(locale, partagee), Sort::Fichier);
         QCOMPARE(drugbank::SortDuLien(boucle, locale), Sort::Boucle);
