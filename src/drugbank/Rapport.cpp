@@ -34,12 +34,26 @@ QString CommentairePrecaution(QString texte)
 
 using LectureProduit = Fonction<Poignee, Poignee> LiaisonBanque::*;
 
+/// The name of a product or class; its id is part of the protocol, not needed here.
+template <typename Tenu, typename LectureId, typename LectureNom>
+QString Nom(const Tenu& tenu, LectureId id, LectureNom nom)
+{
+    tenu.Demande(id);
+    return tenu.Texte(nom);
+}
+
+QString NomDuProduit(const TenuProduit& produit)
+{
+    return Nom(produit, &LiaisonBanque::Product_getId, &LiaisonBanque::Product_getName);
+}
+
 /// One of both products with its class.
 QString Membre(const TenuCouple& couple, int numero, LectureProduit produit, LectureProduit classe)
 {
-    const QString nom = couple.Donne<TenuProduit>(produit).Texte(&LiaisonBanque::Product_getName);
+    const QString nom = NomDuProduit(couple.Donne<TenuProduit>(produit));
     const QString nomClasse =
-        couple.Donne<TenuClasse>(classe).Texte(&LiaisonBanque::DrugInteractionClass_getName);
+        Nom(couple.Donne<TenuClasse>(classe), &LiaisonBanque::DrugInteractionClass_getId,
+            &LiaisonBanque::DrugInteractionClass_getName);
     return kRetrait + QString::number(numero) + QStringLiteral("- : ") + nom + kFin + kRetrait + nomClasse +
            kDeuxFins;
 }
@@ -55,16 +69,18 @@ QString Precaution(const QString& commentaire)
 
 QString Bloc(const TenuCouple& couple)
 {
+    couple.Demande(&LiaisonBanque::InteractionCouple_getInteractionId); // part of the protocol
     const QString precaution =
         CommentairePrecaution(couple.Texte(&LiaisonBanque::InteractionCouple_getPrecautionComment));
     const QString risque = couple.Texte(&LiaisonBanque::InteractionCouple_getRiskComment);
-    return Membre(couple, 1, &LiaisonBanque::InteractionCouple_getProductA,
-                  &LiaisonBanque::InteractionCouple_getDrugInteractionClassA) +
-           Membre(couple, 2, &LiaisonBanque::InteractionCouple_getProductB,
-                  &LiaisonBanque::InteractionCouple_getDrugInteractionClassB) +
-           Gravite(couple.Demande(&LiaisonBanque::InteractionCouple_getSeverity)) +
-           QStringLiteral("Type de risque :   ") + kFin + QStringLiteral("---------------------") + kFin +
-           risque + kDeuxFins + Precaution(precaution) + kDeuxFins +
+    // The order in which the bank is asked: one statement each.
+    QString bloc = Membre(couple, 1, &LiaisonBanque::InteractionCouple_getProductA,
+                          &LiaisonBanque::InteractionCouple_getDrugInteractionClassA);
+    bloc += Membre(couple, 2, &LiaisonBanque::InteractionCouple_getProductB,
+                   &LiaisonBanque::InteractionCouple_getDrugInteractionClassB);
+    bloc += Gravite(couple.Demande(&LiaisonBanque::InteractionCouple_getSeverity));
+    return bloc + QStringLiteral("Type de risque :   ") + kFin + QStringLiteral("---------------------") +
+           kFin + risque + kDeuxFins + Precaution(precaution) + kDeuxFins +
            QStringLiteral("<<<<<  -----------------------------------------------------"
                           "-----------------------------------------------------  >>>>>") +
            kTroisFins;
@@ -73,7 +89,7 @@ QString Bloc(const TenuCouple& couple)
 QString Inconnu(const TenuProduit& produit)
 {
     return QStringLiteral("unknown product interactions:") + kDeuxFins + QStringLiteral(" product name: ") +
-           produit.Texte(&LiaisonBanque::Product_getName) + kFin;
+           NomDuProduit(produit) + kFin;
 }
 
 } // namespace

@@ -56,10 +56,10 @@ Pack LitPack(const TenuPack& tenu)
 {
     Pack pack;
     pack.Cip = tenu.Texte(&LiaisonBanque::Pack_getCip);
+    pack.Nom = tenu.Texte(&LiaisonBanque::Pack_getName);
     pack.Id = tenu.Demande(&LiaisonBanque::Pack_getId);
     pack.Produit = tenu.Demande(&LiaisonBanque::Pack_getProductId);
     pack.Prix = LitPrix(tenu);
-    pack.Nom = tenu.Texte(&LiaisonBanque::Pack_getName);
     return pack;
 }
 
@@ -70,6 +70,15 @@ Document LitDocument(const TenuDocument& tenu)
     document.Nom = tenu.Texte(&LiaisonBanque::Document_getName);
     document.Type = TypeDeDocument(tenu.Demande(&LiaisonBanque::Document_getType));
     return document;
+}
+
+/// The id of a product's generic group, both released with it; nothing for an entry without a group.
+std::optional<Entier> IdDuGroupe(const TenuGroupeDuProduit entree)
+{
+    const auto groupe = entree.Donne<TenuGroupe>(&LiaisonBanque::ProductGenericGroup_getGenericGroup);
+    const Entier id = groupe.Demande(&LiaisonBanque::GenericGroup_getId);
+    groupe.Demande(&LiaisonBanque::GenericGroup_getActiveExcipientHomogeneity); // part of the protocol
+    return groupe ? std::optional(id) : std::nullopt;
 }
 
 /// A row of `LstGen`, nothing for a pack without a price.
@@ -154,11 +163,10 @@ QStringList RequetesBanque::Generiques(qint32 produit)
     QStringList rangs;
     Entier reste = kElementsMax; // of the elements within the groups, all told: a walk that ends
     const TenuGroupes groupes(*banque_, banque_->GenericGroupService_searchByProductId(session_, produit));
-    groupes.PourChacun([&](const TenuGroupeDuProduit& entree) {
+    groupes.PourChacun([&](TenuGroupeDuProduit& entree) {
         rangs.append(QString());
-        const auto groupe = entree.Donne<TenuGroupe>(&LiaisonBanque::ProductGenericGroup_getGenericGroup);
-        if (groupe) {
-            AjouteGroupe(rangs, groupe.Demande(&LiaisonBanque::GenericGroup_getId), reste);
+        if (const auto groupe = IdDuGroupe(std::move(entree))) {
+            AjouteGroupe(rangs, *groupe, reste);
         }
     });
     return rangs;

@@ -75,7 +75,8 @@ template <typename Element, auto Libere, auto Compte, auto Rang> class TenuListe
 public:
     using Tenu<Libere>::Tenu;
 
-    /// Calls `visite` with each element, released behind it, at most `maximum` of them. An element of 0 is
+    /// Calls `visite` with each element, released behind it unless the visit takes it over, at most
+    /// `maximum` of them. An element of 0 is
     /// passed over, so that no count, however absurd, leads anywhere. True when each one of the count was
     /// visited.
     template <typename Visite> bool PourChacun(Visite&& visite, Entier maximum = kElementsMax) const
@@ -84,7 +85,7 @@ public:
         const Entier nombre = std::min(compte, maximum);
         bool complet = compte >= 0 && compte == nombre;
         for (Entier i = 0; i < nombre; ++i) {
-            if (const Element element(*this->banque_, this->Demande(Rang, i)); element) {
+            if (Element element(*this->banque_, this->Demande(Rang, i)); element) {
                 visite(element);
             } else {
                 complet = false;

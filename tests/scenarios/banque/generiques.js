@@ -19,6 +19,15 @@ vrai(visible("FrmMedoc.AniGIFG"), "l'animation");
 clic("FrmMedoc.TV", "DOLGRATUIT");
 egal(lignes("FrmGEN.LstGen"), [""], "rien n'a de prix");
 vrai(visible("FrmMedoc.AniGIFG"), "l'animation tout de même");
+const noms = appels().map(appel => appel.nom).filter(nom => !/^(StringLength|CopyString)/.test(nom));
+egal(noms.slice(noms.lastIndexOf("GenericGroupService_searchByProductId"), noms.lastIndexOf("ProductGenericGroupList_release") + 1), [
+    "GenericGroupService_searchByProductId", "ProductGenericGroupList_getCount", "ProductGenericGroupList_getItem",
+    "ProductGenericGroup_getGenericGroup", "GenericGroup_getId", "GenericGroup_getActiveExcipientHomogeneity",
+    "GenericGroup_release", "ProductGenericGroup_release", "ProductService_searchByGenericGroupId",
+    "ProductList_getCount", "ProductList_getItem", "Product_getId", "PackService_searchByProductId", "PackList_getCount",
+    "PackList_getItem", "Pack_getName", "Pack_getPublicPrice", "Pack_release", "PackList_release", "Product_release",
+    "ProductList_release", "ProductGenericGroupList_release"
+], "la banque est parcourue dans l'ordre");
 clic("FrmMedoc.TV", "DOLSEUL");
 egal(lignes("FrmGEN.LstGen"), [], "sans groupe");
 faux(visible("FrmMedoc.AniGIFG"), "sans animation");

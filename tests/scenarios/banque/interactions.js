@@ -41,4 +41,14 @@ contient(deux, "Niveau d'interaction :  Association contre-indiquée\r\n", "une 
 contient(deux, "Éviter.\r\n\r\nBien", "les fins de ligne du commentaire");
 egal(demandes().pop(), [[101, 102, 103], 3, 2], "les trois");
 contient(prescrit("DOLINCONNU"), "unknown product interactions:\r\n\r\n product name: DOLINCONNU\r\n", "un produit que la banque ne connaît pas");
+const noms = appels().map(appel => appel.nom).filter(nom => !/^(StringLength|CopyString)/.test(nom));
+const membre = lettre => ["InteractionCouple_getProduct" + lettre, "Product_getId", "Product_getName", "Product_release",
+    "InteractionCouple_getDrugInteractionClass" + lettre, "DrugInteractionClass_getId", "DrugInteractionClass_getName",
+    "DrugInteractionClass_release"];
+const couple = noms.lastIndexOf("InteractionCouple_getInteractionId");
+egal(noms.slice(couple), ["InteractionCouple_getInteractionId", "InteractionCouple_getPrecautionComment",
+    "InteractionCouple_getRiskComment", ...membre("A"), ...membre("B"), "InteractionCouple_getSeverity",
+    "InteractionCouple_release", "InteractionCoupleList_release", "InteractionResult_getUnkownProductInteractionList",
+    "ProductList_getCount", "ProductList_getItem", "Product_getId", "Product_getName", "Product_release",
+    "ProductList_release", "InteractionResult_release"], "chaque couple est lu puis rendu");
 egal(fuites(), [], "tout est rendu");

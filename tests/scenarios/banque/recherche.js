@@ -30,6 +30,10 @@ egal(recherches().pop().slice(1), ["DOL", [0, 6, 0], 2, [0, 3, 5], 2, 1, 50], "l
 egal(etiquettes("FrmMedoc.TV")[0], "3400930000011/1/101/0.01", "CIP, présentation, produit, prix");
 egal(cherche("DOLKO").map(nom => nom.trim()), ["Œdème é € DOLKO"], "les caractères de Windows-1252");
 egal(cherche("ZZZZ"), [], "rien de ce nom");
+const noms = appels().map(appel => appel.nom).filter(nom => !/^(StringLength|CopyString)/.test(nom));
+const lecture = noms.indexOf("PackList_getItem");
+egal(noms.slice(lecture, lecture + 7), ["PackList_getItem", "Pack_getCip", "Pack_getName", "Pack_getId", "Pack_getProductId",
+    "Pack_getPublicPrice", "Pack_release"], "chaque présentation est lue puis rendue");
 const avant = recherches().length;
 egal(cherche("DO"), [], "deux lettres ne suffisent pas");
 egal(recherches().length, avant, "et rien n'est demandé");
