@@ -24,11 +24,21 @@ struct Document
     QString Type; ///< one of the 17 types, empty for another
 };
 
+/// True for a product id of the open bank: a CIS code, 8 digits from 6 on; an extract has some of its own
+/// that begin with 9. The ids of the other banks are smaller.
+constexpr bool EstProduitPublic(qint32 produit)
+{
+    return produit >= 60'000'000 && produit <= 99'999'999;
+}
+
 /// What is asked of an open drug bank.
 class AccesBanque
 {
 public:
     virtual ~AccesBanque() = default;
+
+    /// True when a product id can be one of this bank. One of another bank means another medication here.
+    virtual bool EstDIci(qint32 produit) const = 0;
 
     /// The first page of the packs of a name, at most 50, in the order of the bank. `filtre` is the
     /// document filter, 64, 128 or 255.

@@ -45,9 +45,11 @@ struct Banque
     QString RapportInteractions;           ///< of the lines at the last calculation, its lines ended by CR LF
     bool InteractionsNonVerifiees = false; ///< the last calculation found no bank that answers
     bool SessionManquee = false;           ///< the start left no session: what is found in it says nothing
-    ResolutionCip ProduitDuCip;            ///< of the session in use, empty without one
+    ResolutionCip ProduitDuCip;            ///< of the session in use, empty without one; held as `Acces` is
     bool ModuleAide = false;               ///< the helper library could be loaded
-    std::shared_ptr<AccesBanque> Acces;    ///< null while no bank is open: a search finds nothing
+    /// Null while no bank is open: a search finds nothing. Who asks holds it, since a library may let the
+    /// closing of the session through meanwhile.
+    std::shared_ptr<AccesBanque> Acces;
     /// Asks the helper library for a product: 0 when it is installed. Empty while no library is bound.
     std::function<qint32(qint32 produit)> VidalHelper_getVidalAPIPath;
 };

@@ -99,8 +99,8 @@ QString TypeDeDocument(qint32 type)
     return connu ? QString(kTypes.at(static_cast<std::size_t>(type))) : QString();
 }
 
-RequetesBanque::RequetesBanque(std::shared_ptr<const LiaisonBanque> banque, Poignee session)
-    : banque_(std::move(banque)), session_(session)
+RequetesBanque::RequetesBanque(std::shared_ptr<const LiaisonBanque> banque, Poignee session, bool publique)
+    : banque_(std::move(banque)), session_(session), publique_(publique)
 {}
 
 QList<Pack> RequetesBanque::RecherchePacks(const QString& texte, qint32 filtre)

@@ -16,7 +16,10 @@ QString TypeDeDocument(qint32 type);
 class RequetesBanque : public AccesBanque
 {
 public:
-    RequetesBanque(std::shared_ptr<const LiaisonBanque> banque, Poignee session);
+    /// `publique`: it is the open bank.
+    RequetesBanque(std::shared_ptr<const LiaisonBanque> banque, Poignee session, bool publique = false);
+
+    bool EstDIci(qint32 produit) const override { return EstProduitPublic(produit) == publique_; }
 
     QList<Pack> RecherchePacks(const QString& texte, qint32 filtre) override;
     QString NomDCI(qint32 produit) override;
@@ -33,6 +36,7 @@ private:
 
     std::shared_ptr<const LiaisonBanque> banque_;
     Poignee session_;
+    bool publique_;
 };
 
 } // namespace drugbank

@@ -6,6 +6,8 @@
 #include "drugbank/Chargement.h"
 #include "outside/Horloge.h"
 
+#include <utility>
+
 namespace drugbank {
 
 using application::Contexte;
@@ -105,13 +107,22 @@ void Seance::Abandonne(Contexte& contexte)
     module_->Garde();
     module_.reset();
     place_ = nullptr;
+    contexte.Banque.Acces.reset();
+    contexte.Banque.ProduitDuCip = {};
     contexte.Banque.SessionBanque = 0;
     contexte.Banque.SessionManquee = true;
     Acheve(contexte);
+    if (std::exchange(oubliDemande_, false)) {
+        Oublie(contexte);
+        if (std::exchange(suiteDemandee_, false)) {
+            Demarre(contexte);
+        }
+    }
 }
 
 void Seance::Ferme(Contexte& contexte)
 {
+    oubliDemande_ = suiteDemandee_ = false;
     if (EnAttente(contexte)) {
         Annule(contexte);
         return;
@@ -128,12 +139,11 @@ void Seance::LibereModule(Contexte& contexte)
     Banque& banque = contexte.Banque;
     banque.Acces.reset();
     banque.ProduitDuCip = {};
-    if (module_ && banque.SessionBanque != 0) {
-        module_->VidalAPI_release(banque.SessionBanque);
-    }
-    banque.SessionBanque = 0;
     place_ = nullptr;
-    module_.reset();
+    const Poignee session = std::exchange(banque.SessionBanque, 0);
+    if (const auto module = std::exchange(module_, nullptr); module && session != 0) {
+        module->VidalAPI_release(session);
+    }
     if (etape_ != Etape::Repos) {
         Acheve(contexte);
     }
@@ -142,10 +152,17 @@ void Seance::LibereModule(Contexte& contexte)
 void Seance::Libere(Contexte& contexte)
 {
     if (EnAttente(contexte)) {
+        oubliDemande_ = dansAppel_;
         Annule(contexte);
     } else {
         LibereModule(contexte);
     }
+    Oublie(contexte);
+}
+
+/// As if no start had been run.
+void Seance::Oublie(Contexte& contexte)
+{
     contexte.Banque.BanqueInitialisee = 0;
     contexte.Banque.SessionManquee = false;
     contexte.Banque.DateExpirationBase.clear();

@@ -66,6 +66,7 @@ private:
     void Acheve(application::Contexte& contexte);
     void Abandonne(application::Contexte& contexte);
     void LibereModule(application::Contexte& contexte);
+    void Oublie(application::Contexte& contexte);
     bool EnAttente(const application::Contexte& contexte) const;
     template <typename Appel> bool Appelle(application::Contexte& contexte, Appel appel);
 
@@ -79,6 +80,8 @@ private:
     qint32 produit_ = 0;
     bool dansAppel_ = false;
     bool annulationDemandee_ = false;
+    bool oubliDemande_ = false;  ///< given up for another bank: the next start is a new one
+    bool suiteDemandee_ = false; ///< and it was asked for meanwhile
 };
 
 } // namespace drugbank

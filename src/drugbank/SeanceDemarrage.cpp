@@ -54,6 +54,7 @@ void Seance::Demarre(Contexte& contexte)
     Banque& banque = contexte.Banque;
     SuitBase(contexte);
     if (banque.BanqueInitialisee != 0 || etape_ != Etape::Repos) {
+        suiteDemandee_ = oubliDemande_;
         return;
     }
     ++tour_;
@@ -154,6 +155,7 @@ void Seance::DemarreSansAttente(Contexte& contexte)
 /// through.
 template <typename Appel> bool Seance::Appelle(Contexte& contexte, Appel appel)
 {
+    const int tour = tour_;
     dansAppel_ = true;
     appel();
     dansAppel_ = false;
@@ -161,7 +163,7 @@ template <typename Appel> bool Seance::Appelle(Contexte& contexte, Appel appel)
     if (annulationDemandee_) {
         Abandonne(contexte);
     }
-    return etape_ != Etape::Repos;
+    return tour == tour_;
 }
 
 void Seance::Suit(Contexte& contexte, qint32 retour)
@@ -203,9 +205,11 @@ void Seance::OffreDAnnuler(Contexte& contexte)
 void Seance::Termine(Contexte& contexte)
 {
     Banque& banque = contexte.Banque;
-    etape_ = Etape::Montre;
     banque.Statut.Annulable = false;
-    Etablit(contexte);
+    if (!Appelle(contexte, [&] { Etablit(contexte); })) {
+        return;
+    }
+    etape_ = Etape::Montre;
     Annonce(contexte);
     if (banque.Statut.PG >= kFinDeBarre) {
         Conclut(contexte);
@@ -219,7 +223,8 @@ void Seance::Etablit(Contexte& contexte)
     Banque& banque = contexte.Banque;
     banque.RetourInitBanque = LitVersion(*module_, banque.VersionBanque);
     banque.SessionManquee = banque.RetourInitBanque != 0 || banque.SessionBanque == 0;
-    const auto requetes = std::make_shared<RequetesBanque>(module_, banque.SessionBanque);
+    const auto requetes =
+        std::make_shared<RequetesBanque>(module_, banque.SessionBanque, produit_ == kProduitPublic);
     banque.Acces = requetes;
     if (!banque.SessionManquee) {
         banque.ProduitDuCip = [requetes](const QString& cip) { return requetes->ProduitDuCip(cip); };

@@ -44,21 +44,23 @@ std::optional<QString> AdresseDuDocument(const drugbank::Banque& banque, const s
     if (!EstUnPack(noeud)) {
         return AdresseSansDocument(chemins);
     }
-    if (!banque.Acces) {
+    const std::shared_ptr<drugbank::AccesBanque> acces = banque.Acces;
+    if (!acces) {
         return std::nullopt;
     }
-    const QString monographie = banque.Acces->Monographie(IdDuPack(noeud)).trimmed();
+    const QString monographie = acces->Monographie(IdDuPack(noeud)).trimmed();
     return monographie.isEmpty() ? AdresseSansDocument(chemins) : monographie;
 }
 
 QString ListeDesDocuments(const drugbank::Banque& banque, const Noeud& noeud)
 {
-    if (EstUnPack(noeud) && !banque.Acces) {
+    const std::shared_ptr<drugbank::AccesBanque> acces = banque.Acces;
+    if (EstUnPack(noeud) && !acces) {
         return messages::BanqueFermee();
     }
     QStringList lignes;
     if (EstUnPack(noeud)) {
-        for (const drugbank::Document& document : banque.Acces->Documents(IdDuPack(noeud))) {
+        for (const drugbank::Document& document : acces->Documents(IdDuPack(noeud))) {
             lignes.append(LigneDe(document));
         }
     }

@@ -16,8 +16,8 @@ bool RechercheGeneriques(application::Contexte& contexte)
 {
     Choix& choix = contexte.Choix;
     choix.LstGen.clear();
-    if (contexte.Banque.Acces) {
-        choix.LstGen = contexte.Banque.Acces->Generiques(choix.InfoPack.value(2).toInt());
+    if (const std::shared_ptr<drugbank::AccesBanque> acces = contexte.Banque.Acces) {
+        choix.LstGen = acces->Generiques(choix.InfoPack.value(2).toInt());
     }
     return !choix.LstGen.isEmpty();
 }

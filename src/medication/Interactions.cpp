@@ -19,26 +19,36 @@ QList<prescription::Ligne> LignesEnMain(const prescription::Ordonnance& ordonnan
     return ordonnance.LstChoix1.Lignes() + ordonnance.LstChoix2.Lignes();
 }
 
-/// What the bank is asked about, row by row; empty for a row without a product.
-QStringList Identifiants(const QList<prescription::Ligne>& lignes)
+/// Names a line that the bank is not asked about, since its code would mean another product or none; empty
+/// for any other.
+QString NonVerifiee(const prescription::Ligne& ligne, const drugbank::AccesBanque& acces)
 {
-    QStringList identifiants;
-    for (const prescription::Ligne& ligne : lignes) {
-        const bool ancien = !prescription::CodeAncien(ligne).isEmpty();
-        identifiants.append(ancien ? QString() : prescription::IdentifiantDeLigne(ligne.Texte));
+    const QString titre = prescription::TitreDeLigne(ligne.Texte);
+    if (!prescription::CodeAncien(ligne).isEmpty()) {
+        return messages::LigneNonVerifiee(titre);
     }
-    return identifiants;
+    bool entier = false;
+    const qint32 produit = prescription::IdentifiantDeLigne(ligne.Texte).toInt(&entier);
+    const bool aucun = !entier || produit == 0 || produit == 1;
+    return aucun || acces.EstDIci(produit) ? QString() : messages::LigneDUneAutreBanque(titre);
 }
 
-QString LignesNonVerifiees(const QList<prescription::Ligne>& lignes)
+struct Question
 {
-    QString texte;
+    QStringList Identifiants; ///< row by row; empty for one that is not asked about
+    QString NonVerifiees;
+};
+
+Question PoseQuestion(const QList<prescription::Ligne>& lignes, const drugbank::AccesBanque& acces)
+{
+    Question question;
     for (const prescription::Ligne& ligne : lignes) {
-        if (!prescription::CodeAncien(ligne).isEmpty()) {
-            texte += messages::LigneNonVerifiee(prescription::TitreDeLigne(ligne.Texte));
-        }
+        const QString reserve = NonVerifiee(ligne, acces);
+        question.NonVerifiees += reserve;
+        question.Identifiants.append(reserve.isEmpty() ? prescription::IdentifiantDeLigne(ligne.Texte)
+                                                       : QString());
     }
-    return texte;
+    return question;
 }
 
 } // namespace
@@ -46,15 +56,18 @@ QString LignesNonVerifiees(const QList<prescription::Ligne>& lignes)
 void CalculeInteractions(application::Contexte& contexte)
 {
     drugbank::Banque& banque = contexte.Banque;
-    const QList<prescription::Ligne> lignes = LignesEnMain(contexte.Ordonnance);
     banque.RapportInteractions.clear();
     banque.InteractionsNonVerifiees = !drugbank::BanqueRepond(banque);
-    if (banque.Acces) {
-        banque.RapportInteractions = banque.Acces->Interactions(
-            drugbank::ProduitsPrescrits(Identifiants(lignes)), banque.NiveauInteraction);
+    const std::shared_ptr<drugbank::AccesBanque> acces =
+        banque.Acces; // a library may let the closing through
+    if (!acces) {
+        return;
     }
+    const Question question = PoseQuestion(LignesEnMain(contexte.Ordonnance), *acces);
+    banque.RapportInteractions =
+        acces->Interactions(drugbank::ProduitsPrescrits(question.Identifiants), banque.NiveauInteraction);
     if (!banque.InteractionsNonVerifiees) {
-        banque.RapportInteractions += LignesNonVerifiees(lignes);
+        banque.RapportInteractions += question.NonVerifiees;
     }
 }
 

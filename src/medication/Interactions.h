@@ -12,7 +12,8 @@ struct Banque;
 namespace medication {
 
 /// `CalculeInteractions`: asks the bank about the products of the lines, those of the first zone first, and
-/// keeps the answer in `RapportInteractions`. Lines whose code is no product id are named in it as unchecked.
+/// keeps the answer in `RapportInteractions`. Lines whose code is no product id, or one of
+/// another bank, are named in it as unchecked.
 void CalculeInteractions(application::Contexte& contexte);
 
 /// True when the last calculation found something to tell.

@@ -25,8 +25,9 @@ bool DAncienFormat(const application::Contexte& contexte)
 bool Convertit(application::Contexte& contexte)
 {
     outside::Boites& boites = contexte.Dehors.Boites;
-    const prescription::Conversion conversion = prescription::ConvertitMemorisee(
-        Medoc(contexte), *contexte.Ordonnance.CleMemo, contexte.Banque.ProduitDuCip);
+    const drugbank::ResolutionCip produitDuCip = contexte.Banque.ProduitDuCip;
+    const prescription::Conversion conversion =
+        prescription::ConvertitMemorisee(Medoc(contexte), *contexte.Ordonnance.CleMemo, produitDuCip);
     if (conversion.Converties == 0) {
         boites.Information(messages::NonConvertie());
         return false;

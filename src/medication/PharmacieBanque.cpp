@@ -69,14 +69,14 @@ QList<Noeud> PharmacieBanque::Personnels()
 
 QList<Noeud> PharmacieBanque::Packs(const QString& recherche)
 {
-    const drugbank::Banque& banque = contexte_.Banque;
-    if (!banque.Acces) {
+    const std::shared_ptr<drugbank::AccesBanque> acces = contexte_.Banque.Acces;
+    if (!acces) {
         return {};
     }
     const bool relief = contexte_.Reglages.Options.ReliefMedUtilises == 1;
     MedicamentsUtilises utilises(Medoc());
     QList<Noeud> noeuds;
-    for (const drugbank::Pack& pack : banque.Acces->RecherchePacks(recherche, banque.FiltreBanque)) {
+    for (const drugbank::Pack& pack : acces->RecherchePacks(recherche, contexte_.Banque.FiltreBanque)) {
         noeuds.append({pack.Nom, EtiquetteDe(pack), relief && utilises.Contient(pack.Cip)});
     }
     return noeuds;
@@ -90,10 +90,11 @@ QString PharmacieBanque::NomDuPack(const Noeud& noeud) const
 
 QString PharmacieBanque::NomDCI(const Noeud& noeud) const
 {
-    if (!contexte_.Banque.Acces) {
+    const std::shared_ptr<drugbank::AccesBanque> acces = contexte_.Banque.Acces;
+    if (!acces) {
         return {};
     }
-    const QString nom = contexte_.Banque.Acces->NomDCI(InfoPack(noeud).value(2).toInt());
+    const QString nom = acces->NomDCI(InfoPack(noeud).value(2).toInt());
     if (nom.isNull()) {
         contexte_.Dehors.Boites.Information(messages::SansDCI());
     }

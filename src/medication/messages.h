@@ -249,4 +249,17 @@ inline QString LigneNonVerifiee(const QString& titre)
                "de la banque.\r\n\r\n");
 }
 
+inline QString LigneDUneAutreBanque(const QString& titre)
+{
+    return QStringLiteral("Interactions non vérifiées pour : ") + titre +
+           QStringLiteral(
+               "\r\nCette ligne a été prescrite avec une autre banque de médicaments, dont les codes ne "
+               "désignent pas les produits de celle-ci.\r\n\r\n");
+}
+
+inline QString RechercheSansBanque()
+{
+    return QStringLiteral("Rien n'a pu être cherché : la banque de médicaments ne répond pas.");
+}
+
 } // namespace medication::messages

@@ -31,7 +31,8 @@ LigneMemorisee LigneDe(const Ligne& rangee, const Entree& entree, int zone, cons
         return ligne;
     }
     const QString code = CodeAncien(rangee);
-    const auto produit = code.isEmpty() || !banque.ProduitDuCip ? std::nullopt : banque.ProduitDuCip(code);
+    const drugbank::ResolutionCip produitDuCip = banque.ProduitDuCip;
+    const auto produit = code.isEmpty() || !produitDuCip ? std::nullopt : produitDuCip(code);
     if (!code.isEmpty() && !produit) {
         ligne.IdProduit = code.toLongLong();
         ligne.EstUnCode = true;

@@ -70,6 +70,12 @@ struct PosteBanque : Monde
         Banque.ProduitBanque = drugbank::kProduitPublic;
     }
 
+    void ChoisitVidal()
+    {
+        Banque.TypeBase = QStringLiteral("TVS");
+        Banque.ProduitBanque = 2;
+    }
+
     void Charge() { Etat.Seance.Charge(Contexte); }
     void Demarre() { Etat.Seance.Demarre(Contexte); }
     void Ferme() { Etat.Seance.Ferme(Contexte); }

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void LaBanquePubliqueIllisible();
     void LeFichierDeLaBanquePublique();
     void UneBanqueNeRepondPasPourUneAutre();
+    void DixMedecinsALaSuite();
 };
 
 void TestBanquePublique::LaBanquePublique()
@@ -83,8 +84,7 @@ void TestBanquePublique::UneBanqueNeRepondPasPourUneAutre()
 {
     Poste poste(R"({"packs": [{"cip": "34", "nom": "DOLIPRANE"}]})");
     poste.PosePublique();
-    poste.Banque.TypeBase = QStringLiteral("TVS");
-    poste.Banque.ProduitBanque = 2;
+    poste.ChoisitVidal();
     poste.ChargeEtDemarre(60'000);
     QVERIFY(BanqueRepond(poste.Banque));
     poste.ChoisitPublique();
@@ -107,6 +107,26 @@ void TestBanquePublique::UneBanqueNeRepondPasPourUneAutre()
     QVERIFY(BanqueRepond(poste.Banque));
     QCOMPARE(Arguments(poste.Libs, "VidalAPI_asyncInit").last(),
              QJsonValue(QJsonArray({QJsonValue::Null, 1})));
+}
+
+void TestBanquePublique::DixMedecinsALaSuite()
+{
+    Poste poste(R"({"packs": [{"cip": "34", "nom": "DOLIPRANE"}]})");
+    poste.PosePublique();
+    poste.Charge();
+    for (int tour = 0; tour < 10; ++tour) {
+        const bool publique = tour % 2 == 0;
+        publique ? poste.ChoisitPublique() : poste.ChoisitVidal();
+        poste.Etat.Seance.SuitBase(poste.Contexte);
+        poste.Demarre();
+        poste.Horloge.Passe(tour < 5 ? 60'000 : 100); // then each in the start of the one before
+        QVERIFY(BanqueRepond(poste.Banque));
+        QCOMPARE(poste.Banque.Acces->EstDIci(61'234'567), publique);
+    }
+    poste.Ferme();
+    QCOMPARE(poste.Compte("VidalAPI_asyncInit"), 10);
+    QCOMPARE(poste.Compte("VidalAPI_release"), 10);
+    QVERIFY(!poste.EnMemoire());
 }
 
 QTEST_MAIN(TestBanquePublique)

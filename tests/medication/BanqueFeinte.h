@@ -17,7 +17,9 @@ public:
     QStringList Demandes;                                    ///< text and filter of each search
     QList<QList<qint32>> ProduitsDemandes;                   ///< of each search of interactions
     qint32 NiveauDemande = -1;                               ///< of the last one
+    bool Publique = false;                                   ///< it plays the open bank
 
+    bool EstDIci(qint32 produit) const override { return drugbank::EstProduitPublic(produit) == Publique; }
     QList<drugbank::Pack> RecherchePacks(const QString& texte, qint32 filtre) override
     {
         Demandes.append(texte + QLatin1Char('/') + QString::number(filtre));

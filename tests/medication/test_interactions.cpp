@@ -153,6 +153,57 @@ private Q_SLOTS:
                                                    messages::LigneNonVerifiee(u"PLUS VIEUX"_s));
     }
 
+    void AnIdOfAnotherBankIsNamedAndNotSent_data()
+    {
+        QTest::addColumn<bool>("publique");
+        QTest::addColumn<QString>("identifiant");
+        QTest::addColumn<bool>("envoye");
+        QTest::newRow("a bank, its own") << false << u"59999999"_s << true;
+        QTest::newRow("a bank, the first of the open one") << false << u"60000000"_s << false;
+        QTest::newRow("a bank, the last of the open one") << false << u"99999999"_s << false;
+        QTest::newRow("a bank, beyond") << false << u"100000000"_s << true;
+        QTest::newRow("the open one, below") << true << u"59999999"_s << false;
+        QTest::newRow("the open one, its first") << true << u"60000000"_s << true;
+        QTest::newRow("the open one, its last") << true << u"99999999"_s << true;
+        QTest::newRow("the open one, beyond") << true << u"100000000"_s << false;
+        QTest::newRow("the open one, a small one") << true << u"2"_s << false;
+    }
+
+    void AnIdOfAnotherBankIsNamedAndNotSent()
+    {
+        QFETCH(bool, publique);
+        QFETCH(QString, identifiant);
+        QFETCH(bool, envoye);
+        banque_->Publique = publique;
+        const qint32 sien = publique ? 61234567 : 101;
+        Pose(u"AUTRE"_s, identifiant);
+        Pose(u"SIEN"_s, QString::number(sien), Zone::Deux);
+        Calcule();
+        const qint32 autre = identifiant.toInt();
+        QCOMPARE(banque_->ProduitsDemandes.back(),
+                 envoye ? (QList<qint32>{autre, sien}) : QList<qint32>{sien});
+        QCOMPARE(Banque().RapportInteractions,
+                 envoye ? QString() : messages::LigneDUneAutreBanque(u"AUTRE"_s));
+    }
+
+    void ALineWithoutAProductIsOfNoBank_data()
+    {
+        QTest::addColumn<QString>("identifiant");
+        QTest::newRow("personal entry") << u"1"_s;
+        QTest::newRow("jump") << u"0"_s;
+        QTest::newRow("no number") << u"abc"_s;
+    }
+
+    void ALineWithoutAProductIsOfNoBank()
+    {
+        QFETCH(QString, identifiant);
+        banque_->Publique = true;
+        Pose(u"A"_s, identifiant);
+        Calcule();
+        QVERIFY(Banque().RapportInteractions.isEmpty());
+        QCOMPARE(banque_->ProduitsDemandes.back(), QList<qint32>{0});
+    }
+
     void TheReportGoesWithTheLines()
     {
         Banque().RapportInteractions = u"une"_s;

@@ -180,6 +180,11 @@ QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
     colonne->addSpacing(style::kDansGroupe);
     colonne->addWidget(style::Titre({}, QStringLiteral("P&harmacie"), f, c.TV));
     colonne->addWidget(c.TV, 1);
+    c.LblSansBanque =
+        style::Avertissement(QStringLiteral("LblSansBanque"), messages::RechercheSansBanque(), f);
+    c.LblSansBanque->setWordWrap(true);
+    c.LblSansBanque->hide();
+    colonne->addWidget(c.LblSansBanque);
     auto* boutons = new QHBoxLayout;
     boutons->addWidget(c.CmdNouveau, 1);
     boutons->addWidget(c.CmdRetire, 1);

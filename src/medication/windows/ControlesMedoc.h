@@ -74,6 +74,7 @@ struct ControlesMedoc
     ImageAnimee* AniGIFG = nullptr; ///< while the pack has generics
     QPushButton* HlbI = nullptr;
     ImageAnimee* AniGIFI = nullptr;    ///< while the prescription has interactions
+    QLabel* LblSansBanque = nullptr;   ///< no bank answered the search
     QLabel* LblNonVerifiees = nullptr; ///< no bank answered about the lines
     QList<QWidget*> DeBanque;          ///< what the bank mode shows and the local mode hides
 };

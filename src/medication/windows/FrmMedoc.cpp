@@ -157,6 +157,7 @@ void FrmMedoc::Active()
     c_.ChkMono->setChecked(contexte_.Reglages.Options.EtatChkMono == 1);
     ConfigureModeBase();
     RattrapeInteractions();
+    RattrapeRecherche();
     if (choix.BaseChangee != 2 || choix.TypeBaseArbre != contexte_.Banque.TypeBase) {
         ChargeMedicaments();
     }
@@ -177,6 +178,7 @@ void FrmMedoc::ChargeMedicaments()
         contexte_.Choix.BaseChangee = 2;
         contexte_.Choix.TypeBaseArbre = contexte_.Banque.TypeBase;
     });
+    MontreSansBanque();
 }
 
 void FrmMedoc::VideArbre()

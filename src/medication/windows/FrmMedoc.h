@@ -62,6 +62,10 @@ private:
     void EntreeRecherche();
     /// A change of the search text in the bank mode: only a blank one shows something at once.
     void CherchePlusTard();
+    /// Says under the tree that a search found no bank to ask.
+    void MontreSansBanque();
+    /// Searches again once a bank answers that did not.
+    void RattrapeRecherche();
     void ChoisitFiltre(int filtre);
     /// `FrmNouveauM`, then the window is active again.
     void OuvreNouveau();

@@ -15,6 +15,8 @@ void FrmMedoc::RelieInteractions()
     connect(c_.AniGIFI, &ImageAnimee::Clic, this, [this] { MontreInteractions(medication::Clic::AniGIFI); });
     connect(&contexte_.Signaux, &application::Signaux::StatutBanqueChange, this,
             &FrmMedoc::RattrapeInteractions);
+    connect(&contexte_.Signaux, &application::Signaux::StatutBanqueChange, this,
+            &FrmMedoc::RattrapeRecherche);
     connect(c_.HlbI, &QPushButton::clicked, this, [this] { MontreInteractions(medication::Clic::HlbI); });
 }
 

@@ -74,6 +74,7 @@ void FrmMedoc::ConfigureModeBase()
     for (QWidget* controle : c_.DeBanque) {
         controle->setVisible(banque);
     }
+    MontreSansBanque();
     if (banque) {
         MontreNonVerifiees();
     } else {
@@ -108,6 +109,21 @@ void FrmMedoc::CherchePlusTard()
     }
     if (recherche.trimmed().isEmpty()) {
         ChargeMedicaments();
+    }
+}
+
+void FrmMedoc::MontreSansBanque()
+{
+    const bool cherche = ModeBanque() && !c_.TxtCherche->text().trimmed().isEmpty();
+    c_.LblSansBanque->setVisible(cherche && arbre_.rowCount() == 0 &&
+                                 !drugbank::BanqueRepond(contexte_.Banque));
+}
+
+void FrmMedoc::RattrapeRecherche()
+{
+    if (!c_.LblSansBanque->isHidden() && drugbank::BanqueRepond(contexte_.Banque)) {
+        c_.LblSansBanque->hide();
+        EntreeRecherche();
     }
 }
 

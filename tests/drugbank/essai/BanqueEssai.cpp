@@ -2,7 +2,7 @@
 
 #include "essai/Emplacement.h"
 
-#include <QDateTime>
+#include <QCoreApplication>
 #include <cstring>
 
 namespace essai {
@@ -31,8 +31,22 @@ BanqueEssai& BanqueEssai::La()
     return banque;
 }
 
+void BanqueEssai::LaisseEvenements(const char* fonction) const
+{
+    if (description_.value(QLatin1String("evenements")) == QLatin1String(fonction)) {
+        QCoreApplication::processEvents();
+    }
+}
+
+void BanqueEssai::Note(const char* fonction, const QJsonArray& arguments)
+{
+    journal_.Note(fonction, arguments);
+    LaisseEvenements(fonction);
+}
+
 Poignee BanqueEssai::Donne(const char* fonction, const QJsonArray& arguments, const QJsonValue& contenu)
 {
+    LaisseEvenements(fonction);
     const Poignee poignee = Poignees.Ouvre(contenu);
     journal_.Note(fonction, arguments, poignee);
     return poignee;

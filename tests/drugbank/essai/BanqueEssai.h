@@ -8,7 +8,8 @@ namespace essai {
 
 /// The state of the bank library of the tests. A description may hold, beside the fields of `Reponses`, the
 /// object `reponses`: for the name of a service the very record of each key, or of "*" for any key; and
-/// `longueur`, what `StringLength` answers to every text.
+/// `longueur`, what `StringLength` answers to every text; and `evenements`, the function that lets the window
+/// events of the program through.
 class BanqueEssai
 {
 public:
@@ -17,7 +18,7 @@ public:
     static BanqueEssai& La();
 
     /// Writes down a call that hands no handle out.
-    void Note(const char* fonction, const QJsonArray& arguments) { journal_.Note(fonction, arguments); }
+    void Note(const char* fonction, const QJsonArray& arguments);
     /// Hands out a record.
     drugbank::Poignee Donne(const char* fonction, const QJsonArray& arguments, const QJsonValue& contenu);
     /// The record that `reponses` has for a service, else what `sinon` answers.
@@ -44,6 +45,7 @@ public:
     essai::Reponses Reponses;
 
 private:
+    void LaisseEvenements(const char* fonction) const;
     static QJsonValue Dite(const QJsonObject& table, const QByteArray& cle);
 
     QJsonObject description_;
