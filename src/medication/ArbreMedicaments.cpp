@@ -10,6 +10,11 @@ namespace medication {
 
 namespace {
 
+QVariant AspectNormal(int role)
+{
+    return role == Qt::ForegroundRole ? QVariant(QBrush(Qt::black)) : QVariant();
+}
+
 QVariant AspectUtile(int role)
 {
     switch (role) {
@@ -46,7 +51,7 @@ QVariant ArbreMedicaments::data(const QModelIndex& index, int role) const
     if (role == Qt::UserRole) {
         return noeud->Etiquette;
     }
-    return noeud->Utile ? AspectUtile(role) : QVariant();
+    return noeud->Utile ? AspectUtile(role) : AspectNormal(role);
 }
 
 const Noeud* ArbreMedicaments::Lis(int rang) const

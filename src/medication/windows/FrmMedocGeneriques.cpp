@@ -14,7 +14,11 @@ void FrmMedoc::RelieGeneriques()
 {
     connect(c_.AniGIFG, &ImageAnimee::Clic, this, &FrmMedoc::OuvreGeneriques);
     connect(c_.HlbG, &QPushButton::clicked, this, [this] {
-        if (NoeudSelectionne() >= 0) {
+        if (const Noeud* noeud = arbre_.Lis(NoeudSelectionne())) {
+            // A line added empties the list while its pack stays selected.
+            if (contexte_.Choix.LstGen.isEmpty() && !pharmacies_.EnService().InfoPack(*noeud).isEmpty()) {
+                RechercheGeneriques();
+            }
             OuvreGeneriques();
         }
     });

@@ -42,6 +42,9 @@ vrai(visible("FrmMedoc.AniGIFG"), "la liste est remplie à nouveau");
 clic("FrmMedoc.CmdAjouter1");
 egal(lignes("FrmMedoc.LstChoix1"), ["  PARACETAMOL LABO" + blancs(30) + blancs(100) + "101"], "la ligne porte le produit cliqué");
 faux(visible("FrmMedoc.AniGIFG"), "l'ajout arrête l'image");
+clic("FrmMedoc.HlbG");
+egal(lignes("FrmGEN.LstGen"), rangs, "son conditionnement resté choisi, ses génériques restent à voir");
+clic("FrmGEN.CmdFermer");
 
 clic("FrmMedoc.TV", 0);
 clic("FrmMedoc.HlbG");
