@@ -60,8 +60,7 @@ LecteurLignes::LecteurLignes(QByteArrayView octets)
 
 qint64 LecteurLignes::NombreDeLignes() const
 {
-    const bool ouverte = !octets_.isEmpty() && octets_.back() != '\n';
-    return std::count(octets_.begin(), octets_.end(), '\n') + (ouverte ? 1 : 0);
+    return std::count(octets_.begin(), octets_.end(), '\n') + (FinOuverte() ? 1 : 0);
 }
 
 QByteArrayView LecteurLignes::LigneBrute()

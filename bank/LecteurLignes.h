@@ -31,6 +31,8 @@ public:
 
     Encodage EncodageDuFichier() const { return encodage_; }
     int Vides() const { return vides_; }
+    /// True when the last line has no end.
+    bool FinOuverte() const { return !octets_.isEmpty() && octets_.back() != '\n'; }
     /// All lines of the file, blank ones counted.
     qint64 NombreDeLignes() const;
 

@@ -21,6 +21,7 @@ template <typename Fiche> struct FichierLu
 {
     std::vector<LigneLue<Fiche>> Lignes;
     int Vides = 0;
+    bool FinOuverte = false; ///< the last line has no end
 };
 
 template <typename Fiche> FichierLu<Fiche> LitTout(QByteArrayView octets)
@@ -34,6 +35,7 @@ template <typename Fiche> FichierLu<Fiche> LitTout(QByteArrayView octets)
         Lit(ligne, lue.Valeur, lue.Dites);
     }
     lu.Vides = lecteur.Vides();
+    lu.FinOuverte = lecteur.FinOuverte();
     return lu;
 }
 

@@ -49,4 +49,10 @@ void Parcours::VerifieForme(const BilanFichier& fichier) const
     }
 }
 
+/// A last line that breaks off comes from a download that did: what follows is missing too.
+void Parcours::Coupe(int ligne) const
+{
+    throw common::Erreur(messages::FichierCoupe(nom_, ligne), common::CheminAffiche(chemin_));
+}
+
 } // namespace banque

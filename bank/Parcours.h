@@ -43,6 +43,9 @@ public:
         }
         Annonce(total, total);
         VerifieForme(fichier);
+        if (lu.FinOuverte && !lu.Lignes.back().Dites.Refus.isEmpty()) {
+            Coupe(lu.Lignes.back().Numero);
+        }
         bilan_.Fichiers.append(fichier);
     }
 
@@ -52,6 +55,7 @@ private:
     void Annonce(qint64 faites, qint64 total) const;
     static void Compte(int numero, const Motifs& motifs, const Sort& sort, BilanFichier& fichier);
     void VerifieForme(const BilanFichier& fichier) const;
+    [[noreturn]] void Coupe(int ligne) const;
 
     QString chemin_;
     QString nom_;

@@ -207,6 +207,7 @@ void Assemblage::Controle()
 Thesaurus Assemblage::Assemble(const DocumentImprime& document)
 {
     thesaurus_.Edition = document.Edition;
+    thesaurus_.VoiesLocales = document.VoiesLocales;
     thesaurus_.Bilan.SansNiveau = document.CotesSansTitre;
     for (const TitreImprime& titre : document.Titres) {
         Entree(titre.Nom);

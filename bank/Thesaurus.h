@@ -43,7 +43,8 @@ struct BilanThesaurus
 /// The whole document.
 struct Thesaurus
 {
-    QString Edition; ///< "septembre 2023"; empty when the document does not say
+    QString Edition;      ///< "septembre 2023"; empty when the document does not say
+    QString VoiesLocales; ///< what the document says of local routes as a whole; empty when it says nothing
     QList<EntreeThesaurus> Entrees;
     QHash<QString, int> ParCle;
     QList<QPair<int, int>> Appartenances; ///< class, member; each pair once
@@ -54,8 +55,8 @@ struct Thesaurus
     int Place(const QString& nom) const;
 };
 
-/// Reads the text of the thesaurus: UTF-8, page layout kept, pages parted by form feeds. Never fails: what is
-/// not understood is told in the summary.
+/// Reads the text of the thesaurus: UTF-8 or Windows-1252, page layout kept, pages parted by form feeds.
+/// Never fails: what is not understood is told in the summary.
 Thesaurus LitThesaurus(QByteArrayView texte);
 
 } // namespace banque

@@ -1,5 +1,6 @@
 #include "bank/ThesaurusEcriture.h"
 
+#include "bank/messages.h"
 #include "common/Erreur.h"
 
 #include <QSqlError>
@@ -49,8 +50,9 @@ int Compte(const QSqlDatabase& base, const QString& texte)
     return requete.next() ? requete.value(0).toInt() : 0;
 }
 
-void EcritInformations(const QSqlDatabase& base, const QString& edition)
+void EcritInformations(const QSqlDatabase& base, const Thesaurus& thesaurus)
 {
+    const QString& edition = thesaurus.Edition;
     Instruction information(base,
                             QStringLiteral("insert or replace into information(cle, valeur) values(?, ?)"));
     const QString titre = QStringLiteral("ANSM, Thésaurus des interactions médicamenteuses");
@@ -58,6 +60,26 @@ void EcritInformations(const QSqlDatabase& base, const QString& edition)
                          edition.isEmpty() ? titre : titre + QStringLiteral(", ") + edition});
     information.Execute(
         {QStringLiteral("edition_thesaurus"), edition.isNull() ? QStringLiteral("") : edition});
+    if (!thesaurus.VoiesLocales.isEmpty()) {
+        information.Execute({QStringLiteral("voies_locales"), thesaurus.VoiesLocales});
+    }
+}
+
+/// What is missing of a text would read as "no interaction". Each pair stands under both its sides, so that a
+/// text that was cut has many under one alone.
+void ExigeEntier(const BilanThesaurus& bilan, int couples)
+{
+    constexpr int kUneSur = 20;
+    constexpr int kUniquesAdmis = 10; // the document itself forgets a few
+    constexpr int kUniqueSur = 50;
+    const int imprimees = bilan.Lues + bilan.SansNiveau;
+    if (bilan.SansNiveau * kUneSur > imprimees) {
+        throw common::Erreur(messages::ThesaurusIllisible(bilan.SansNiveau, imprimees), QString());
+    }
+    const int uniques = int(bilan.Uniques.size());
+    if (uniques > kUniquesAdmis && uniques * kUniqueSur > couples) {
+        throw common::Erreur(messages::ThesaurusCoupe(uniques, couples), QString());
+    }
 }
 
 /// A text that is empty rather than null.
@@ -152,18 +174,16 @@ void EcritThesaurus(const QSqlDatabase& base, const Thesaurus& thesaurus, const 
         interactions.Execute({i + 1, une.A + 1, une.B + 1, int(une.Niveau), int(une.Autre),
                               int(une.Conditionnelle), Present(une.Risque), Present(une.Precaution)});
     }
-    EcritInformations(base, thesaurus.Edition);
+    EcritInformations(base, thesaurus);
 }
 
 ChiffresThesaurus ImporteThesaurus(const QSqlDatabase& base, QByteArrayView texte)
 {
     const Thesaurus thesaurus = LitThesaurus(texte);
     if (thesaurus.Interactions.isEmpty()) {
-        throw common::Erreur(
-            QStringLiteral("Le fichier des interactions ne contient aucune interaction lisible. "
-                           "La banque n'a pas été remplacée."),
-            QString());
+        throw common::Erreur(messages::ThesaurusVide(), QString());
     }
+    ExigeEntier(thesaurus.Bilan, int(thesaurus.Interactions.size()));
     const LiensThesaurus liens = Lie(thesaurus, ChargeSubstances(base), ChargeFractions(base));
     EcritThesaurus(base, thesaurus, liens);
     const QString vendues = QStringLiteral(

@@ -33,7 +33,8 @@ QList<Fraction> ChargeFractions(const QSqlDatabase& base);
 void EcritThesaurus(const QSqlDatabase& base, const Thesaurus& thesaurus, const LiensThesaurus& liens);
 
 /// Reads the thesaurus, links it to the substances of the bank, whose public files are already written, and
-/// writes it there. Throws `common::Erreur` when a table refuses or the text holds no interaction.
+/// writes it there. Throws `common::Erreur` when a table refuses, or the text holds no interaction or is not
+/// whole.
 ChiffresThesaurus ImporteThesaurus(const QSqlDatabase& base, QByteArrayView texte);
 
 } // namespace banque

@@ -1,6 +1,8 @@
 #include "bank/ThesaurusLecture.h"
 
+#include "bank/LecteurLignes.h"
 #include "bank/ThesaurusTexte.h"
+#include "common/Texte8.h"
 
 #include <QRegularExpression>
 
@@ -318,7 +320,9 @@ DocumentImprime Lecteur::Lit(const QString& texte)
     for (qsizetype i = 0; i < premiere; ++i) {
         ligne_ += int(pages[i].count(u'\n'));
     }
-    document_.Edition = EditionDeCouverture(pages.mid(0, qMax<qsizetype>(premiere, 1)).join(u'\n'));
+    const QString couverture = pages.mid(0, qMax<qsizetype>(premiere, 1)).join(u'\n');
+    document_.Edition = EditionDeCouverture(couverture);
+    document_.VoiesLocales = VoiesLocalesDeCouverture(couverture);
     for (const QString& page : pages.mid(premiere)) {
         LitPage(page.split(u'\n'));
     }
@@ -330,7 +334,8 @@ DocumentImprime Lecteur::Lit(const QString& texte)
 
 DocumentImprime LitDocument(QByteArrayView texte)
 {
-    return Lecteur().Lit(QString::fromUtf8(texte));
+    return Lecteur().Lit(DetecteEncodage(texte) == Encodage::Utf8 ? QString::fromUtf8(texte)
+                                                                  : common::DepuisWindows1252(texte));
 }
 
 } // namespace banque

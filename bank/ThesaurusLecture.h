@@ -31,6 +31,7 @@ struct TitreImprime
 struct DocumentImprime
 {
     QString Edition;
+    QString VoiesLocales; ///< what the cover says of local routes; empty when it says nothing
     QList<TitreImprime> Titres;
     int CotesSansTitre = 0; ///< interactions before the first heading
 };

@@ -149,4 +149,12 @@ QString EditionDeCouverture(const QString& texte)
     return mois.match(texte).captured(1).toLower();
 }
 
+QString VoiesLocalesDeCouverture(const QString& texte)
+{
+    static const QRegularExpression paragraphe(
+        QStringLiteral("^[^\\S\\n]*■?[^\\S\\n]*(Les voies locales\\b.*(?:\\n.*\\S.*)*)"),
+        QRegularExpression::MultilineOption);
+    return TexteDeColonne(paragraphe.match(texte).captured(1).split(u'\n'));
+}
+
 } // namespace banque

@@ -33,4 +33,7 @@ QStringList MembresDeListe(const QString& texte);
 /// The edition that the cover names, as "septembre 2023"; empty without one.
 QString EditionDeCouverture(const QString& texte);
 
+/// The paragraph of the cover that says which interactions local routes have; empty without one.
+QString VoiesLocalesDeCouverture(const QString& texte);
+
 } // namespace banque

@@ -88,6 +88,37 @@ inline QString TropDeRefus(const QString& nom, int refusees, int lues, int ligne
         .arg(motif);
 }
 
+inline QString FichierCoupe(const QString& nom, int ligne)
+{
+    return QStringLiteral("Le fichier « %1 » est coupé à sa dernière ligne (%2) : téléchargez-le de nouveau. "
+                          "La banque n'a pas été remplacée.")
+        .arg(nom)
+        .arg(ligne);
+}
+
+inline QString ThesaurusVide()
+{
+    return QStringLiteral("Le fichier des interactions ne contient aucune interaction lisible. "
+                          "La banque n'a pas été remplacée.");
+}
+
+inline QString ThesaurusIllisible(int sansNiveau, int imprimees)
+{
+    return QStringLiteral(
+               "Le fichier des interactions n'a pas la forme attendue : %1 interactions sur %2 n'ont "
+               "pas de niveau lisible. La banque n'a pas été remplacée.")
+        .arg(sansNiveau)
+        .arg(imprimees);
+}
+
+inline QString ThesaurusCoupe(int uniques, int couples)
+{
+    return QStringLiteral("Le fichier des interactions n'est pas entier : %1 couples sur %2 n'y figurent que "
+                          "d'un seul côté. La banque n'a pas été remplacée.")
+        .arg(uniques)
+        .arg(couples);
+}
+
 inline QString RienDeCommercialise(const QString& nom)
 {
     return QStringLiteral(

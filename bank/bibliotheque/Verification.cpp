@@ -137,6 +137,28 @@ QString Reserve(const Interactions& interactions, const Prescrit& prescrit)
     return inconnues.isEmpty() ? QString() : messages::VerifieEnPartie(prescrit.Nom, connues, inconnues);
 }
 
+/// True for what is put on the skin, in the eye or in the ear, and nowhere else.
+bool EstLocal(const Prescrit& prescrit)
+{
+    static const QStringList locales = {QStringLiteral("cutanée"), QStringLiteral("ophtalmique"),
+                                        QStringLiteral("auriculaire")};
+    const QStringList voies = prescrit.Voies.split(u';');
+    return std::ranges::all_of(voies, [](const QString& voie) { return locales.contains(voie); });
+}
+
+/// What the document says of local routes as a whole, for those products of a couple that have no other.
+QString ReserveDesVoies(const Contenu& lu, std::initializer_list<const Prescrit*> produits)
+{
+    const QString regle = lu.Information(QStringLiteral("voies_locales"));
+    QString reserve;
+    for (const Prescrit* produit : produits) {
+        if (!regle.isEmpty() && EstLocal(*produit)) {
+            reserve += messages::VoieLocale(produit->Nom, produit->Voies.split(u';')) + QLatin1String("\r\n");
+        }
+    }
+    return reserve.isEmpty() ? reserve : reserve + messages::RegleDesVoies(regle);
+}
+
 /// The source ends the block that the program makes of a couple: behind the advice, and behind the risk when
 /// there is no advice.
 Couple Decrit(const Contenu& lu, const QList<Prescrit>& prescrits, const CoupleSignale& signale)
@@ -146,9 +168,12 @@ Couple Decrit(const Contenu& lu, const QList<Prescrit>& prescrits, const CoupleS
     QString risque = interaction.Risque;
     QString precaution = interaction.Precaution;
     risque.replace(u'\n', QLatin1String("\r\n"));
+    QString& fin = precaution.isEmpty() ? risque : precaution;
     const QString source = lu.Information(QStringLiteral("source_thesaurus"));
-    if (!source.isEmpty()) {
-        (precaution.isEmpty() ? risque : precaution) += QStringLiteral("\r\n\r\n") + messages::Source(source);
+    for (const QString& suite :
+         {ReserveDesVoies(lu, {&prescrits[signale.ProduitA], &prescrits[signale.ProduitB]}),
+          source.isEmpty() ? QString() : messages::Source(source)}) {
+        fin += suite.isEmpty() ? QString() : QStringLiteral("\r\n\r\n") + suite;
     }
     const auto produit = [&](int place) {
         return FicheProduit{prescrits[place].Id, EnWindows1252(prescrits[place].Nom)};

@@ -65,6 +65,17 @@ inline QString VerifieEnPartie(const QString& nom, const QStringList& connues, c
     return partie.arg(nom, connues.join(et), SubstancesInconnues(inconnues));
 }
 
+inline QString VoieLocale(const QString& nom, const QStringList& voies)
+{
+    return QStringLiteral("%1 : voie %2.").arg(nom, voies.join(QStringLiteral(" et ")));
+}
+
+inline QString RegleDesVoies(const QString& regle)
+{
+    return QStringLiteral("Le thésaurus indique : « %1 »")
+        .arg(QString(regle).replace(u'\n', QLatin1String("\r\n")));
+}
+
 inline QString Source(const QString& source)
 {
     return QStringLiteral("Source : ") + source;

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void niveaux();
     void produitsNonVerifies();
     void voies();
+    void voiesLocales();
     void sansThesaurus();
 
 private:
@@ -131,6 +132,24 @@ void TestBibliothequeInteractions::produitsNonVerifies()
                   QStringLiteral("FUROSEMIDE VELMONT 40 mg, comprimé sécable (non vérifié : composition "
                                  "absente de la banque)")}));
     poste_.Modifie(QStringLiteral("delete from thesaurus_substances where code = 90060"));
+}
+
+/// An ointment is reported, with what the document says of local routes; a tablet without.
+void TestBibliothequeInteractions::voiesLocales()
+{
+    const QString regle =
+        QStringLiteral("Le thésaurus indique : « Les voies locales ne comptent pas, sauf dans les "
+                       "cas suivants :\r\n- collyres de l'essai\r\n- gouttes de l'essai »");
+    QVERIFY(!Rapport({kMethotrexate, kIbuprofene}).contains(regle));
+    poste_.Modifie(
+        QStringLiteral("update specialites set voies = 'cutanée;ophtalmique' where cis = 90000045"));
+    const QString rapport = Rapport({kMethotrexate, kIbuprofene});
+    QCOMPARE(rapport.count(QStringLiteral(" : voie cutanée et ophtalmique.")), 1);
+    QVERIFY2(rapport.contains(regle), qPrintable(rapport));
+    QVERIFY(rapport.indexOf(regle) < rapport.indexOf(QStringLiteral("Source : ")));
+    poste_.Modifie(QStringLiteral("update specialites set voies = 'cutanée;orale' where cis = 90000045"));
+    QVERIFY(!Rapport({kMethotrexate, kIbuprofene}).contains(regle));
+    poste_.Modifie(QStringLiteral("update specialites set voies = 'orale' where cis = 90000045"));
 }
 
 /// Some interactions name every medication taken by mouth: those that the thesaurus does not know too, never

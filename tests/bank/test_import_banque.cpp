@@ -70,7 +70,9 @@ private Q_SLOTS:
     void FullDiskLeavesTheFormerBank();
     void OtherWordsForTheMarketFail();
     void OptionalAndUnknownFilesAreSaid();
+    void ACutFileIsRefused();
     void InteractionsComeWithTheRest();
+    void AThesaurusThatIsNotWholeIsRefused();
     void Arguments();
 };
 
@@ -309,6 +311,39 @@ void TestImportBanque::OptionalAndUnknownFilesAreSaid()
              (QStringList{messages::FichierFacultatifAbsent(QStringLiteral("CIS_HAS_SMR_bdpm.txt")),
                           messages::FichierInconnu(QStringLiteral("CIS_InfoImportantes.txt"))}));
     QCOMPARE(bilan.Fichiers.size(), 9);
+}
+
+/// A download that broke off ends within a line; a whole last line may lack its end.
+void TestImportBanque::ACutFileIsRefused()
+{
+    const Essai essai;
+    const QString chemin = essai.Fichier("CIS_CIP_bdpm.txt");
+    const QByteArray entier = common::LitFichier(chemin).chopped(1);
+    QVERIFY(!entier.endsWith('\n'));
+    common::EcritFichier(chemin, entier.left(entier.lastIndexOf('\n') + 12));
+    const QString dite = PhraseDEchec([&] { Importe(essai.Demandee()); });
+    QVERIFY2(dite.contains(QStringLiteral("« CIS_CIP_bdpm.txt » est coupé à sa dernière ligne")),
+             qPrintable(dite));
+    QVERIFY(essai.Intacte());
+    common::EcritFichier(chemin, entier);
+    QCOMPARE(Importe(essai.Demandee()).Fichiers.size(), 10);
+}
+
+void TestImportBanque::AThesaurusThatIsNotWholeIsRefused()
+{
+    const Essai essai;
+    Demande demande = essai.Demandee();
+    demande.Interactions = essai.Fichier("thesaurus.txt");
+    const QByteArray entier =
+        common::LitFichier(DossierExtrait() + QStringLiteral("/thesaurus/interactions.txt"));
+    common::EcritFichier(demande.Interactions, entier.left(entier.size() / 2));
+    const QString coupe = PhraseDEchec([&] { Importe(demande); });
+    QVERIFY2(coupe.contains(QStringLiteral("n'est pas entier")), qPrintable(coupe));
+    common::EcritFichier(demande.Interactions,
+                         QByteArray(entier).replace("Association DECONSEILLEE", "DECONSEILLEE"));
+    const QString illisible = PhraseDEchec([&] { Importe(demande); });
+    QVERIFY2(illisible.contains(QStringLiteral("n'ont pas de niveau lisible")), qPrintable(illisible));
+    QVERIFY(essai.Intacte());
 }
 
 void TestImportBanque::InteractionsComeWithTheRest()

@@ -22,6 +22,23 @@ private Q_SLOTS:
 
     void TheEditionIsThatOfTheCover() { QCOMPARE(thesaurus_.Edition, QStringLiteral("mars 2021")); }
 
+    void TheCoverTellsOfLocalRoutes()
+    {
+        QCOMPARE(
+            thesaurus_.VoiesLocales,
+            QStringLiteral("Les voies locales ne comptent pas, sauf dans les cas suivants :\n- collyres de "
+                           "l'essai\n- gouttes de l'essai"));
+    }
+
+    void TheOtherEncodingIsReadAsWell()
+    {
+        const QString texte = QString::fromUtf8(essai::Extrait(QStringLiteral("interactions.txt")));
+        const Thesaurus autre = LitThesaurus(common::VersWindows1252(texte));
+        QCOMPARE(autre.Bilan.Lues, 56);
+        QCOMPARE(autre.Bilan.SansNiveau, 0);
+        QVERIFY(autre.Place(QStringLiteral("BÊTA-BLOQUANTS")) >= 0);
+    }
+
     void BothPrintingsMakeOnePair()
     {
         const Interaction une = Trouve("AMIODARONE", "SIMVASTATINE");
