@@ -105,7 +105,7 @@ Nouveau NouveauDe(const storage::Jeu& ligne, const drugbank::ResolutionCip& prod
 {
     const QString code = ligne.Texte(kIdProduit);
     const bool aucun = code.isEmpty() || code == QLatin1String("0") || code == QLatin1String("1");
-    if (aucun || ligne.Texte(kConverti) == QLatin1String("1")) {
+    if (aucun) {
         return {};
     }
     const std::optional<qint32> produit = produitDuCip ? produitDuCip(code) : std::nullopt;
@@ -205,6 +205,9 @@ Conversion ConvertitMemorisee(storage::Base& medoc, const CleMemo& cle,
     storage::Transaction transaction(medoc);
     storage::Jeu lignes = medoc.Selection(Lignes(), condition.Texte, condition.Valeurs);
     for (; !lignes.Fin(); lignes.MoveNext()) {
+        if (lignes.Texte(kConverti) == QString::number(kProduit)) {
+            continue;
+        }
         const Nouveau nouveau = NouveauDe(lignes, produitDuCip);
         if (nouveau.Connu) {
             EcritNouveau(lignes, nouveau);

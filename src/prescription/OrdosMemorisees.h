@@ -54,8 +54,8 @@ void MarqueConvertie(storage::Base& medoc, const CleMemo& cle);
 
 struct Conversion
 {
-    int Converties = 0;
-    int Inconnues = 0; ///< lines left alone, since the bank does not know their code
+    int Converties = 0; ///< lines that were not marked as converted before
+    int Inconnues = 0;  ///< lines left alone, since the bank does not know their code
 };
 /// Gives lines of an old version the product id of their CIP code.
 Conversion ConvertitMemorisee(storage::Base& medoc, const CleMemo& cle,

@@ -244,7 +244,7 @@ void TestOrdosMemorisees::ConvertitLesAnciennes()
             return cip.endsWith(u"11"_s) ? std::optional(101) : std::nullopt;
         });
     QCOMPARE(demandes, (QStringList{u"3400930000011"_s, u"3400930000028"_s}));
-    QCOMPARE(conversion.Converties, 5);
+    QCOMPARE(conversion.Converties, 4); // the last one was already
     QCOMPARE(conversion.Inconnues, 1);
     const QString debut = u"HTA|X||1|*|0|"_s;
     QCOMPARE(Lignes(base.Medoc(), kLignes),

@@ -16,6 +16,9 @@ for (const [titre, id, converti] of [["DISPARU", 3400930, 0], ["ASPEGIC", 340093
 ajouter("Medoc", "ListeOrdos", ["Vieille", "*", 0, "0"]);
 ajouter("Medoc", "ListeOrdos", ["Sans format", "*", 0, "0"]);
 ajouter("Medoc", "OrdoEnr", ["Sans format", "NUL", "1", 1, "*", "0", 3400930, null]);
+ajouter("Medoc", "ListeOrdos", ["Perdue", "*", 0, "0"]);
+ajouter("Medoc", "OrdoEnr", ["Perdue", "PREVISCAN", "1", 1, "*", "0", 102, 1]);
+ajouter("Medoc", "OrdoEnr", ["Perdue", "DISPARU", "1", 1, "*", "0", 3400930, 0]);
 clic("FrmDepart.CmdNO");
 clic("FrmOrdo.CmdPharma");
 const demandes = () => appels().filter(appel => appel.nom.startsWith("InteractionService_")).map(appel => appel.arguments[1]);
@@ -55,4 +58,8 @@ charge(1);
 aucuneBoite();
 egal(demandes().pop(), [0], "sans format du tout, ce n'est pas un produit non plus");
 contient(rapport(), "Interactions non vérifiées pour : NUL", "et c'est dit");
+
+charge(2);
+boites([[/version 2\.0\.0/, "Oui"], [/ne reconnaît aucun code .*\nRien n'a été modifié/, "OK"]]);
+aucuneBoite();
 egal(fuites(), 0, "tout est rendu");
