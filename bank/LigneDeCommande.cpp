@@ -68,7 +68,9 @@ QString Usage()
 
 QString TexteBilan(const Bilan& bilan)
 {
-    QString texte = QStringLiteral("Données du %1\n").arg(bilan.DateDonnees);
+    QString texte =
+        QStringLiteral("Données du %1\n")
+            .arg(QDate::fromString(bilan.DateDonnees, Qt::ISODate).toString(QStringLiteral("dd/MM/yyyy")));
     for (const BilanFichier& fichier : bilan.Fichiers) {
         texte += LigneDuFichier(fichier);
     }

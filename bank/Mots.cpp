@@ -3,6 +3,8 @@
 #include "bank/Champs.h"
 #include "common/CleDeTri.h"
 
+#include <QHash>
+
 namespace banque {
 
 namespace {
@@ -63,6 +65,34 @@ template <typename Suite> QStringList Joints(const QStringList& mots, Suite&& su
     return joints;
 }
 
+/// A dose in grams as the milligrams that stand in the index for both ways of writing it.
+QStringList SansGrammes(const QStringList& mots)
+{
+    QStringList sans;
+    for (int i = 0; i < mots.size(); ++i) {
+        const bool grammes = EstChiffre(mots[i].front()) && mots.value(i + 1) == QLatin1String("G");
+        const QString milligrammes = grammes ? Milligrammes(mots[i]) : QString();
+        sans.append(milligrammes.isEmpty() ? mots[i] : milligrammes);
+        i += milligrammes.isEmpty() ? 0 : 1;
+    }
+    return sans;
+}
+
+/// The short words of a prescription as the names of the public files have them.
+QStringList EnEntier(QStringList mots)
+{
+    static const QHash<QString, QString> abreviations = {
+        {common::Replie(QStringLiteral("µg")), QStringLiteral("MICROGRAMME")},
+        {QStringLiteral("MCG"), QStringLiteral("MICROGRAMME")},
+        {QStringLiteral("CP"), QStringLiteral("COMPRIME")},
+        {QStringLiteral("CPR"), QStringLiteral("COMPRIME")},
+    };
+    for (QString& mot : mots) {
+        mot = abreviations.value(mot, mot);
+    }
+    return mots;
+}
+
 } // namespace
 
 QStringList Mots(const QString& nom)
@@ -109,8 +139,10 @@ QList<MotPlace> MotsATrouver(const QString& nom)
 QList<QStringList> Lectures(const QString& question)
 {
     const QStringList mots = Mots(question);
-    QList<QStringList> lectures{Joints(mots, EstMillier)};
-    for (const QStringList& autre : {Joints(mots, EstNombre), mots}) {
+    const QStringList milliers = Joints(mots, EstMillier);
+    QList<QStringList> lectures{SansGrammes(milliers)};
+    for (const QStringList& autre :
+         {milliers, Joints(mots, EstNombre), mots, EnEntier(SansGrammes(milliers))}) {
         if (!lectures.contains(autre)) {
             lectures.append(autre);
         }

@@ -21,8 +21,9 @@ struct MotPlace
 /// and "1000"), and grams as milligrams ("1 g" is "1", "G" and "1000").
 QList<MotPlace> MotsATrouver(const QString& nom);
 
-/// How the words of a question can be meant, most likely first: groups of three digits as one number, all
-/// neighbouring numbers as one being typed, every word by itself.
+/// How the words of a question can be meant, most likely first: grams as milligrams, groups of three digits
+/// as one number, all neighbouring numbers as one being typed, every word by itself, "cp" and "µg" as whole
+/// words.
 QList<QStringList> Lectures(const QString& question);
 
 /// A key that sorts names as a reader does, numbers by their size.

@@ -52,6 +52,12 @@ void TestRechercheBanque::Finds_data()
     cas("coamox 1 125", "COAMOXIVEL 1 g/125 mg");
     cas("amoxicilline 1000", "AMOXICILLINE GENERICA 1 g");
     cas("amoxicilline 1 g", "AMOXICILLINE GENERICA 1 g");
+    cas("metformine 1g", "METFORMINE GENERICA 1000 mg");
+    cas("metformine 1000 cp", "METFORMINE GENERICA 1000 mg");
+    cas("metformine 1 g cpr", "METFORMINE GENERICA 1000 mg");
+    cas("omeprazole 20 g", "OMEPRAZOLE VELMONT 20 mg");
+    cas("levothyroxine 75 µg", "LEVOTHYROXINE VELMONT 75 microgrammes");
+    cas("levothyroxine 75mcg", "LEVOTHYROXINE VELMONT 75 microgrammes");
     cas("1200000", "BENZATHINE BENZYLPENICILLINE VELMONT 1 200 000 UI");
     cas("1 200 000", "BENZATHINE BENZYLPENICILLINE VELMONT 1 200 000 UI");
     cas("ramipril 2.5", "RAMIPRIL VELMONT 2,5 mg");

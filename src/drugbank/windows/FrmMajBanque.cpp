@@ -305,7 +305,7 @@ void FrmMajBanque::GardeLesHauteurs()
 {
     for (QLabel* texte : findChildren<QLabel*>()) {
         if (texte->wordWrap()) {
-            texte->setMinimumHeight(texte->heightForWidth(width() - kHorsTexte));
+            texte->setMinimumHeight(qMax(0, texte->heightForWidth(width() - kHorsTexte))); // -1 without text
         }
     }
 }
