@@ -4,6 +4,7 @@
 #include "Ebauche.h"
 #include "Valeurs.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace jet {
@@ -14,6 +15,8 @@ namespace {
 
 constexpr std::size_t kCompteurJet3 = 16;
 constexpr std::size_t kCompteurJet4 = 20;
+constexpr std::size_t kRangsJet3 = 21;
+constexpr std::size_t kRangsJet4 = 41;
 constexpr unsigned int kColonnesMax = 255;
 constexpr std::uint32_t kEntreAvances = 500;
 
@@ -76,6 +79,7 @@ Table::Table(const Fichier& fichier, MdbCatalogEntry& entree) : fichier_(fichier
 {
     const Octets page = fichier.LitPage(static_cast<std::uint32_t>(entree.table_pg));
     dernierCompteur_ = Nombre(&page[fichier.Jet3() ? kCompteurJet3 : kCompteurJet4], 4);
+    rangs_ = static_cast<int>(Nombre(&page[fichier.Jet3() ? kRangsJet3 : kRangsJet4], 2));
     table_.reset(LitDefinition(entree));
     if (table_->num_cols == 0 || table_->num_cols > kColonnesMax ||
         table_->columns->len != table_->num_cols) {
@@ -162,8 +166,47 @@ void Table::Decoupe(const Emplacement& ligne)
 {
     const int champs =
         mdb_crack_row(table_.get(), static_cast<int>(ligne.Debut), ligne.Longueur, champs_.data());
-    if (champs != static_cast<int>(table_->num_cols)) {
+    if (champs <= 0 || champs > std::max(rangs_, static_cast<int>(table_->num_cols))) {
         throw Defaut("row that cannot be taken apart");
+    }
+    OteAbsents(champs, FinDesFixes(ligne));
+}
+
+/// How far the numbers of the row in hand reach: to its first text.
+std::size_t Table::FinDesFixes(const Emplacement& ligne) const
+{
+    const auto* debut = &fichier_.Page()[ligne.Debut];
+    for (std::size_t i = 0; i < champs_.size(); ++i) {
+        const MdbColumn& colonne = Colonne(static_cast<qsizetype>(i));
+        if (!colonne.is_fixed && colonne.var_col_num == 0 && champs_[i].value) {
+            return static_cast<std::size_t>(static_cast<const unsigned char*>(champs_[i].value) - debut);
+        }
+    }
+    return 0;
+}
+
+/// A row has the columns that the table had when it was written, those taken away since among them: one that
+/// came later is null in it. A damaged number of columns would make nulls too, where the row has values.
+void Table::OteAbsents(int rangs, std::size_t finDesFixes)
+{
+    const std::size_t tete = fichier_.Jet3() ? 1 : 2;
+    for (std::size_t i = 0; i < champs_.size(); ++i) {
+        const MdbColumn& colonne = Colonne(static_cast<qsizetype>(i));
+        MdbField& champ = champs_[i];
+        const bool presente = colonne.col_num < rangs;
+        const bool occupee = colonne.is_fixed ? colonne.col_type != MDB_BOOL &&
+                                                    tete + static_cast<std::size_t>(colonne.fixed_offset) <
+                                                        finDesFixes
+                                              : champ.value != nullptr;
+        if (!presente && occupee) {
+            throw Defaut("row with more values than columns");
+        }
+        if (presente && !champ.value) {
+            throw Defaut("row with fewer values than columns");
+        }
+        if (!presente) {
+            champ = {nullptr, 0, 0, 1, champ.is_fixed, champ.colnum, champ.offset};
+        }
     }
 }
 

@@ -37,6 +37,8 @@ private:
     Emplacement Suis(const Emplacement& pointeur) const;
     const MdbColumn& Colonne(qsizetype rang) const;
     void Decoupe(const Emplacement& ligne);
+    std::size_t FinDesFixes(const Emplacement& ligne) const;
+    void OteAbsents(int rangs, std::size_t finDesFixes);
     void EcrisLigne(Ebauche& ebauche, const storage::PlanJet& plan, const Emplacement& ligne);
     void EcrisValeur(Ebauche& ebauche, int vers, const MdbColumn& colonne, const MdbField& champ);
     void EcrisFixe(Ebauche& ebauche, int vers, int type, Octets valeur);
@@ -46,6 +48,7 @@ private:
     std::vector<MdbField> champs_;
     std::vector<std::string> textes_; ///< of the row in hand, by our column
     std::uint32_t dernierCompteur_ = 0;
+    int rangs_ = 0; ///< columns that the table ever had
     std::uint32_t lues_ = 0;
 };
 
