@@ -5,6 +5,7 @@
 #include "outside/Boites.h"
 #include "startup/InscriptionMedecin.h"
 #include "startup/messages.h"
+#include "storage/PatientsAnciens.h"
 
 #include <QFileInfo>
 
@@ -73,7 +74,8 @@ void NettoieCheminData(const Chemins& chemins)
     for (const QString& nom : {QStringLiteral("Copie de Ordo.mdb"), QStringLiteral("Ancien_Ordo.mdb")}) {
         common::Tolere([&] { common::SupprimeFichier(Joint(chemins.CheminData, nom)); });
     }
-    if (FichierExiste(ordo)) {
+    if (FichierExiste(ordo) &&
+        !storage::GardePatients(ordo, Joint(chemins.CheminData, QStringLiteral("Medoc.mdb")))) {
         common::Tolere([&] { common::CopieFichier(ModeleOrdo(chemins), ordo); });
         common::Tolere([&] { common::SupprimeFichier(ordo); });
     }

@@ -2,6 +2,7 @@
 
 #include "common/Fichiers.h"
 #include "storage/ConversionJet.h"
+#include "storage/PatientsAnciens.h"
 #include "storage/messages.h"
 
 #include <QFileInfo>
@@ -11,12 +12,25 @@ namespace storage {
 
 Base& Bases::Medoc(const QString& cheminTravail)
 {
-    return Ouverte(medoc_, FichierMedoc(cheminTravail), GenreBase::Medoc);
+    const QString chemin = FichierMedoc(cheminTravail);
+    if (!EstOuverte(medoc_, chemin)) {
+        medoc_.reset();
+        ConvertitSiJet(chemin, GenreBase::Medoc);
+        PrendPatientsDeLaRacine(chemin, FichierOrdo(cheminTravail));
+        medoc_ = std::make_unique<Base>(chemin, GenreBase::Medoc);
+    }
+    return *medoc_;
 }
 
 Base& Bases::Ordo(const QString& cheminMedecin)
 {
-    return Ouverte(ordo_, FichierOrdo(cheminMedecin), GenreBase::Ordo);
+    const QString chemin = FichierOrdo(cheminMedecin);
+    if (!EstOuverte(ordo_, chemin)) {
+        ordo_.reset();
+        ConvertitSiJet(chemin, GenreBase::Ordo);
+        ordo_ = std::make_unique<Base>(chemin, GenreBase::Ordo);
+    }
+    return *ordo_;
 }
 
 bool Bases::MedocExiste(const QString& cheminTravail)
@@ -39,14 +53,17 @@ QString Bases::FichierOrdo(const QString& cheminMedecin)
     return common::Joint(cheminMedecin, QStringLiteral("Ordo.mdb"));
 }
 
-Base& Bases::Ouverte(std::unique_ptr<Base>& base, const QString& chemin, GenreBase genre)
+bool Bases::EstOuverte(const std::unique_ptr<Base>& base, const QString& chemin)
 {
-    if (!base || base->Chemin() != chemin) {
-        base.reset();
-        ConvertitSiJet(chemin, genre);
-        base = std::make_unique<Base>(chemin, genre);
+    return base && base->Chemin() == chemin;
+}
+
+void Bases::PrendPatientsDeLaRacine(const QString& medoc, const QString& ordo)
+{
+    if (common::FichierExiste(ordo) && PatientsSontAilleurs(medoc)) {
+        ConvertitSiJet(ordo, GenreBase::Ordo);
+        PrendPatients(medoc, ordo);
     }
-    return *base;
 }
 
 void Bases::ConvertitSiJet(const QString& chemin, GenreBase genre)

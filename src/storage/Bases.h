@@ -39,7 +39,9 @@ public:
 private:
     static QString FichierMedoc(const QString& cheminTravail);
     static QString FichierOrdo(const QString& cheminMedecin);
-    Base& Ouverte(std::unique_ptr<Base>& base, const QString& chemin, GenreBase genre);
+    static bool EstOuverte(const std::unique_ptr<Base>& base, const QString& chemin);
+    /// The oldest layouts kept the patients in the "Ordo.mdb" of the tree's root.
+    void PrendPatientsDeLaRacine(const QString& medoc, const QString& ordo);
 
     /// A Jet file that was not converted, as it stood then.
     struct Refus

@@ -1,9 +1,9 @@
 #include "storage/ConversionJet.h"
 
 #include "common/Fichiers.h"
-#include "common/Tolere.h"
 #include "outside/Processus.h"
 #include "storage/EbaucheJet.h"
+#include "storage/EchangeJet.h"
 #include "storage/EnteteJet.h"
 #include "storage/ProtocoleJet.h"
 #include "storage/RefusJet.h"
@@ -18,8 +18,6 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QTimer>
-
-#include <filesystem>
 
 namespace storage {
 
@@ -182,44 +180,13 @@ void Lit(const QString& chemin, GenreBase genre, EbaucheJet& ebauche, const Anno
     }
 }
 
-/// "Medoc (Jet).mdb" beside "Medoc.mdb", or "Medoc 2 (Jet).mdb" when there is one already.
-QString NomDeGarde(const QString& chemin)
+/// The lock was made just now, by the clock of the disk on which both files stand.
+void ExigeFermee(const QString& chemin, const QLockFile& verrou)
 {
-    const QFileInfo info(chemin);
-    const QString debut = common::Joint(info.path(), info.completeBaseName());
-    const QString fin = QStringLiteral(" (Jet).mdb");
-    QString nom = debut + fin;
-    for (int numero = 2; QFileInfo::exists(nom); ++numero) {
-        nom = debut + QStringLiteral(" %1").arg(numero) + fin;
-    }
-    return nom;
-}
-
-/// A second name for the same file where the disk knows such; else a copy.
-void Garde(const QString& chemin, const QString& garde)
-{
-    std::error_code refus;
-    std::filesystem::create_hard_link(QFile(chemin).filesystemFileName(), QFile(garde).filesystemFileName(),
-                                      refus);
-    if (refus) {
-        common::CopieFichier(chemin, garde);
-    }
-}
-
-/// At no moment there is no file of that name.
-void Echange(const QString& chemin, const QString& ebauche)
-{
-    // What the former file allowed the others of the practice, the new one does; its owner may write.
-    QFile::setPermissions(ebauche, QFile::permissions(chemin) | QFile::WriteOwner | QFile::WriteUser);
-    const QString garde = NomDeGarde(chemin);
-    try {
-        Garde(chemin, garde);
-        // A journal left by some other file would be played into the new one.
-        common::SupprimeFichier(chemin + QStringLiteral("-journal"));
-        common::MetEnPlace(ebauche, chemin);
-    } catch (...) {
-        common::Tolere([&] { common::SupprimeFichier(garde); });
-        throw;
+    const QString access = VerrouAccess(chemin, QFileInfo(verrou.fileName()).lastModified());
+    if (!access.isEmpty()) {
+        throw common::Erreur(messages::JetOuverte(QFileInfo(chemin).fileName(), access),
+                             common::CheminAffiche(chemin));
     }
 }
 
@@ -231,13 +198,17 @@ void Convertit(const QString& chemin, GenreBase genre, const ReglagesConversion&
     if (!ExigeLisible(chemin)) {
         return; // another station has converted it meanwhile
     }
+    ExigeFermee(chemin, verrou);
+    if (verrou.isLocked()) {
+        OteRestesJet(chemin);
+    }
     const Etat avant = EtatDe(chemin);
     EbaucheJet ebauche(chemin);
     Lit(chemin, genre, ebauche, annonce, reglages);
     if (EtatDe(chemin) != avant) {
         throw Panne(messages::BaseVerrouillee, chemin);
     }
-    Echange(chemin, ebauche.Chemin());
+    EchangeJet(chemin, ebauche.Chemin());
 }
 
 } // namespace

@@ -30,6 +30,12 @@ TypeColonne TypeDe(TypeColonne voulu, TypeJet type)
     return TypeColonne::Texte;
 }
 
+/// `BddMed` has two columns that nothing reads: whatever they hold is taken as it stands.
+bool EstQuelconque(const Table& voulue, qsizetype colonne)
+{
+    return voulue.Nom == QLatin1String("BddMed") && (colonne == 1 || colonne == 2);
+}
+
 QStringList Noms(const TableJet& jet)
 {
     QStringList noms;
@@ -67,7 +73,7 @@ std::optional<PlanJet> PlanDe(const TableJet& jet, GenreBase genre)
             continue;
         }
         const TypeJet type = jet.Colonnes[places[i]].Type;
-        if (type == TypeJet::Autre) {
+        if (type == TypeJet::Autre && !EstQuelconque(*voulue, i)) {
             return {};
         }
         const Colonne& colonne = voulue->Colonnes[i];

@@ -135,6 +135,15 @@ inline QString JetEnLectureSeule(const QString& nom)
         .arg(nom);
 }
 
+inline QString JetOuverte(const QString& nom, const QString& verrou)
+{
+    return QStringLiteral(
+               "La base de données « %1 » semble ouverte dans l'ancien programme : le fichier « %2 » "
+               "est à côté d'elle. Quittez l'ancien programme sur tous les postes, puis recommencez ; "
+               "s'il n'est ouvert nulle part, supprimez « %2 ». Elle n'a pas été modifiée.")
+        .arg(nom, verrou);
+}
+
 inline QString LecteurAbsent(const QString& nom)
 {
     return QStringLiteral("La base de données « %1 » est au format Access (Jet), et le programme qui la "

@@ -116,6 +116,11 @@ void Ebauche::LieTexte(int colonne, const std::string& utf8)
                               SQLITE_UTF8));
 }
 
+void Ebauche::LieOctets(int colonne, const std::string& octets)
+{
+    Exige(sqlite3_bind_blob64(insere_.get(), colonne + 1, octets.data(), octets.size(), SQLITE_STATIC));
+}
+
 void Ebauche::AjouteLigne()
 {
     const int code = sqlite3_step(insere_.get());

@@ -38,6 +38,7 @@ public:
     void LieEntier(int colonne, std::int64_t valeur);
     void LieReel(int colonne, double valeur);
     void LieTexte(int colonne, const std::string& utf8);
+    void LieOctets(int colonne, const std::string& octets);
     void AjouteLigne();
     /// The table ends; its counter goes on behind `dernier`.
     void Finit(const storage::Table& table, std::int64_t dernier);

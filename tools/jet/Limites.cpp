@@ -1,6 +1,8 @@
 #include "Limites.h"
 
+#include <filesystem>
 #include <initializer_list>
+#include <system_error>
 
 #include <glib.h>
 
@@ -18,12 +20,20 @@ namespace {
 
 constexpr unsigned long long kMemoire = 512ULL * 1024 * 1024;
 constexpr unsigned long long kSecondes = 120;
+constexpr unsigned long long kOctetsParSeconde = 1024ULL * 1024; // of a very slow machine
+
+unsigned long long Secondes(const char* fichier)
+{
+    std::error_code refus;
+    const auto taille = std::filesystem::file_size(fichier, refus);
+    return refus ? kSecondes : kSecondes + taille / kOctetsParSeconde;
+}
 
 } // namespace
 
 #ifdef _WIN32
 
-void PoseLimites()
+void PoseLimites(const char* fichier)
 {
     constexpr unsigned long long kCentNanosecondes = 10000000;
     _setmode(_fileno(stdout), _O_BINARY);
@@ -31,7 +41,7 @@ void PoseLimites()
     JOBOBJECT_EXTENDED_LIMIT_INFORMATION limites{};
     limites.BasicLimitInformation.LimitFlags =
         JOB_OBJECT_LIMIT_PROCESS_MEMORY | JOB_OBJECT_LIMIT_PROCESS_TIME;
-    limites.BasicLimitInformation.PerProcessUserTimeLimit.QuadPart = kSecondes * kCentNanosecondes;
+    limites.BasicLimitInformation.PerProcessUserTimeLimit.QuadPart = Secondes(fichier) * kCentNanosecondes;
     limites.ProcessMemoryLimit = kMemoire;
     const HANDLE tache = CreateJobObjectW(nullptr, nullptr);
     SetInformationJobObject(tache, JobObjectExtendedLimitInformation, &limites, sizeof limites);
@@ -40,10 +50,11 @@ void PoseLimites()
 
 #else
 
-void PoseLimites()
+void PoseLimites(const char* fichier)
 {
     [[maybe_unused]] const rlimit memoire{kMemoire, kMemoire};
-    const rlimit secondes{kSecondes, kSecondes};
+    const unsigned long long duree = Secondes(fichier);
+    const rlimit secondes{duree, duree};
     const rlimit aucune{0, 0};
 #ifndef SANS_LIMITE_DE_MEMOIRE
     setrlimit(RLIMIT_AS, &memoire);

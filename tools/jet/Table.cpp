@@ -32,6 +32,7 @@ TypeJet TypeDe(const MdbColumn& colonne)
     case MDB_FLOAT:
         return TypeJet::Simple;
     case MDB_DOUBLE:
+    case MDB_MONEY:
         return TypeJet::Double;
     case MDB_DATETIME:
         return TypeJet::Date;
@@ -62,6 +63,15 @@ double Double(Octets valeur)
 {
     const std::uint64_t haut = Nombre(&valeur[4], 4);
     return std::bit_cast<double>(haut << 32 | Nombre(valeur.data(), 4));
+}
+
+/// Ten-thousandths.
+double Monnaie(Octets valeur)
+{
+    constexpr double kDixMillieme = 10000;
+    const std::uint64_t haut = Nombre(&valeur[4], 4);
+    return static_cast<double>(static_cast<std::int64_t>(haut << 32 | Nombre(valeur.data(), 4))) /
+           kDixMillieme;
 }
 
 MdbTableDef* LitDefinition(MdbCatalogEntry& entree)
@@ -194,10 +204,10 @@ void Table::OteAbsents(int rangs, std::size_t finDesFixes)
         const MdbColumn& colonne = Colonne(static_cast<qsizetype>(i));
         MdbField& champ = champs_[i];
         const bool presente = colonne.col_num < rangs;
-        const bool occupee = colonne.is_fixed ? colonne.col_type != MDB_BOOL &&
-                                                    tete + static_cast<std::size_t>(colonne.fixed_offset) <
-                                                        finDesFixes
-                                              : champ.value != nullptr;
+        const bool occupee = colonne.is_fixed
+                                 ? colonne.col_type != MDB_BOOL &&
+                                       tete + static_cast<std::size_t>(colonne.fixed_offset) < finDesFixes
+                                 : champ.value != nullptr;
         if (!presente && occupee) {
             throw Defaut("row with more values than columns");
         }
@@ -235,18 +245,35 @@ void Table::EcrisValeur(Ebauche& ebauche, int vers, const MdbColumn& colonne, co
         throw Defaut("value out of its page");
     }
     const Octets valeur(debut, static_cast<std::size_t>(champ.siz));
+    if (TypeDe(colonne) == TypeJet::Autre) {
+        EcrisOctets(ebauche, vers, colonne.col_type, valeur);
+        return;
+    }
     if (colonne.col_type != MDB_TEXT && colonne.col_type != MDB_MEMO) {
         EcrisFixe(ebauche, vers, colonne.col_type, valeur);
         return;
     }
     std::string& texte = textes_[static_cast<std::size_t>(vers)];
     texte.clear();
-    if (colonne.col_type == MDB_MEMO) {
+    if (colonne.col_type == MDB_MEMO && !valeur.empty()) {
         fichier_.Texte().Ajoute(texte, fichier_.LitMemo(valeur));
     } else {
         fichier_.Texte().Ajoute(texte, valeur);
     }
     ebauche.LieTexte(vers, texte);
+}
+
+/// A picture, a binary value, a decimal: what no column that we read holds.
+void Table::EcrisOctets(Ebauche& ebauche, int vers, int type, Octets valeur)
+{
+    std::string& octets = textes_[static_cast<std::size_t>(vers)];
+    if (type == MDB_OLE) {
+        const std::vector<unsigned char> longs = fichier_.LitMemo(valeur);
+        octets.assign(longs.begin(), longs.end());
+    } else {
+        octets.assign(valeur.begin(), valeur.end());
+    }
+    ebauche.LieOctets(vers, octets);
 }
 
 void Table::EcrisFixe(Ebauche& ebauche, int vers, int type, Octets valeur)
@@ -270,6 +297,9 @@ void Table::EcrisFixe(Ebauche& ebauche, int vers, int type, Octets valeur)
     case MDB_DATETIME:
         textes_[static_cast<std::size_t>(vers)] = TexteDeDate(Double(valeur));
         ebauche.LieTexte(vers, textes_[static_cast<std::size_t>(vers)]);
+        break;
+    case MDB_MONEY:
+        ebauche.LieReel(vers, Monnaie(valeur));
         break;
     default:
         ebauche.LieReel(vers, Double(valeur));

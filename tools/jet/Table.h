@@ -41,6 +41,7 @@ private:
     void OteAbsents(int rangs, std::size_t finDesFixes);
     void EcrisLigne(Ebauche& ebauche, const storage::PlanJet& plan, const Emplacement& ligne);
     void EcrisValeur(Ebauche& ebauche, int vers, const MdbColumn& colonne, const MdbField& champ);
+    void EcrisOctets(Ebauche& ebauche, int vers, int type, Octets valeur);
     void EcrisFixe(Ebauche& ebauche, int vers, int type, Octets valeur);
 
     const Fichier& fichier_;

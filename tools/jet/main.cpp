@@ -29,7 +29,7 @@ int main(int nombre, char** arguments)
         std::fprintf(stderr, "scriptelle-jet FILE DRAFT %s|%s\n", protocole::kMedoc, protocole::kOrdo);
         return protocole::kUsage;
     }
-    jet::PoseLimites();
+    jet::PoseLimites(arguments[1]);
     jet::OublieReglages();
     try {
         jet::Convertit(arguments[1], arguments[2],
