@@ -5,6 +5,13 @@
 
 namespace banque::bibliotheque {
 
+namespace {
+
+/// Who asks in a hurry still leaves the loading its time, and no window feels this.
+constexpr std::chrono::milliseconds kPatience(5);
+
+} // namespace
+
 Session::Session(const QString& fichier)
     : fichier_(fichier),
       chargement_(std::async(std::launch::async, &Session::Charge, fichier, std::cref(arret_))),
@@ -31,8 +38,7 @@ try {
 
 Entier Session::Statut()
 {
-    const bool fini =
-        !chargement_.valid() || chargement_.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    const bool fini = !chargement_.valid() || chargement_.wait_for(kPatience) == std::future_status::ready;
     return fini ? Attends() : kDemarrage;
 }
 

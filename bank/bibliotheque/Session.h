@@ -27,7 +27,7 @@ public:
 
     const QString& Fichier() const { return fichier_; }
 
-    /// 14 while it loads, then what became of it.
+    /// 14 while it loads, then what became of it. Waits for a few milliseconds.
     Entier Statut();
     /// The same once it has loaded.
     Entier Attends();

@@ -262,4 +262,9 @@ inline QString RechercheSansBanque()
     return QStringLiteral("Rien n'a pu être cherché : la banque de médicaments ne répond pas.");
 }
 
+inline QString RechercheEnAttente()
+{
+    return QStringLiteral("La banque de médicaments démarre : la recherche sera faite dès qu'elle répond.");
+}
+
 } // namespace medication::messages

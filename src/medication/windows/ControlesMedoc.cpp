@@ -180,8 +180,7 @@ QLayout* ColonneRecherche(ControlesMedoc& c, QDialog* f)
     colonne->addSpacing(style::kDansGroupe);
     colonne->addWidget(style::Titre({}, QStringLiteral("P&harmacie"), f, c.TV));
     colonne->addWidget(c.TV, 1);
-    c.LblSansBanque =
-        style::Avertissement(QStringLiteral("LblSansBanque"), messages::RechercheSansBanque(), f);
+    c.LblSansBanque = style::Avertissement(QStringLiteral("LblSansBanque"), {}, f);
     c.LblSansBanque->setWordWrap(true);
     c.LblSansBanque->hide();
     colonne->addWidget(c.LblSansBanque);

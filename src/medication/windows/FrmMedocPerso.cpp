@@ -114,6 +114,8 @@ void FrmMedoc::CherchePlusTard()
 
 void FrmMedoc::MontreSansBanque()
 {
+    const bool enCours = contexte_.Banque.BanqueInitialisee == 0;
+    c_.LblSansBanque->setText(enCours ? messages::RechercheEnAttente() : messages::RechercheSansBanque());
     const bool cherche = ModeBanque() && !c_.TxtCherche->text().trimmed().isEmpty();
     c_.LblSansBanque->setVisible(cherche && arbre_.rowCount() == 0 &&
                                  !drugbank::BanqueRepond(contexte_.Banque));
@@ -121,8 +123,11 @@ void FrmMedoc::MontreSansBanque()
 
 void FrmMedoc::RattrapeRecherche()
 {
-    if (!c_.LblSansBanque->isHidden() && drugbank::BanqueRepond(contexte_.Banque)) {
-        c_.LblSansBanque->hide();
+    if (c_.LblSansBanque->isHidden()) {
+        return;
+    }
+    MontreSansBanque();
+    if (drugbank::BanqueRepond(contexte_.Banque)) {
         EntreeRecherche();
     }
 }

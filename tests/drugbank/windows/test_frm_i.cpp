@@ -80,6 +80,8 @@ void TestFrmI::ItTakesNoFocusAndStays()
     QVERIFY(fenetre.testAttribute(Qt::WA_ShowWithoutActivating));
     QTest::keyClick(&fenetre, Qt::Key_Escape);
     QVERIFY(fenetre.isVisible());
+    QVERIFY(!fenetre.close());
+    QVERIFY(fenetre.isVisible());
 }
 
 void TestFrmI::TheDoctorMayGiveUp()

@@ -20,6 +20,7 @@ private Q_SLOTS:
     {
         PrepareBanque();
         Banque().Acces.reset();
+        Banque().BanqueInitialisee = 1;
     }
     void cleanup() { Range(); }
 
@@ -56,6 +57,17 @@ private Q_SLOTS:
         QVERIFY(!Dit() && Noeuds() == 2);
         Cherche(u"XYZ"_s);
         QVERIFY(!Dit() && Noeuds() == 0); // the bank has none
+    }
+
+    void AStartUnderWayIsWaitedFor()
+    {
+        Banque().BanqueInitialisee = 0;
+        Cherche(u"DOLI"_s);
+        QCOMPARE(Trouve<QLabel>("LblSansBanque")->text(), medication::messages::RechercheEnAttente());
+        Banque().BanqueInitialisee = 1;
+        BanqueChange();
+        QVERIFY(Dit());
+        QCOMPARE(Trouve<QLabel>("LblSansBanque")->text(), medication::messages::RechercheSansBanque());
     }
 
     void ATextTooShortIsNotSearchedLater()
