@@ -47,7 +47,7 @@ bool EstUneBase(const QString& chemin)
 bool EstPassager(const QString& nom)
 {
     static const QRegularExpression passager(
-        QStringLiteral(R"(^(Sauvegardes|Transfert\.[a-z]+)/|(^|/)\.|-journal$|\.(sqlar|lock|tmp)$)"),
+        QStringLiteral(R"(^(Sauvegardes|Transfert\.[a-z]+)/|(^|/)\.|-journal$|\.(sqlar|lock|ldb|tmp)$)"),
         QRegularExpression::CaseInsensitiveOption);
     return passager.match(nom).hasMatch();
 }

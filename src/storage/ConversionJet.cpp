@@ -78,6 +78,13 @@ Etat EtatDe(const QString& chemin)
     return {info.size(), info.lastModified()};
 }
 
+void ExigeInchangee(const QString& chemin, const Etat& avant)
+{
+    if (EtatDe(chemin) != avant) {
+        throw Panne(QFileInfo::exists(chemin) ? messages::BaseVerrouillee : messages::BaseAbsente, chemin);
+    }
+}
+
 /// False when it is no Jet file; throws when it is one that cannot be read.
 bool ExigeLisible(const QString& chemin)
 {
@@ -204,10 +211,14 @@ void Convertit(const QString& chemin, GenreBase genre, const ReglagesConversion&
     }
     const Etat avant = EtatDe(chemin);
     EbaucheJet ebauche(chemin);
-    Lit(chemin, genre, ebauche, annonce, reglages);
-    if (EtatDe(chemin) != avant) {
-        throw Panne(messages::BaseVerrouillee, chemin);
+    try {
+        Lit(chemin, genre, ebauche, annonce, reglages);
+    } catch (const RefusJet&) {
+        // What the reader found says nothing of a file that was written or went away meanwhile.
+        ExigeInchangee(chemin, avant);
+        throw;
     }
+    ExigeInchangee(chemin, avant);
     EchangeJet(chemin, ebauche.Chemin());
 }
 

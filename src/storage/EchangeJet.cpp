@@ -112,14 +112,14 @@ void OteRestesJet(const QString& chemin)
 
 QString VerrouAccess(const QString& chemin, const QDateTime& maintenant)
 {
-    constexpr int kUnJour = 24 * 60 * 60;
+    constexpr int kUneSemaine = 7 * 24 * 60 * 60; // a station may stay on over the holidays
     const QFileInfo info(chemin);
     // The name's capitals vary: the filter does not see them.
     const QFileInfoList verrous =
         QDir(info.path())
             .entryInfoList({info.completeBaseName() + QStringLiteral(".ldb")}, QDir::Files | QDir::Hidden);
     for (const QFileInfo& verrou : verrous) {
-        if (!maintenant.isValid() || verrou.lastModified().secsTo(maintenant) < kUnJour) {
+        if (!maintenant.isValid() || verrou.lastModified().secsTo(maintenant) < kUneSemaine) {
             return verrou.fileName();
         }
     }

@@ -14,7 +14,7 @@ void EchangeJet(const QString& chemin, const QString& ebauche);
 void OteRestesJet(const QString& chemin);
 
 /// The file by which the former program says that it has this database open: "Medoc.ldb" beside "Medoc.mdb",
-/// made within the last day before `maintenant`; empty when there is none. The former program takes it away
+/// made within the last week before `maintenant`; empty when there is none. The former program takes it away
 /// when it closes; an older one was left by a program that came to a bad end.
 QString VerrouAccess(const QString& chemin, const QDateTime& maintenant);
 

@@ -28,7 +28,7 @@ enum Code {
     kEndommage = 4,    ///< it holds what no sound file holds
     kDisquePlein = 5,  ///< of the draft
     kLectureSeule = 6, ///< the draft cannot be made
-    kDisqueEnPanne = 7 ///< the draft cannot be written
+    kDisqueEnPanne = 7 ///< the draft cannot be written, or the Jet file not read to its end
 };
 
 } // namespace storage::jet

@@ -90,7 +90,7 @@ void TestEchangeJet::PasseSurUnVieuxVerrou()
     const CopieJet copie(QStringLiteral("petit/Medoc.mdb"));
     const QString verrou = common::Joint(copie.Dossier(), QStringLiteral("Medoc.ldb"));
     common::EcritFichier(verrou, QByteArray(64, ' '));
-    Date(verrou, QFileInfo(copie.Chemin()).lastModified().addDays(-2));
+    Date(verrou, QFileInfo(copie.Chemin()).lastModified().addDays(-8));
     QCOMPARE(copie.Convertit(), QString());
     QVERIFY(QFileInfo::exists(verrou));
 }

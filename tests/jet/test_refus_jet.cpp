@@ -51,6 +51,7 @@ private Q_SLOTS:
     void RefuseUneBaseProtegee();
     void RefuseUnMauvaisLecteur_data();
     void RefuseUnMauvaisLecteur();
+    void DitQueLeSupportEstParti();
     void RefuseUneBaseSansNosTables();
     void RefuseUneTableRenommeeParAccident();
     void SupporteDesCopiesAbimees();
@@ -188,6 +189,19 @@ void TestRefusJet::RefuseUnMauvaisLecteur()
     QVERIFY2(phrase.contains(attendu), qPrintable(phrase));
     QVERIFY(phrase.contains(QStringLiteral("Medoc.mdb")));
     QVERIFY(copie.Intacte());
+}
+
+/// A stick that is pulled out is no damaged file: its reading is tried again.
+void TestRefusJet::DitQueLeSupportEstParti()
+{
+    if (!DonneesJet::Presentes()) {
+        QSKIP("the Jet files are not here");
+    }
+    const CopieJet copie(kPetit);
+    const QString lecteur = Lecteur(copie, "rm \"$1\"; exit 4");
+    const QString phrase = copie.Convertit({.Lecteur = lecteur});
+    QVERIFY2(phrase.contains(QStringLiteral("« Medoc.mdb » n'existe pas")), qPrintable(phrase));
+    QVERIFY(copie.Fichiers().isEmpty());
 }
 
 void TestRefusJet::RefuseUneBaseSansNosTables()

@@ -12,7 +12,7 @@ struct sqlite3_stmt;
 
 namespace jet {
 
-/// The draft cannot be written; `Code` is what the program ends with.
+/// The draft cannot be written, or the disk does not answer; `Code` is what the program ends with.
 class NonEcrit : public std::runtime_error
 {
 public:

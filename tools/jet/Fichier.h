@@ -4,6 +4,7 @@
 #include "Octets.h"
 #include "Textes.h"
 
+#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,6 +30,9 @@ public:
     MdbHandle* Mdb() const { return mdb_.get(); }
     const Textes& Texte() const { return textes_; }
     bool Jet3() const { return IS_JET3(mdb_); }
+
+    /// Whether the disk failed to give bytes of the file: what seems damaged is not then.
+    bool EnPanne() const { return std::ferror(mdb_->f->stream) != 0; }
 
     /// Reads the page into the library's first buffer, which `mdb_crack_row` reads; gives its bytes.
     Octets LitPage(std::uint32_t page) const;

@@ -98,11 +98,8 @@ storage::Table EcrisTable(Table& table, Ebauche& ebauche, storage::GenreBase gen
     return plan->Table;
 }
 
-} // namespace
-
-void Convertit(const char* chemin, const char* ebauche, storage::GenreBase genre)
+void ConvertitFichier(const Fichier& fichier, const char* ebauche, storage::GenreBase genre)
 {
-    const Fichier fichier(chemin);
     const Entrees entrees = LitCatalogue(fichier);
     const QList<storage::Table> connues = storage::TablesConnues(genre);
     VerifieAbsentes(fichier, entrees, genre);
@@ -120,6 +117,21 @@ void Convertit(const char* chemin, const char* ebauche, storage::GenreBase genre
     }
     sortie.Acheve(tables);
     std::printf("%s\n", protocole::kFin);
+}
+
+} // namespace
+
+void Convertit(const char* chemin, const char* ebauche, storage::GenreBase genre)
+{
+    const Fichier fichier(chemin);
+    try {
+        ConvertitFichier(fichier, ebauche, genre);
+    } catch (const Defaut&) {
+        if (fichier.EnPanne()) {
+            throw NonEcrit("the disk does not answer", protocole::kDisqueEnPanne);
+        }
+        throw;
+    }
 }
 
 } // namespace jet
