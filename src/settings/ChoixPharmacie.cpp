@@ -79,6 +79,12 @@ ChoixPharmacie ChoisitPharmacie(application::Contexte& contexte, int rang)
             true};
 }
 
+qint32 ProduitDeBase(const QString& typeBase)
+{
+    const auto place = std::ranges::find(kPharmacies, typeBase, &Pharmacie::TypeBase);
+    return place == kPharmacies.end() ? drugbank::Banque().ProduitBanque : place->ProduitBanque;
+}
+
 int RangPharmacie(const QString& typeBase)
 {
     const auto place = std::ranges::find(kPharmacies, typeBase, &Pharmacie::TypeBase);

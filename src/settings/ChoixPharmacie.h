@@ -25,6 +25,9 @@ ChoixPharmacie ChoisitPharmacie(application::Contexte& contexte, int rang);
 /// doctor has to know before he relies on them.
 QString EtatBasePublique(const application::Contexte& contexte);
 
+/// The product of a base; that of "TVS" for one that has no option.
+qint32 ProduitDeBase(const QString& typeBase);
+
 /// The option of a base, -1 for one that has none.
 int RangPharmacie(const QString& typeBase);
 

@@ -1,15 +1,22 @@
 #include "settings/FichiersReglages.h"
 
 #include "common/Fichiers.h"
+#include "drugbank/Banque.h"
 #include "settings/ChampsReglages.h"
+#include "settings/ChoixPharmacie.h"
 #include "settings/Enregistrement.h"
 #include "settings/HauteurSaut.h"
+
+#include <utility>
 
 namespace settings {
 
 using common::Joint;
 
 namespace {
+
+constexpr qint32 kNiveauSur = 0; // every interaction is told
+constexpr qint32 kNiveauMax = 3;
 
 QString CheminOptions(const QString& chemin)
 {
@@ -63,7 +70,19 @@ void EcritDupli(const Dupli& dupli, const QString& chemin)
 
 bool LitBaseCfg(drugbank::Banque& banque, const QString& chemin)
 {
-    return LitEnregistrement(CheminBaseCfg(chemin), ChampsBase(banque)) != Lecture::Absente;
+    const qint32 niveau = std::exchange(banque.NiveauInteraction, kNiveauSur);
+    if (LitEnregistrement(CheminBaseCfg(chemin), ChampsBase(banque)) == Lecture::Absente) {
+        banque.NiveauInteraction = niveau;
+        return false;
+    }
+    if (banque.NiveauInteraction < kNiveauSur || banque.NiveauInteraction > kNiveauMax) {
+        banque.NiveauInteraction = kNiveauSur;
+    }
+    const qint32 produit = ProduitDeBase(banque.TypeBase);
+    if ((produit == drugbank::kProduitPublic) != drugbank::EstPublique(banque)) {
+        banque.ProduitBanque = produit;
+    }
+    return true;
 }
 
 void EcritBaseCfg(const drugbank::Banque& banque, const QString& chemin)

@@ -20,7 +20,8 @@ void EcritOptions(const Options& options, const QString& chemin);
 void EcritMarges(const Marges& marges, const QString& chemin);
 void EcritDupli(const Dupli& dupli, const QString& chemin);
 
-/// "Base.cfg": `TypeBase`, `NiveauInteraction`, `ProduitBanque`. Reading gives false when there is no file.
+/// "Base.cfg": `TypeBase`, `NiveauInteraction`, `ProduitBanque`. Reading gives false when there is no file. A
+/// level that is none, or missing, becomes 0, which hides nothing; the open bank and its product go together.
 bool LitBaseCfg(drugbank::Banque& banque, const QString& chemin);
 void EcritBaseCfg(const drugbank::Banque& banque, const QString& chemin);
 

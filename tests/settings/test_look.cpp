@@ -15,6 +15,8 @@ private Q_SLOTS:
     void chargeLesReglages();
     void gardeCeQuiManque();
     void litEtEcritBaseCfg();
+    void unBaseCfgAbimeNeCacheRien_data();
+    void unBaseCfgAbimeNeCacheRien();
     void litLeLook();
     void tablesVides();
     void litLaSignature();
@@ -74,6 +76,36 @@ void TestLook::litEtEcritBaseCfg()
     QVERIFY(LitBaseCfg(lue, monde.Dossier.path()));
     QCOMPARE(lue.TypeBase, QStringLiteral("TVS"));
     QCOMPARE(lue.ProduitBanque, -1);
+}
+
+void TestLook::unBaseCfgAbimeNeCacheRien_data()
+{
+    QTest::addColumn<QByteArray>("contenu");
+    QTest::addColumn<int>("niveau");
+    QTest::addColumn<int>("produit");
+    QTest::newRow("entier") << QByteArray("\"VDE\",3,1\r\n") << 3 << 1;
+    QTest::newRow("niveau trop haut") << QByteArray("\"TVS\",4,2\r\n") << 0 << 2;
+    QTest::newRow("niveau négatif") << QByteArray("\"TVS\",-1,2\r\n") << 0 << 2;
+    QTest::newRow("coupé") << QByteArray("\"TVS\"\r\n") << 0 << 2;
+    QTest::newRow("le produit de la base publique") << QByteArray("\"TVS\",1,3\r\n") << 1 << 2;
+    QTest::newRow("celui d'une autre") << QByteArray("\"BDP\",1,2\r\n") << 1 << 3;
+    QTest::newRow("la base locale") << QByteArray("\"BIP\",1,3\r\n") << 1 << -1;
+    QTest::newRow("sans option") << QByteArray("\"VCD\",1,1\r\n") << 1 << 1;
+}
+
+void TestLook::unBaseCfgAbimeNeCacheRien()
+{
+    QFETCH(QByteArray, contenu);
+    support::Monde monde;
+    drugbank::Banque banque;
+    banque.NiveauInteraction = 2; // of the doctor before
+    banque.ProduitBanque = drugbank::kProduitPublic;
+    QVERIFY(!LitBaseCfg(banque, monde.Dossier.path()));
+    QCOMPARE(banque.NiveauInteraction, 2);
+    common::EcritFichier(monde.Chemin(QStringLiteral("Base.cfg")), contenu);
+    QVERIFY(LitBaseCfg(banque, monde.Dossier.path()));
+    QTEST(int(banque.NiveauInteraction), "niveau");
+    QTEST(int(banque.ProduitBanque), "produit");
 }
 
 namespace {
