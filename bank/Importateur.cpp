@@ -32,13 +32,16 @@ void EcritInformation(Ecriture& ecriture, const QDate& date, const QString& natu
 
 void LitThesaurus(Ecriture& ecriture, const Demande& demande, Bilan& bilan, const Avancement& avancement)
 {
-    const QString nom = QFileInfo(demande.Interactions).fileName();
-    if (avancement && !avancement(nom, 0, 0)) {
-        throw Interruption(messages::Interrompu(), common::CheminAffiche(demande.Interactions));
-    }
-    const ChiffresThesaurus chiffres =
-        ImporteThesaurus(ecriture.Base(), common::LitFichier(demande.Interactions));
+    const auto annonce = [&](qint64 lignes) {
+        if (avancement && !avancement(QFileInfo(demande.Interactions).fileName(), lignes, lignes)) {
+            throw Interruption(messages::Interrompu(), common::CheminAffiche(demande.Interactions));
+        }
+    };
+    annonce(0);
+    const QByteArray texte = common::LitFichier(demande.Interactions);
+    const ChiffresThesaurus chiffres = ImporteThesaurus(ecriture.Base(), texte);
     bilan.Interactions = chiffres.Lignes() + chiffres.Desaccords;
+    annonce(texte.count('\n'));
 }
 
 } // namespace

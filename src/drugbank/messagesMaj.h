@@ -110,6 +110,12 @@ inline QString MajBilanCopie()
     return QStringLiteral("Bilan copié.");
 }
 
+inline QString MajPlusAncienne(const QString& date)
+{
+    return QStringLiteral("Attention, ces données sont plus anciennes que celles qu'elles remplacent, du %1.")
+        .arg(date);
+}
+
 inline QString BaseSansInteraction()
 {
     return QStringLiteral("Elle ne contient aucune interaction : aucune ne sera signalée.");

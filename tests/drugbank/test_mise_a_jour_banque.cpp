@@ -115,10 +115,11 @@ void TestMiseAJourBanque::ProgressGrowsToItsEnd()
     });
     maj.Lance();
     AttendLaFin(maj);
-    QVERIFY2(part > ProgresBanque::kTotal / 2, "the thesaurus alone is left");
+    QCOMPARE(part, ProgresBanque::kTotal);
     QVERIFY(mots.contains(
         messages::MajAvance(QStringLiteral("CIS_bdpm.txt"), QStringLiteral("82"), QStringLiteral("82"))));
-    QCOMPARE(mots.constLast(), messages::MajAvanceFichier(QStringLiteral("interactions.txt")));
+    QVERIFY(mots.contains(messages::MajAvanceFichier(QStringLiteral("interactions.txt"))));
+    QVERIFY(mots.constLast().startsWith(QStringLiteral("interactions.txt : ")));
 }
 
 void TestMiseAJourBanque::CancelledLeavesTheFormerOne()

@@ -216,6 +216,8 @@ void FrmMajBanque::Lance()
     if (!refus.isEmpty()) {
         return;
     }
+    const auto information = LitBanquePublique(contexte_.Chemins);
+    datePrecedente_ = information && information->Nature.isEmpty() ? information->DateDonnees : QDate();
     LblEtat_->setText(messages::MajCommence());
     maj_ = std::make_unique<MiseAJourBanque>(demande, [this] { LibereBanquePublique(contexte_); });
     connect(maj_.get(), &MiseAJourBanque::Avance, this, [this](int part, const QString& texte) {
@@ -248,7 +250,7 @@ void FrmMajBanque::Termine()
     CmdCopie_->setEnabled(reussie);
     if (reussie) {
         LblEtat_->setText(resultat.Phrase);
-        Avertit(ReservesEnPlace());
+        Avertit(PlusAncienne() + ReservesEnPlace());
     } else {
         MontreBaseEnPlace();
         Avertit({resultat.Phrase});
@@ -273,6 +275,15 @@ QStringList FrmMajBanque::ReservesEnPlace() const
 {
     const auto information = LitBanquePublique(contexte_.Chemins);
     return information ? Reserves(*information, contexte_.Dehors.Horloge.Aujourdhui()) : QStringList();
+}
+
+/// Says so when an old download took the place of a newer one.
+QStringList FrmMajBanque::PlusAncienne() const
+{
+    const auto information = LitBanquePublique(contexte_.Chemins);
+    const bool ancienne =
+        information && datePrecedente_.isValid() && information->DateDonnees < datePrecedente_;
+    return ancienne ? QStringList{messages::MajPlusAncienne(JourAffiche(datePrecedente_))} : QStringList();
 }
 
 void FrmMajBanque::Avertit(const QStringList& phrases)

@@ -3,6 +3,7 @@
 #include "application/windows/Fenetres.h"
 #include "drugbank/MiseAJourBanque.h"
 
+#include <QDate>
 #include <QDialog>
 
 class QHBoxLayout;
@@ -46,6 +47,7 @@ private:
     void GardeLesHauteurs();
     void Active(bool enCours);
     QStringList ReservesEnPlace() const;
+    QStringList PlusAncienne() const;
 
     application::Contexte& contexte_;
     QLineEdit* TxtDossier_;
@@ -63,6 +65,7 @@ private:
     QPushButton* CmdFerme_;
     std::unique_ptr<MiseAJourBanque> maj_;
     bool fermetureDemandee_ = false;
+    QDate datePrecedente_; ///< of the data that an update replaces; none for an extract
 };
 
 } // namespace drugbank

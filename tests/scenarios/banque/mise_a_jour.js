@@ -63,5 +63,12 @@ saisir("FrmMajBanque.TxtThesaurus", "");
 clic("FrmMajBanque.CmdLance");
 attendFin();
 contient(texte("FrmMajBanque.LblAvertissement"), "aucune interaction", "sans thésaurus, on le dit");
+faux(texte("FrmMajBanque.LblAvertissement").includes("plus anciennes"), "les mêmes données");
+for (const nom of ["CIS_bdpm.txt", "CIS_CIP_bdpm.txt", "CIS_CIP_Dispo_Spec.txt"]) {
+    ecrire(sources + "/" + nom, lire(sources + "/" + nom).replace(/\/202\d/g, "/2019"));
+}
+clic("FrmMajBanque.CmdLance");
+attendFin();
+contient(texte("FrmMajBanque.LblAvertissement"), "plus anciennes que celles qu'elles remplacent, du 18/05/2026.", "un vieux téléchargement se voit");
 clic("FrmMajBanque.CmdFerme");
 faux(ouverte("FrmMajBanque"), "fermée");
