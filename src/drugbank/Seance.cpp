@@ -160,9 +160,10 @@ void Seance::Libere(Contexte& contexte)
     Oublie(contexte);
 }
 
-/// As if no start had been run.
+/// As if no start had been run. What the bank before said of the lines is to be asked again.
 void Seance::Oublie(Contexte& contexte)
 {
+    contexte.Banque.InteractionsNonVerifiees = true;
     contexte.Banque.BanqueInitialisee = 0;
     contexte.Banque.SessionManquee = false;
     contexte.Banque.DateExpirationBase.clear();

@@ -30,6 +30,7 @@ egal([demandes().pop(), valeur("RapportInteractions")], [[101], ""], "la ligne d
 quitte();
 
 choisitBanque(3);
+contient(valeur("RapportInteractions"), reserve("DOLA"), "dès que l'autre banque répond");
 prescrit("PARACETAMOL VELMONT");
 contient(valeur("RapportInteractions"), reserve("DOLA"), "sous la base publique elle est nommée");
 faux(valeur("RapportInteractions").includes("vérifiées pour : PARACETAMOL"), "celle de la base publique ne l'est pas");
