@@ -6,6 +6,11 @@ else()
 endif()
 set(SCRIPTELLE_DOSSIER ${dossier_usuel} CACHE STRING "Program directory of an installation, below the prefix")
 
+# Before the templates are written over.
+install(CODE "set(DOSSIER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${SCRIPTELLE_DOSSIER}\")
+set(MODELE \"${CMAKE_BINARY_DIR}/installation/BasesInstal/Copie de Medoc.mdb\")
+include(\"${CMAKE_CURRENT_LIST_DIR}/DeclencheMaj.cmake\")")
+
 install(TARGETS Scriptelle scriptelle-banque RUNTIME DESTINATION ${SCRIPTELLE_DOSSIER})
 if(TARGET scriptelle-bdp)
     install(TARGETS scriptelle-bdp LIBRARY DESTINATION ${SCRIPTELLE_DOSSIER})

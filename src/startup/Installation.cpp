@@ -38,6 +38,23 @@ void CopieSiPresent(const QString& source, const QString& destination, const QSt
     }
 }
 
+QString Modele(const QString& dossier)
+{
+    return Joint(dossier, QStringLiteral("BasesInstal/Copie de Medoc.mdb"));
+}
+
+/// Whether a new version lies over an earlier one whose template is another: the databases are to be
+/// upgraded.
+bool ModeleChange(const QString& cheminProgramme, const QString& installation)
+{
+    const bool premiere = !common::FichierExiste(FichierVersion(installation));
+    if (premiere || !common::FichierExiste(Modele(cheminProgramme))) {
+        return false;
+    }
+    return !common::FichierExiste(Modele(installation)) ||
+           common::LitFichier(Modele(cheminProgramme)) != common::LitFichier(Modele(installation));
+}
+
 } // namespace
 
 QString PrepareInstallation(const QString& cheminProgramme)
@@ -61,6 +78,10 @@ void CopieInstallation(const QString& cheminProgramme, const QString& installati
 {
     if (DejaCopiee(installation)) {
         return;
+    }
+    if (ModeleChange(cheminProgramme, installation)) {
+        common::CopieFichier(Modele(cheminProgramme),
+                             Joint(installation, QStringLiteral("Copie de Medoc.mdb")));
     }
     const QString bases = QStringLiteral("BasesInstal");
     if (common::DossierExiste(Joint(cheminProgramme, bases))) {

@@ -2,6 +2,8 @@
 
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
+#include "common/Tolere.h"
+#include "upgrade/MajAbandonnee.h"
 #include "upgrade/messages.h"
 
 #include <QFileInfo>
@@ -139,14 +141,20 @@ JournalMaj::Reprise JournalMaj::Reprend()
         verrou_.unlock();
         return Reprise::Rien;
     }
-    if (etape_ == Etape::Preparation || etape_ == Etape::Retour) {
+    if (etape_ == Etape::Retour) {
         Abandonne();
+        return Reprise::Annulee;
+    }
+    // Every database has its place before and behind the exchange: what cannot be taken away then keeps
+    // nobody from working, and the next start tries again.
+    if (etape_ == Etape::Preparation) {
+        common::Tolere([&] { Abandonne(); });
         return Reprise::Annulee;
     }
     if (etape_ == Etape::Echange) {
         Echange();
     }
-    Termine();
+    common::Tolere([&] { Termine(); });
     return Reprise::Achevee;
 }
 
@@ -235,7 +243,7 @@ void JournalMaj::Revient(const common::Erreur& cause)
     } catch (const common::Erreur&) {
         throw common::Erreur(messages::Inachevee(cause.Phrase()), cause.Lieu());
     }
-    throw common::Erreur(messages::Abandonnee(cause.Phrase()), cause.Lieu());
+    throw MajAbandonnee(messages::Abandonnee(cause.Phrase()), cause.Lieu());
 }
 
 void JournalMaj::Abandonne()

@@ -7,6 +7,7 @@
 #include "startup/Chemins.h"
 #include "storage/Bases.h"
 #include "upgrade/JournalMaj.h"
+#include "upgrade/MajAbandonnee.h"
 #include "upgrade/RecopieMedoc.h"
 #include "upgrade/RecopieOrdo.h"
 #include "upgrade/messages.h"
@@ -96,11 +97,11 @@ Source Travail::Ouvre(const QString& chemin, GenreBase genre)
 
 void Travail::OuvreSources(const QStringList& bases)
 {
-    for (const QString& base : bases) {
-        sources_.append(Ouvre(journal_.Fichier(base), base == kMedoc ? GenreBase::Medoc : GenreBase::Ordo));
-    }
     if (FichierExiste(Joint(arbre_, kOrdo))) {
         racine_ = Ouvre(Joint(arbre_, kOrdo), GenreBase::Ordo);
+    }
+    for (const QString& base : bases) {
+        sources_.append(Ouvre(journal_.Fichier(base), base == kMedoc ? GenreBase::Medoc : GenreBase::Ordo));
     }
 }
 
@@ -149,7 +150,7 @@ void Travail::Fait()
     } catch (const common::Erreur& erreur) {
         // What cannot be taken away is taken away at the next start.
         common::Tolere([&] { journal_.Abandonne(); });
-        throw common::Erreur(messages::Abandonnee(erreur.Phrase()), erreur.Lieu());
+        throw MajAbandonnee(messages::Abandonnee(erreur.Phrase()), erreur.Lieu());
     }
     journal_.Echange();
 }
@@ -200,7 +201,8 @@ void MajBases(Contexte& contexte, const EcransMaj& ecrans, const QString& Repert
         ecrans.AnnonceRedemarrage();
     }
     AnnonceFin(boites, travail);
-    travail.Nettoie();
+    // What cannot be taken away is taken away at the next start.
+    common::Tolere([&] { travail.Nettoie(); });
 }
 
 } // namespace upgrade

@@ -22,7 +22,8 @@ struct EcransMaj
 QStringList BasesAMettreAJour(const QString& RepertoireMaJ);
 
 /// Brings the databases of the tree `RepertoireMaJ` to the layout of this version: filled templates take
-/// their place, all of them or none. Throws `Erreur` with what has become of the tree.
+/// their place, all of them or none. Throws `MajAbandonnee` when the tree is as it was, `Erreur` when the
+/// next start is to finish it.
 void MajBases(application::Contexte& contexte, const EcransMaj& ecrans, const QString& RepertoireMaJ,
               Suivi suivi = {});
 

@@ -1,13 +1,14 @@
 #include "upgrade/MajDue.h"
 
 #include "common/Fichiers.h"
-#include "common/Tolere.h"
 #include "outside/Boites.h"
 #include "outside/Lanceur.h"
 #include "outside/Plateau.h"
+#include "outside/Tente.h"
 #include "startup/Chemins.h"
 #include "storage/Bases.h"
 #include "upgrade/JournalMaj.h"
+#include "upgrade/MajAbandonnee.h"
 #include "upgrade/messages.h"
 
 namespace upgrade {
@@ -28,6 +29,16 @@ void PoseModeles(const startup::Chemins& chemins)
     const QString modeles = Joint(chemins.CheminInstallation, QStringLiteral("BasesInstal"));
     for (const QString& nom : {QStringLiteral("Copie de Medoc.mdb"), QStringLiteral("Copie de Ordo.mdb")}) {
         common::CopieFichier(Joint(modeles, nom), Joint(chemins.CheminData, nom));
+    }
+}
+
+/// Lays out the templates. Nothing of the data has changed when one of them is missing.
+void ExigeModeles(const startup::Chemins& chemins)
+{
+    try {
+        PoseModeles(chemins);
+    } catch (const common::Erreur& erreur) {
+        throw MajAbandonnee(messages::Abandonnee(erreur.Phrase()), erreur.Lieu());
     }
 }
 
@@ -59,13 +70,18 @@ SuiteMaj FaitMajDue(Contexte& contexte, const EcransMaj& ecrans)
     if (!FichierExiste(Declencheur(contexte.Chemins))) {
         return SuiteMaj::PasDue;
     }
-    PoseModeles(contexte.Chemins);
-    const QString RepertoireMaJ = DemandeRepertoireMaJ(contexte.Dehors.Boites);
-    if (RepertoireMaJ.isEmpty()) {
-        return SuiteMaj::Renonce;
+    try {
+        ExigeModeles(contexte.Chemins);
+        const QString RepertoireMaJ = DemandeRepertoireMaJ(contexte.Dehors.Boites);
+        if (RepertoireMaJ.isEmpty()) {
+            return SuiteMaj::Renonce;
+        }
+        MajBases(contexte, ecrans, RepertoireMaJ);
+        return SuiteMaj::Faite;
+    } catch (const MajAbandonnee& cause) {
+        outside::DitPanne(contexte.Dehors.Boites, cause);
+        return SuiteMaj::Abandonnee;
     }
-    MajBases(contexte, ecrans, RepertoireMaJ);
-    return SuiteMaj::Faite;
 }
 
 void Redemarre(Contexte& contexte)

@@ -68,6 +68,9 @@ qint64 Recopie::Nombre(const QString& select)
 
 void Recopie::Valide()
 {
+    for (const storage::Index& index : storage::Indexes(base_.Genre())) {
+        Execute(storage::CreeIndexSql(index));
+    }
     transaction_->Valide();
     transaction_.reset();
 }

@@ -30,7 +30,7 @@ public:
     /// The whole number that a select gives.
     qint64 Nombre(const QString& select);
 
-    /// Stores everything.
+    /// Makes the indexes and stores everything.
     void Valide();
 
 private:

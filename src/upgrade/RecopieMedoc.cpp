@@ -56,8 +56,7 @@ struct Copieur
     }
     void ListeOrdos(bool repare) const;
     void OrdoEnr(bool repare) const;
-    bool Deux(const QString& nom, qsizetype colonnes) const;
-    void PremierBloc() const;
+    void TextesJamaisNuls(const QString& nom, qsizetype colonnes) const;
     void Patients(int rang, const Source& source, qsizetype colonnes) const;
     bool ChercheDates() const;
 };
@@ -94,30 +93,19 @@ void Copieur::OrdoEnr(bool repare) const
     }
 }
 
-/// One of the tables of the first block, whose columns are texts that are never null. False when it is
-/// missing, or has rows and too few columns: the block ends there.
-bool Copieur::Deux(const QString& nom, qsizetype colonnes) const
+/// A table whose columns are texts that are never null. One that is missing keeps none of the others back:
+/// what a doctor has written into them would be gone with the backup, at the upgrade after this one.
+void Copieur::TextesJamaisNuls(const QString& nom, qsizetype colonnes) const
 {
     const Table* depuis = Medoc.ChercheTable(nom);
     if (!depuis) {
-        return false;
-    }
-    if (depuis->Colonnes.size() < colonnes) {
-        return Vers.Nombre(QStringLiteral("select count(*) from ") + TableDe(kMedoc, *depuis)) == 0;
+        return;
     }
     QStringList champs;
     for (qsizetype i = 0; i < colonnes; ++i) {
         champs.append(SinonNul(Texte(*depuis, i), kVide));
     }
     Vers.Copie(kMedoc, *depuis, nom, champs);
-    return true;
-}
-
-void Copieur::PremierBloc() const
-{
-    if (Deux(QStringLiteral("Vidal"), 2) && Deux(QStringLiteral("Biblio"), 2)) {
-        Deux(QStringLiteral("MedUtile"), 1);
-    }
 }
 
 /// The number of a patient is his key. One whose number another patient bears, or who has none, gets a new
@@ -173,7 +161,9 @@ bool RecopieMedoc(const QString& copie, const Source& medoc, const Source* racin
     Recopie vers(copie, storage::GenreBase::Medoc, sources, suivi);
     const Copieur copieur{vers, medoc, racine};
     copieur.BddMed();
-    copieur.PremierBloc();
+    copieur.TextesJamaisNuls(QStringLiteral("Vidal"), 2);
+    copieur.TextesJamaisNuls(QStringLiteral("Biblio"), 2);
+    copieur.TextesJamaisNuls(QStringLiteral("MedUtile"), 1);
     copieur.Patients(kMedoc, medoc, kColonnesPatients);
     if (racine) {
         copieur.Patients(kRacine, *racine, kColonnesPatientsRacine);

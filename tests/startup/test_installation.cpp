@@ -41,6 +41,7 @@ private Q_SLOTS:
     void programmeInscriptible();
     void programmeProtege();
     void copieUneFoisParVersion();
+    void modeleChange();
     void version();
 };
 
@@ -76,6 +77,31 @@ void TestInstallation::copieUneFoisParVersion()
     common::EcritFichier(Joint(installation, N("Installation.cfg")), "\"1.0.0\"\r\n");
     CopieInstallation(paquet.Programme, installation);
     QVERIFY(common::FichierExiste(Joint(installation, N("Medoc.mdb"))));
+}
+
+/// A first installation has nothing to upgrade, nor has a version with the templates of the one before.
+void TestInstallation::modeleChange()
+{
+    Paquet paquet;
+    const QString livre = Joint(paquet.Programme, N("BasesInstal/Copie de Medoc.mdb"));
+    const QString declencheur = Joint(paquet.Configuration, N("Copie de Medoc.mdb"));
+    const auto installe = [&](const char* version) {
+        common::EcritFichier(Joint(paquet.Configuration, N("Installation.cfg")), version);
+        CopieInstallation(paquet.Programme, paquet.Configuration);
+    };
+    common::SupprimeFichier(Joint(paquet.Programme, N("Copie de Medoc.mdb")));
+    common::EcritFichier(livre, "modele 1");
+    common::CreeDossier(paquet.Configuration);
+    CopieInstallation(paquet.Programme, paquet.Configuration);
+    QVERIFY(!common::FichierExiste(declencheur));
+    installe("\"1.0.0\"\r\n");
+    QVERIFY(!common::FichierExiste(declencheur));
+    common::EcritFichier(livre, "modele 2");
+    installe("\"1.0.0\"\r\n");
+    QCOMPARE(common::LitFichier(declencheur), QByteArray("modele 2"));
+    common::SupprimeFichier(declencheur);
+    CopieInstallation(paquet.Programme, paquet.Configuration);
+    QVERIFY(!common::FichierExiste(declencheur));
 }
 
 void TestInstallation::version()

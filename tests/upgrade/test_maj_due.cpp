@@ -43,6 +43,11 @@ struct MondeInstalle : MondeDemarrage
             .AttendInformation(messages::Terminee())
             .AttendInformation(messages::AutreSupport());
     }
+    void AttendAbandon()
+    {
+        Boites.AttendContenant(outside::Genre::Stop, N("vos bases de données sont telles qu'elles étaient"),
+                               Bouton::OK);
+    }
     QStringList Biblio(const QString& fichier)
     {
         storage::Base medoc(fichier, storage::GenreBase::Medoc);
@@ -62,6 +67,7 @@ private Q_SLOTS:
     void renonce();
     void surUnServeur();
     void modelesAbsents();
+    void medecinAbime();
     void repriseAuDemarrage();
     void repriseSurLeServeur();
     void redemarre();
@@ -127,8 +133,35 @@ void TestMajDue::modelesAbsents()
 {
     MondeInstalle monde;
     common::SupprimeFichier(monde.Programme("BasesInstal/Copie de Medoc.mdb"));
-    QVERIFY_THROWS_EXCEPTION(common::Erreur, monde.Demarre());
+    monde.AttendAbandon();
+    QVERIFY(monde.Demarre());
+    QVERIFY(FichierExiste(monde.Donnee("Copie de Medoc.mdb")));
     QCOMPARE(monde.Biblio(monde.Donnee("Medoc.mdb")), QStringList{N("titre|posologie")});
+}
+
+/// One damaged database keeps nobody from working; the upgrade stays due until it can be made.
+void TestMajDue::medecinAbime()
+{
+    MondeInstalle monde;
+    const QByteArray sain = common::LitFichier(monde.Donnee("DR NEIBRE/Ordo.mdb"));
+    common::EcritFichier(monde.Donnee("DR NEIBRE/Ordo.mdb"), "pas une base");
+    monde.AttendAnnonce();
+    monde.Boites.AttendDossier(messages::TitreRepertoireMaJ(), monde.Data)
+        .AttendInformation(messages::PatientezDisque());
+    monde.AttendAbandon();
+    monde.Boites.AttendContenant(outside::Genre::Stop, N("Ordo.mdb"), Bouton::OK); // the doctor's look
+    QVERIFY(monde.Demarre());
+    QCOMPARE(monde.Ecrans_.first(), N("ChoixBase"));
+    QVERIFY(FichierExiste(monde.Donnee("Copie de Medoc.mdb")));
+    QVERIFY(!FichierExiste(monde.Donnee("MiseAJour.cfg")));
+    QCOMPARE(monde.Biblio(monde.Donnee("Medoc.mdb")), QStringList{N("titre|posologie")});
+
+    common::EcritFichier(monde.Donnee("DR NEIBRE/Ordo.mdb"), sain);
+    monde.Oublie();
+    monde.AttendAnnonce().AttendMaj(monde.Data);
+    QVERIFY(monde.Demarre());
+    QVERIFY(FichierExiste(monde.Donnee("DR NEIBRE/Ancien_Ordo.mdb")));
+    QVERIFY(!FichierExiste(monde.Donnee("Copie de Medoc.mdb")));
 }
 
 /// An upgrade cut short in its exchange is finished before anything is read or moved.

@@ -149,17 +149,16 @@ void TestRecopie::tablesManquantes()
 void TestRecopie::premierBloc_data()
 {
     QTest::addColumn<QString>("manquante");
-    QTest::addColumn<QStringList>("copiees");
-    QTest::newRow("aucune") << QString() << QStringList{U("Vidal"), U("Biblio"), U("MedUtile")};
-    QTest::newRow("Vidal") << U("Vidal") << QStringList();
-    QTest::newRow("Biblio") << U("Biblio") << QStringList{U("Vidal")};
-    QTest::newRow("MedUtile") << U("MedUtile") << QStringList{U("Vidal"), U("Biblio")};
+    QTest::newRow("aucune") << QString();
+    for (const char* table : {"Vidal", "Biblio", "MedUtile"}) {
+        QTest::newRow(table) << U(table);
+    }
 }
 
+/// A table that is missing keeps none of the others back.
 void TestRecopie::premierBloc()
 {
     QFETCH(const QString, manquante);
-    QFETCH(const QStringList, copiees);
     Atelier atelier;
     {
         AncienneBase medoc(atelier.Ancien, GenreBase::Medoc);
@@ -179,8 +178,8 @@ void TestRecopie::premierBloc()
     atelier.Recopie();
     for (const QString& table : {U("Vidal"), U("Biblio"), U("MedUtile")}) {
         const QStringList copie = atelier.Lignes(qPrintable(table));
-        QCOMPARE(copie, copiees.contains(table) ? QStringList{table == U("MedUtile") ? U("") : U("a|")}
-                                                : QStringList());
+        QCOMPARE(copie,
+                 table != manquante ? QStringList{table == U("MedUtile") ? U("") : U("a|")} : QStringList());
     }
     QCOMPARE(atelier.Lignes("Patients").size(), 1);
 }
@@ -190,15 +189,15 @@ void TestRecopie::blocAvecTropPeuDeColonnes()
     Atelier atelier;
     {
         AncienneBase medoc(atelier.Ancien, GenreBase::Medoc);
-        medoc.Table(U("Vidal"), 1); // without rows no column is asked for
+        medoc.Table(U("Vidal"), 1);
         medoc.Table(U("Biblio"), 1);
         medoc.Table(U("MedUtile"), 1);
         medoc.Ajoute(U("Biblio"), {U("a")});
         medoc.Ajoute(U("MedUtile"), {U("b")});
     }
     atelier.Recopie();
-    QCOMPARE(atelier.Lignes("Biblio"), QStringList());
-    QCOMPARE(atelier.Lignes("MedUtile"), QStringList());
+    QCOMPARE(atelier.Lignes("Biblio"), QStringList{U("a|")});
+    QCOMPARE(atelier.Lignes("MedUtile"), QStringList{U("b")});
 }
 
 void TestRecopie::patientsDesDeuxFichiers()
@@ -322,7 +321,7 @@ void TestRecopie::indexRefaits()
         medoc.Table(U("OrdoEnr"), 8);
     }
     atelier.Recopie();
-    storage::Base base(atelier.Copie, GenreBase::Medoc); // makes them, as for any file that lacks them
+    storage::Base base(atelier.Copie, GenreBase::Medoc, storage::Disposition::Telle);
     qint64 index = 0;
     base.Parcourt(U("select count(*) from sqlite_master where type = 'index'"), {},
                   [&](const storage::Rangee& rangee) { index = rangee.Entier(0); });

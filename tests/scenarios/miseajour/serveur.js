@@ -24,7 +24,10 @@ egal(boite().genre, "stop", "un échec est dit");
 contient(boite().texte, "« Ordo.mdb » n'est pas une base de données de Scriptelle", "avec le nom du fichier");
 contient(boite().texte, "vos bases de données sont telles qu'elles étaient", "et ce qu'il en est");
 repondre("OK");
-vrai(fini(), "le programme finit");
+vrai(ouverte("FrmChoixBase"), "le travail peut reprendre sans elle");
+clic("FrmChoixBase.CmdAnn");
+vrai(fini(), "ou attendre");
+vrai(existe(data + "/Copie de Medoc.mdb"), "la mise à jour reste due");
 egal(lireOctets(serveur + "/Medoc.mdb"), octets, "rien n'a changé");
 faux(existe(serveur + "/Ancien_Medoc.mdb") || existe(serveur + "/Copie de Medoc.mdb") || existe(serveur + "/MiseAJour.cfg"),
     "rien ne reste");
