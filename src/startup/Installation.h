@@ -13,8 +13,8 @@ QString PrepareInstallation(const QString& cheminProgramme);
 QString PrepareInstallation(const QString& cheminProgramme, const QString& cheminConfiguration);
 
 /// Copies what an installer left in the program directory, once per version of the program; what the run has
-/// moved away since does not come back. A version whose "BasesInstal" brings another "Copie de Medoc.mdb" than
-/// the one before leaves it beside the program too, which makes the upgrade due. Throws `Erreur`.
+/// moved away since does not come back. A version whose "BasesInstal" brings another "Copie de Medoc.mdb"
+/// than the one before leaves it beside the program too, which makes the upgrade due. Throws `Erreur`.
 void CopieInstallation(const QString& cheminProgramme, const QString& installation);
 
 } // namespace startup

@@ -36,7 +36,7 @@ if (!existe(jeu + "/Medoc.mdb")) {
 
     lancer();
     boites([[/^Le programme doit faire la mise à jour/, "OK"], [/à mettre à jour$/, data], [/sur votre disque\.\nPatientez/, "OK"],
-        [/^Un nouveau paramètre/, "OK"], [/^Un nouveau paramètre/, "OK"], [/^Mise à jour des dates/, "OK"],
+        [/^Un nouveau paramètre/, "OK"], [/^Mise à jour des dates/, "OK"],
         ["Mise à jour des bases terminée.", "OK"], [/^Si vous désirez utiliser/, "OK"], [/redémarrer/, "OK"]]);
     lancer();
     aucuneBoite("le programme relancé est à jour");
