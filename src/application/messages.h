@@ -29,4 +29,9 @@ inline QString ErreurInterne(const QString& detail)
     return QStringLiteral("Erreur interne : ") + detail;
 }
 
+inline QString RedemarrageImpossible()
+{
+    return QStringLiteral("Scriptelle n'a pas pu être relancé. Relancez le programme vous-même.");
+}
+
 } // namespace application::messages

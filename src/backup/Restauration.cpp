@@ -1,11 +1,14 @@
 #include "backup/Restauration.h"
 
+#include "backup/VerrouArbre.h"
 #include "backup/messages.h"
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "storage/Archive.h"
 #include "storage/Base.h"
+#include "storage/EnteteJet.h"
+#include "storage/Verification.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -28,9 +31,21 @@ bool EstUnNomSur(const QString& nom)
                                [](const QString& partie) { return common::NomDeFichierSur(partie); });
 }
 
-bool EstUneBase(const QString& nom, const QByteArray& contenu)
+enum class Nature { Base, Jet, Autre };
+
+/// A Jet file is converted where it is opened.
+Nature NatureDe(const QString& nom, const QByteArray& contenu)
 {
-    return nom.endsWith(QLatin1String(".mdb"), Qt::CaseInsensitive) && contenu.startsWith("SQLite format 3");
+    constexpr qsizetype kEntete = 256;
+    if (!nom.endsWith(QLatin1String(".mdb"), Qt::CaseInsensitive)) {
+        return Nature::Autre;
+    }
+    if (contenu.startsWith("SQLite format 3")) {
+        return Nature::Base;
+    }
+    const auto format =
+        storage::FormatDeLEntete(contenu.first(std::min(kEntete, contenu.size())), contenu.size());
+    return format == storage::FormatJet::Aucun ? Nature::Autre : Nature::Jet;
 }
 
 storage::GenreBase GenreDe(const QString& nom)
@@ -39,16 +54,20 @@ storage::GenreBase GenreDe(const QString& nom)
     return partagee ? storage::GenreBase::Medoc : storage::GenreBase::Ordo;
 }
 
-void VerifieBase(const QString& nom, const QByteArray& contenu)
+/// `atelier`: a directory of the practice's own, for what is opened are patients.
+void VerifieBase(const QString& nom, const QByteArray& contenu, const QString& atelier)
 {
-    const QTemporaryDir atelier;
-    const QString copie = Joint(atelier.path(), nom.section(u'/', -1));
+    const QString copie = Joint(atelier, nom.section(u'/', -1));
     common::EcritFichier(copie, contenu);
-    const storage::Base base(copie, GenreDe(nom), storage::Disposition::Telle);
+    {
+        storage::Base base(copie, GenreDe(nom), storage::Disposition::Telle);
+        storage::VerifieEnEntier(base);
+    }
+    common::SupprimeFichier(copie);
 }
 
 /// Reads the whole copy, so that nothing of it fails on the way.
-void VerifieCopie(const QString& chemin)
+void VerifieCopie(const QString& chemin, const QString& atelier)
 {
     const storage::Archive archive(chemin, storage::Archive::Mode::Lecture);
     bool base = false;
@@ -57,13 +76,23 @@ void VerifieCopie(const QString& chemin)
             throw common::Erreur(messages::CopieEtrangere(chemin), common::CheminAffiche(chemin));
         }
         const QByteArray contenu = archive.Lit(nom);
-        if (EstUneBase(nom, contenu)) {
-            VerifieBase(nom, contenu);
-            base = true;
+        const Nature nature = NatureDe(nom, contenu);
+        base = base || nature != Nature::Autre;
+        if (nature == Nature::Base) {
+            VerifieBase(nom, contenu, atelier);
         }
     }
     if (!base) {
         throw common::Erreur(messages::CopieEtrangere(chemin), common::CheminAffiche(chemin));
+    }
+}
+
+/// Throws `Erreur` when somebody is at work in a database of the tree.
+void ExigeLibres(const QString& arbre, const QString& copie)
+{
+    const storage::Archive archive(copie, storage::Archive::Mode::Lecture);
+    for (const QString& nom : archive.Noms()) {
+        storage::ExigeLibre(arbre + u'/' + nom);
     }
 }
 
@@ -75,35 +104,10 @@ void Remet(const QString& chemin, const QByteArray& contenu)
     common::EcritFichier(chemin, contenu);
 }
 
-} // namespace
-
-void Restaure(const Lieu& lieu, const Sauvegarde& sauvegarde, const QDateTime& moment)
-{
-    VerifieCopie(sauvegarde.Chemin);
-    // At hand before the oldest copy makes room.
-    const QString prete = Joint(lieu.Arbre, kPrete);
-    common::CopieFichier(sauvegarde.Chemin, prete);
-    try {
-        SauveAvantRestauration(lieu, moment);
-    } catch (...) {
-        common::Tolere([&] { common::SupprimeFichier(prete); }); // a draft that stays hurts nobody
-        throw;
-    }
-    common::MetEnPlace(prete, Joint(lieu.Arbre, kEnCours));
-    FinitRestauration(lieu.Arbre);
-}
-
-bool RestaurationEnCours(const QString& arbre)
-{
-    return common::FichierExiste(Joint(arbre, kEnCours));
-}
-
-bool FinitRestauration(const QString& arbre)
+/// With the lock in hand.
+void RemetTout(const QString& arbre)
 {
     const QString enCours = Joint(arbre, kEnCours);
-    if (!RestaurationEnCours(arbre)) {
-        return false;
-    }
     {
         const storage::Archive archive(enCours, storage::Archive::Mode::Lecture);
         for (const QString& nom : archive.Noms()) {
@@ -115,7 +119,59 @@ bool FinitRestauration(const QString& arbre)
         }
     }
     common::SupprimeFichier(enCours);
-    return true;
+}
+
+/// Lays the copy that is to be put back beside the tree, and one of the tree as it stands.
+void Apprete(const Lieu& lieu, const Sauvegarde& sauvegarde, const QDateTime& moment)
+{
+    common::CreeDossierPrive(lieu.Dossier);
+    const QTemporaryDir atelier(Joint(lieu.Dossier, QStringLiteral("XXXXXX.tmp")));
+    if (!atelier.isValid()) {
+        throw common::Erreur(messages::DossierRefuse(lieu.Dossier), common::CheminAffiche(lieu.Dossier));
+    }
+    // At hand before the oldest copy makes room.
+    const QString prete = Joint(lieu.Arbre, kPrete);
+    try {
+        common::CopieFichier(sauvegarde.Chemin, prete);
+        VerifieCopie(prete, atelier.path());
+        ExigeLibres(lieu.Arbre, prete);
+        SauveAvantRestauration(lieu, moment);
+    } catch (...) {
+        common::Tolere([&] { common::SupprimeFichier(prete); }); // the next start removes it
+        throw;
+    }
+}
+
+} // namespace
+
+void Restaure(const Lieu& lieu, const Sauvegarde& sauvegarde, const QDateTime& moment)
+{
+    const VerrouArbre verrou(lieu.Arbre);
+    verrou.Exige();
+    Apprete(lieu, sauvegarde, moment);
+    common::MetEnPlace(Joint(lieu.Arbre, kPrete), Joint(lieu.Arbre, kEnCours));
+    RemetTout(lieu.Arbre);
+}
+
+bool RestaurationEnCours(const QString& arbre)
+{
+    return common::FichierExiste(Joint(arbre, kEnCours));
+}
+
+bool FinitRestauration(const QString& arbre)
+{
+    const QString prete = Joint(arbre, kPrete);
+    if (!RestaurationEnCours(arbre) && !common::FichierExiste(prete)) {
+        return false;
+    }
+    const VerrouArbre verrou(arbre);
+    verrou.Exige();
+    common::Tolere([&] { common::SupprimeFichier(prete); }); // a draft that stays hurts nobody
+    const bool coupee = RestaurationEnCours(arbre);
+    if (coupee) {
+        RemetTout(arbre);
+    }
+    return coupee;
 }
 
 } // namespace backup

@@ -1,18 +1,21 @@
 #include "backup/Sauvegarde.h"
 
 #include "backup/Rotation.h"
+#include "backup/VerrouArbre.h"
 #include "backup/messages.h"
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
 #include "startup/Chemins.h"
 #include "storage/Archive.h"
+#include "storage/EstUneBase.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QThreadPool>
 #include <algorithm>
+#include <filesystem>
 
 namespace backup {
 
@@ -21,6 +24,7 @@ using common::Joint;
 namespace {
 
 constexpr int kAvantRestauration = 3;
+constexpr qint64 kTailleMax = 900'000'000; ///< below what the archive's format takes for one file
 constexpr QLatin1String kDossier("Sauvegardes");
 constexpr QLatin1String kSuffixe(".sqlar");
 constexpr QLatin1String kJour("yyyy-MM-dd");
@@ -36,18 +40,13 @@ QString NomAvant(const Lieu& lieu, const QDateTime& moment)
     return QStringLiteral("Avant restauration ") + moment.toString(kMoment) + lieu.Complement + kSuffixe;
 }
 
-bool EstUneBase(const QString& chemin)
-{
-    QFile fichier(chemin);
-    return chemin.endsWith(QLatin1String(".mdb"), Qt::CaseInsensitive) && fichier.open(QIODevice::ReadOnly) &&
-           fichier.read(15) == "SQLite format 3";
-}
-
-/// What belongs to the program's own work.
+/// What belongs to the program's own work, and the system's.
 bool EstPassager(const QString& nom)
 {
     static const QRegularExpression passager(
-        QStringLiteral(R"(^(Sauvegardes|Transfert\.[a-z]+)/|(^|/)\.|-journal$|\.(sqlar|lock|ldb|tmp)$)"),
+        QStringLiteral(
+            R"(^Sauvegardes/|(^|/)Transfert\.[a-z]+(/|$)|(^|/)\.|-journal$|\.(sqlar|lock|ldb|tmp)$|)"
+            R"((^|/)(desktop\.ini|thumbs\.db)$)"),
         QRegularExpression::CaseInsensitiveOption);
     return passager.match(nom).hasMatch();
 }
@@ -60,14 +59,19 @@ bool EstAncien(const QString& nom)
     return ancien.match(nom).hasMatch();
 }
 
+/// A journal may grow meanwhile: what it held at first is taken.
 QByteArray LitTout(const QString& chemin)
 {
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly)) {
         throw common::Erreur(messages::Illisible(chemin), common::CheminAffiche(chemin));
     }
-    QByteArray contenu = fichier.readAll();
-    if (fichier.error() != QFileDevice::NoError || contenu.size() != fichier.size()) {
+    const qint64 taille = fichier.size();
+    if (taille > kTailleMax) {
+        throw common::Erreur(messages::TropGrand(chemin), common::CheminAffiche(chemin));
+    }
+    QByteArray contenu = fichier.read(taille);
+    if (contenu.size() != taille) {
         throw common::Erreur(messages::Illisible(chemin), common::CheminAffiche(chemin));
     }
     return contenu;
@@ -76,7 +80,7 @@ QByteArray LitTout(const QString& chemin)
 /// A database is copied through the engine, which waits for whoever writes.
 QByteArray LitPiece(const QString& chemin, const QString& brouillon)
 {
-    if (!EstUneBase(chemin)) {
+    if (!chemin.endsWith(QLatin1String(".mdb"), Qt::CaseInsensitive) || !storage::EstUneBase(chemin)) {
         return LitTout(chemin);
     }
     storage::CopieBase(chemin, brouillon);
@@ -85,10 +89,54 @@ QByteArray LitPiece(const QString& chemin, const QString& brouillon)
     return contenu;
 }
 
+/// Adds one file. One that the doctor has deleted since it was listed is none of the tree any more.
+void AjouteA(storage::Archive& archive, const QString& arbre, const QString& piece, const QString& brouillon)
+{
+    const QString chemin = arbre + u'/' + piece;
+    const QDateTime modifie = QFileInfo(chemin).lastModified();
+    QByteArray contenu;
+    try {
+        contenu = LitPiece(chemin, brouillon);
+    } catch (const common::Erreur&) {
+        if (QFileInfo::exists(chemin)) {
+            throw;
+        }
+        return;
+    }
+    archive.Ajoute(piece, contenu, modifie);
+}
+
+/// `dossier`: "" for the tree itself, else its path below and a '/'. Links are followed, once.
+void Parcourt(const QString& arbre, const QString& dossier, QStringList parents, QStringList& noms)
+{
+    const QFileInfo ici(arbre + u'/' + dossier);
+    if (parents.contains(ici.canonicalFilePath())) {
+        return;
+    }
+    parents.append(ici.canonicalFilePath());
+    std::error_code refus; // the toolkit lists nothing then, without a word
+    const std::filesystem::directory_iterator parcours(QFile(ici.filePath()).filesystemFileName(), refus);
+    if (refus && ici.exists()) {
+        throw common::Erreur(messages::Illisible(ici.absoluteFilePath()),
+                             common::CheminAffiche(ici.absoluteFilePath()));
+    }
+    constexpr auto kTout = QDir::Files | QDir::Dirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    for (const QFileInfo& element : QDir(ici.filePath()).entryInfoList(kTout)) {
+        const QString nom = dossier + element.fileName() + QLatin1String(element.isDir() ? "/" : "");
+        if (EstPassager(nom)) {
+            continue;
+        }
+        if (element.isDir()) {
+            Parcourt(arbre, nom, parents, noms);
+        } else if (element.isFile()) {
+            noms.append(nom);
+        }
+    }
+}
+
 /// The archive takes its name when it is whole.
 void Archive(const Lieu& lieu, const QString& nom)
 {
-    common::CreeDossierPrive(lieu.Dossier);
     const QTemporaryDir atelier(Joint(lieu.Dossier, QStringLiteral("XXXXXX.tmp")));
     if (!atelier.isValid()) {
         throw common::Erreur(messages::DossierRefuse(lieu.Dossier), common::CheminAffiche(lieu.Dossier));
@@ -97,9 +145,7 @@ void Archive(const Lieu& lieu, const QString& nom)
     {
         storage::Archive archive(ebauche, storage::Archive::Mode::Creation);
         for (const QString& piece : FichiersDeLArbre(lieu.Arbre, Etendue::Sauvegarde)) {
-            const QString chemin = lieu.Arbre + u'/' + piece;
-            archive.Ajoute(piece, LitPiece(chemin, Joint(atelier.path(), QStringLiteral("base"))),
-                           QFileInfo(chemin).lastModified());
+            AjouteA(archive, lieu.Arbre, piece, Joint(atelier.path(), QStringLiteral("base")));
         }
         archive.Valide();
     }
@@ -161,15 +207,9 @@ Lieu LieuDuTravail(const startup::Chemins& chemins)
 
 QStringList FichiersDeLArbre(const QString& arbre, Etendue etendue)
 {
-    const QDir racine(arbre);
     QStringList noms;
-    QDirIterator parcours(arbre, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
-    while (parcours.hasNext()) {
-        const QString nom = racine.relativeFilePath(parcours.next());
-        if (!EstPassager(nom) && (etendue == Etendue::Transfert || !EstAncien(nom))) {
-            noms.append(nom);
-        }
-    }
+    Parcourt(arbre, {}, {}, noms);
+    noms.removeIf([&](const QString& nom) { return etendue == Etendue::Sauvegarde && EstAncien(nom); });
     noms.sort();
     return noms;
 }
@@ -198,6 +238,11 @@ bool SauveDuJour(const Lieu& lieu, const QDate& jour)
     if (common::FichierExiste(Joint(lieu.Dossier, nom))) {
         return false;
     }
+    common::CreeDossierPrive(lieu.Dossier);
+    const VerrouArbre verrou(lieu.Dossier);
+    if (verrou.PrisAilleurs()) {
+        return false; // the program runs twice: the other one copies
+    }
     RetireLesBrouillons(lieu);
     Archive(lieu, nom);
     RetireLesAnciennes(lieu, jour);
@@ -206,6 +251,9 @@ bool SauveDuJour(const Lieu& lieu, const QDate& jour)
 
 void SauveAvantRestauration(const Lieu& lieu, const QDateTime& moment)
 {
+    common::CreeDossierPrive(lieu.Dossier);
+    const VerrouArbre verrou(lieu.Dossier);
+    verrou.Exige();
     QDateTime libre = moment;
     while (common::FichierExiste(Joint(lieu.Dossier, NomAvant(lieu, libre)))) {
         libre = libre.addSecs(1);
@@ -217,6 +265,22 @@ void SauveAvantRestauration(const Lieu& lieu, const QDateTime& moment)
             Supprime(sauvegarde.Chemin);
         }
     }
+}
+
+void SauveEnFond(const Lieu& lieu, const QDate& jour, const std::function<void(const QString&)>& echec)
+{
+    QThreadPool::globalInstance()->start([lieu, jour, echec] {
+        try {
+            SauveDuJour(lieu, jour);
+        } catch (const common::Erreur& erreur) {
+            echec(messages::SauvegardeEchouee(erreur.Phrase()));
+        }
+    });
+}
+
+void AttendLaSauvegarde()
+{
+    QThreadPool::globalInstance()->waitForDone();
 }
 
 } // namespace backup

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QString>
+#include <functional>
 
 namespace startup {
 struct Chemins;
@@ -40,13 +41,20 @@ bool SauveDuJour(const Lieu& lieu, const QDate& jour);
 /// Copies the tree as it stands before a copy is put back; the last three of these are kept. Throws `Erreur`.
 void SauveAvantRestauration(const Lieu& lieu, const QDateTime& moment);
 
+/// `SauveDuJour` in a thread of its own, which calls `echec` with a sentence when it fails.
+void SauveEnFond(const Lieu& lieu, const QDate& jour, const std::function<void(const QString&)>& echec);
+
+/// Returns when no such thread is at work: before anything replaces files of the tree, and at the end.
+void AttendLaSauvegarde();
+
 /// What of a tree is meant.
 enum class Etendue {
     Sauvegarde, ///< what a practice works with
     Transfert   ///< former databases too, which an upgrade or a conversion has left
 };
 
-/// The files of a tree, as paths below it; never its safety copies, drafts and locks.
+/// The files of a tree, as paths below it; never its safety copies, drafts and locks. Throws `Erreur` when a
+/// directory of it cannot be listed.
 QStringList FichiersDeLArbre(const QString& arbre, Etendue etendue);
 
 } // namespace backup

@@ -12,6 +12,20 @@ inline QString Illisible(const QString& chemin)
     return QStringLiteral("« %1 » n'a pas pu être lu pour la sauvegarde.").arg(common::CheminAffiche(chemin));
 }
 
+inline QString TropGrand(const QString& chemin)
+{
+    return QStringLiteral("« %1 » est trop grand pour la sauvegarde : retirez-le du répertoire des données.")
+        .arg(common::CheminAffiche(chemin));
+}
+
+inline QString ArbreOccupe(const QString& dossier)
+{
+    return QStringLiteral(
+               "Un autre poste ou un autre programme transfère, sauvegarde ou restaure des données "
+               "dans « %1 ». Attendez qu'il ait fini.")
+        .arg(common::CheminAffiche(dossier));
+}
+
 inline QString DossierRefuse(const QString& dossier)
 {
     return QStringLiteral("La sauvegarde n'a pas pu être écrite dans « %1 ».")

@@ -17,6 +17,9 @@ namespace {
 constexpr char kSeparateur = '*';
 constexpr int kChampsAvant = 3; ///< date, name, birth date
 constexpr qint64 kTranche = 4 << 20;
+/// Of a file that is no journal, a line may be the whole: what is shown of one has an end.
+constexpr qsizetype kChampMontre = 1'000;
+constexpr qsizetype kTexteMontre = 1 << 20;
 
 /// The beginning of a field, counted from 0; nothing when the line has fewer.
 qsizetype DebutChamp(QByteArrayView ligne, int champ)
@@ -68,6 +71,11 @@ bool EstUneDate(QStringView date)
 QString CleDeDate(const QString& date)
 {
     return EstUneDate(date) ? date.mid(6) + u'/' + date.mid(3, 2) + u'/' + date.left(2) : date;
+}
+
+QString Montre(QByteArrayView champ)
+{
+    return common::DepuisWindows1252(champ.first(std::min(kChampMontre, champ.size())));
 }
 
 std::string_view EnVue(QByteArrayView octets)
@@ -167,14 +175,13 @@ QByteArrayView JournalEntrees::Texte(int numero) const
 
 QString JournalEntrees::Date(int numero) const
 {
-    return common::DepuisWindows1252(Champ(Texte(numero), 0));
+    return Montre(Champ(Texte(numero), 0));
 }
 
 QString JournalEntrees::Patient(int numero) const
 {
     const QByteArrayView texte = Texte(numero);
-    return common::DepuisWindows1252(Champ(texte, 1)) + QStringLiteral("   (") +
-           common::DepuisWindows1252(Champ(texte, 2)) + u')';
+    return Montre(Champ(texte, 1)) + QStringLiteral("   (") + Montre(Champ(texte, 2)) + u')';
 }
 
 QString JournalEntrees::Prescription(int numero) const
@@ -183,7 +190,8 @@ QString JournalEntrees::Prescription(int numero) const
     const qsizetype debut = DebutChamp(texte, kChampsAvant);
     QString prescription;
     if (debut >= 0) {
-        const QString champs = common::DepuisWindows1252(texte.sliced(debut));
+        const qsizetype longueur = std::min(kTexteMontre, texte.size() - debut);
+        const QString champs = common::DepuisWindows1252(texte.sliced(debut, longueur));
         for (const QString& champ : champs.split(QLatin1Char(kSeparateur))) {
             prescription += QStringLiteral("\r\n  ") + champ + QStringLiteral("\r\n");
         }

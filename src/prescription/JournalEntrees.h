@@ -8,7 +8,8 @@
 namespace prescription {
 
 /// What a journal says, one record a line, in the order of the file and numbered from 0. The file's bytes are
-/// kept as they are and read when a record is asked for, so that a million of them cost little.
+/// kept as they are and read when a record is asked for, so that a million of them cost little. Of a field
+/// or a line that no prescription could fill, the texts give the beginning.
 class JournalEntrees
 {
 public:

@@ -30,6 +30,14 @@ QVariant ListeJournal::data(const QModelIndex& index, int role) const
     }
 }
 
+QModelIndexList ListeJournal::match(const QModelIndex& debut, int role, const QVariant& valeur, int nombre,
+                                    Qt::MatchFlags facon) const
+{
+    const bool date = rang_ == RangJournal::Date && role == Qt::DisplayRole;
+    return QAbstractListModel::match(debut, role, date ? QLatin1Char(' ') + valeur.toString() : valeur,
+                                     nombre, facon);
+}
+
 void ListeJournal::Remplit(std::vector<int> numeros, bool numerotes)
 {
     beginResetModel();

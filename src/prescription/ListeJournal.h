@@ -25,6 +25,9 @@ public:
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /// What is typed into the list finds a date without its blank.
+    QModelIndexList match(const QModelIndex& debut, int role, const QVariant& valeur, int nombre,
+                          Qt::MatchFlags facon) const override;
 
     /// `numerotes`: the rows are single records, not the dates or patients of several.
     void Remplit(std::vector<int> numeros, bool numerotes);

@@ -47,11 +47,14 @@ void CopieChezMedecin(const Chemins& chemins, const QString& nom)
     }
 }
 
-/// What was taking its place in the tree when the program ended: a transfer, a copy that was put back.
-void FinitLesRemises(Contexte& contexte, const QString& arbre)
+/// What was taking its place in the tree when the program ended: a transfer, a copy that was put back. False
+/// when that fails, which the doctor is told: nobody works in a tree of two halves.
+bool FinitLesRemises(Contexte& contexte, const QString& arbre)
 {
-    outside::Tente(contexte.Dehors.Boites, [&] { transfer::FinitTransfert(arbre); });
-    outside::Tente(contexte.Dehors.Boites, [&] { backup::FinitRestauration(arbre); });
+    return outside::Tente(contexte.Dehors.Boites, [&] {
+        transfer::FinitTransfert(arbre);
+        backup::FinitRestauration(arbre);
+    });
 }
 
 void CorrigePositionLogo(settings::Options& options)
@@ -182,7 +185,9 @@ bool Demarrage::PrepareDonnees()
         return false;
     }
     ExigeCheminData(chemins);
-    FinitLesRemises(contexte_, chemins.CheminData);
+    if (!FinitLesRemises(contexte_, chemins.CheminData)) {
+        return false;
+    }
     upgrade::ReprendMaj(contexte_, chemins.CheminData);
     DeplaceInstallation(chemins);
     DeplaceCommun(contexte_);
@@ -221,7 +226,9 @@ bool Demarrage::RegleDepuisOptions()
         return false;
     }
     RegleCheminTravail(contexte_);
-    FinitLesRemises(contexte_, contexte_.Chemins.CheminTravail);
+    if (!FinitLesRemises(contexte_, contexte_.Chemins.CheminTravail)) {
+        return false;
+    }
     RegleCheminMedecin(contexte_);
     return true;
 }

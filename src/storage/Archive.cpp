@@ -2,6 +2,7 @@
 
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
+#include "storage/EstUneBase.h"
 #include "storage/Pannes.h"
 #include "storage/Verification.h"
 #include "storage/messages.h"
@@ -143,8 +144,8 @@ void CopieBase(const QString& source, const QString& copie)
     const QString connexion = QUuid::createUuid().toString();
     QSqlError erreur;
     {
-        QSqlDatabase base =
-            Connexion(connexion, source, QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=3000"));
+        // Open for writing where the disk allows it: a journal that a cut has left is played first.
+        QSqlDatabase base = Connexion(connexion, source, QStringLiteral("QSQLITE_BUSY_TIMEOUT=3000"));
         QSqlQuery requete(base);
         requete.prepare(QStringLiteral("vacuum into ?"));
         requete.addBindValue(copie);
@@ -157,6 +158,27 @@ void CopieBase(const QString& source, const QString& copie)
         // What matters is the failure on its way out.
         common::Tolere([&] { common::SupprimeFichier(copie); });
         throw Panne(erreur, source);
+    }
+}
+
+void ExigeLibre(const QString& chemin)
+{
+    constexpr int kPrise = 5;
+    if (!EstUneBase(chemin)) {
+        return;
+    }
+    const QString connexion = QUuid::createUuid().toString();
+    bool prise = false;
+    {
+        QSqlDatabase base = Connexion(connexion, chemin, QStringLiteral("QSQLITE_BUSY_TIMEOUT=3000"));
+        QSqlQuery requete(base);
+        prise = !requete.exec(QStringLiteral("begin exclusive")) &&
+                (requete.lastError().nativeErrorCode().toInt() & 0xFF) == kPrise;
+        requete.exec(QStringLiteral("rollback"));
+    }
+    QSqlDatabase::removeDatabase(connexion);
+    if (prise) {
+        throw Panne(messages::BaseVerrouillee, chemin);
     }
 }
 

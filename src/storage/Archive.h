@@ -44,4 +44,8 @@ private:
 /// `Erreur`; no file is left then.
 void CopieBase(const QString& source, const QString& copie);
 
+/// Throws `Erreur` when somebody reads or writes that database just now. One that is damaged, or no database
+/// at all, is nobody's.
+void ExigeLibre(const QString& chemin);
+
 } // namespace storage

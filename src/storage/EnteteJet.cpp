@@ -1,5 +1,7 @@
 #include "storage/EnteteJet.h"
 
+#include "storage/EstUneBase.h"
+
 #include <QFile>
 #include <QtEndian>
 
@@ -110,7 +112,7 @@ FormatJet FormatDeLEntete(const QByteArray& debut, qint64 taille)
 FormatJet LitFormatJet(const QString& chemin)
 {
     QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly)) {
+    if (EstUneBase(chemin) || !fichier.open(QIODevice::ReadOnly)) {
         return FormatJet::Aucun;
     }
     return FormatDeLEntete(fichier.read(kTailleEntete), fichier.size());

@@ -3,6 +3,7 @@
 #include "common/Tolere.h"
 #include "storage/Base.h"
 #include "storage/EnteteJet.h"
+#include "storage/EstUneBase.h"
 #include "storage/Pannes.h"
 #include "storage/messages.h"
 
@@ -66,15 +67,14 @@ void VerifieFichier(const QString& chemin)
     if (!info.isFile()) {
         throw Panne(info.exists() ? messages::PasUneBase : messages::BaseAbsente, chemin);
     }
-    QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly)) {
+    if (EstUneBase(chemin)) {
+        return;
+    }
+    if (!QFile(chemin).open(QIODevice::ReadOnly)) {
         throw Panne(messages::BaseIllisible, chemin);
     }
-    const QByteArray entete("SQLite format 3", 16);
-    if (fichier.read(entete.size()) != entete) {
-        const bool jet = LitFormatJet(chemin) != FormatJet::Aucun;
-        throw Panne(jet ? messages::JetNonConvertie : messages::PasUneBase, chemin);
-    }
+    const bool jet = LitFormatJet(chemin) != FormatJet::Aucun;
+    throw Panne(jet ? messages::JetNonConvertie : messages::PasUneBase, chemin);
 }
 
 void VerifieContenu(Base& base)
@@ -83,6 +83,13 @@ void VerifieContenu(Base& base)
     VerifieTaille(base);
     const bool verifiable = QFileInfo(base.Chemin()).size() <= kTailleVerifiee;
     if (verifiable && LitTexte(base, QStringLiteral("pragma quick_check(1)")) != QLatin1String("ok")) {
+        throw Panne(messages::BaseEndommagee, base.Chemin());
+    }
+}
+
+void VerifieEnEntier(Base& base)
+{
+    if (LitTexte(base, QStringLiteral("pragma integrity_check(1)")) != QLatin1String("ok")) {
         throw Panne(messages::BaseEndommagee, base.Chemin());
     }
 }

@@ -13,6 +13,9 @@ void VerifieFichier(const QString& chemin);
 /// undamaged as far as that can be seen quickly.
 void VerifieContenu(Base& base);
 
+/// Reads every page of it, whatever its size. Throws `Erreur` when one is damaged.
+void VerifieEnEntier(Base& base);
+
 /// Throws `Erreur` unless it has every table of the current layout, with its columns in their order.
 void VerifieTables(Base& base);
 

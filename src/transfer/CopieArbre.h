@@ -23,8 +23,9 @@ using Avancement = std::function<void(int fichier, int nombre)>;
 /// read back and compared. Throws `Erreur` with the file that failed: the destination is as it was then.
 void CopieArbre(const QString& source, const QString& destination, const Avancement& avancement = {});
 
-/// Finishes in a tree what a cut transfer has left: the new tree when its copy was whole, else the former
-/// one. False when there was nothing. Throws `Erreur`.
+/// Finishes in a tree, and in the directories of it, what a cut transfer has left: the new tree when its copy
+/// was whole, else the former one. False when nothing had been whole. Throws `Erreur`, also while another
+/// program is at it.
 bool FinitTransfert(const QString& arbre);
 
 } // namespace transfer

@@ -1,6 +1,7 @@
 #include "transfer/Transfert.h"
 
 #include "application/Signaux.h"
+#include "backup/Sauvegarde.h"
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "outside/Boites.h"
@@ -60,6 +61,7 @@ bool Copie(Contexte& contexte, const QString& source, const QString& destination
            const Avancement& avancement)
 {
     outside::Boites& boites = contexte.Dehors.Boites;
+    backup::AttendLaSauvegarde();
     contexte.Bases.FermeMedoc();
     contexte.Bases.FermeOrdo();
     try {
@@ -101,6 +103,9 @@ bool DemandeReparation(Contexte& contexte)
 
 void LanceReparation(Contexte& contexte)
 {
+    backup::AttendLaSauvegarde();
+    contexte.Bases.FermeMedoc();
+    contexte.Bases.FermeOrdo();
     const QString programme = common::Joint(contexte.Chemins.CheminProgramme, kUtile);
     if (!contexte.Dehors.Lanceur.Lance(programme)) {
         contexte.Dehors.Boites.Stop(messages::UtileAbsent(common::CheminAffiche(programme)));

@@ -12,7 +12,7 @@ bool TransfereDonnees(application::Contexte& contexte, const Avancement& avancem
 /// `mnuRepare` up to the doctor's answer: true when the program is to end and the repair program to start.
 bool DemandeReparation(application::Contexte& contexte);
 
-/// Starts the repair program of the program's directory; says when it cannot.
+/// Closes the databases and starts the repair program of the program's directory; says when it cannot.
 void LanceReparation(application::Contexte& contexte);
 
 } // namespace transfer

@@ -108,6 +108,26 @@ inline QString NonRemplace(const QString& nom)
     return QStringLiteral("« %1 » n'a pas pu prendre sa place : il est peut-être ouvert ailleurs.").arg(nom);
 }
 
+inline QString NomEnDouble(const QString& nom)
+{
+    return QStringLiteral(
+               "« %1 » ne diffère d'un autre nom que par ses majuscules : la destination ne peut pas "
+               "garder les deux.")
+        .arg(nom);
+}
+
+inline QString SourceVide(const QString& source)
+{
+    return QStringLiteral("Il n'y a aucun fichier à copier dans « %1 ».").arg(source);
+}
+
+inline QString SourceInachevee(const QString& source)
+{
+    return QStringLiteral("« %1 » attend la fin d'un transfert ou d'une restauration : démarrez d'abord le "
+                          "programme sur ces données.")
+        .arg(source);
+}
+
 inline QString Progression(int fichier, int nombre)
 {
     return QStringLiteral("Fichier %1 sur %2").arg(fichier + 1).arg(nombre);

@@ -1,8 +1,8 @@
 #include "upgrade/MajDue.h"
 
+#include "application/Relance.h"
 #include "common/Fichiers.h"
 #include "outside/Boites.h"
-#include "outside/Lanceur.h"
 #include "outside/Plateau.h"
 #include "outside/Tente.h"
 #include "startup/Chemins.h"
@@ -90,10 +90,7 @@ void Redemarre(Contexte& contexte)
     contexte.Bases.FermeOrdo();
     contexte.Dehors.Plateau.Retire();
     contexte.Dehors.Boites.Information(messages::Redemarrage());
-    const QString programme = Joint(contexte.Chemins.CheminProgramme, QStringLiteral("Scriptelle.exe"));
-    if (!contexte.Dehors.Lanceur.Lance(common::CheminAffiche(programme))) {
-        contexte.Dehors.Boites.Stop(messages::RedemarrageImpossible());
-    }
+    application::Relance(contexte);
 }
 
 } // namespace upgrade

@@ -136,9 +136,4 @@ inline QString Redemarrage()
     return QStringLiteral("Le programme doit redémarrer après la mise à jour.");
 }
 
-inline QString RedemarrageImpossible()
-{
-    return QStringLiteral("Scriptelle n'a pas pu être relancé. Relancez le programme vous-même.");
-}
-
 } // namespace upgrade::messages

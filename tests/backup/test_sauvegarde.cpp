@@ -1,11 +1,16 @@
 #include "backup/Restauration.h"
 #include "backup/Sauvegarde.h"
+#include "backup/VerrouArbre.h"
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "storage/Archive.h"
 #include "storage/Base.h"
+#include "storage/EnteteJet.h"
 #include "storage/Jeu.h"
 #include "storage/Schema.h"
+#include "storage/Verification.h"
+#include "support/BaseDeTest.h"
+#include "support/EstVerrouillee.h"
 
 #include <QDir>
 #include <QProcess>
@@ -88,6 +93,11 @@ private Q_SLOTS:
     void RefuseUneCopieAbimee();
     void RefuseUneCopieEtrangere();
     void SepareLesArbres();
+    void RestaureUneBaseJet();
+    void GardeLesVerrousDuProgramme();
+    void UneBaseAuTravailEmpecheLaRestauration();
+    void NeSauvePasDeuxFoisALaFois();
+    void RetireUneEbauche();
 };
 
 void TestSauvegarde::CopieToutLArbre()
@@ -285,6 +295,82 @@ void TestSauvegarde::SepareLesArbres()
     backup::Restaure(serveur, backup::ListeSauvegardes(serveur).first(), kMoment);
     QCOMPARE(backup::ListeSauvegardes(serveur).size(), 2);
     QCOMPARE(backup::ListeSauvegardes(cabinet.LieuDesCopies()).size(), 1);
+}
+
+/// A tree that has not been opened since an import: its databases wait for their conversion.
+void TestSauvegarde::RestaureUneBaseJet()
+{
+    const Cabinet cabinet;
+    QByteArray jet(4096, '\0');
+    jet.replace(4, 15, "Standard Jet DB");
+    jet[0x14] = 1;
+    common::EcritFichier(cabinet.Chemin(u"Medoc.mdb"_s), jet);
+    common::SupprimeFichier(cabinet.Chemin(u"DR NEIBRE/Ordo.mdb"_s));
+    QVERIFY(backup::SauveDuJour(cabinet.LieuDesCopies(), kJour));
+    common::EcritFichier(cabinet.Chemin(u"Medoc.mdb"_s), "perdu");
+    backup::Restaure(cabinet.LieuDesCopies(), backup::ListeSauvegardes(cabinet.LieuDesCopies()).first(),
+                     kMoment);
+    QCOMPARE(common::LitFichier(cabinet.Chemin(u"Medoc.mdb"_s)), jet);
+}
+
+/// The main program writes while its other thread copies: its locks hold against the other programs.
+void TestSauvegarde::GardeLesVerrousDuProgramme()
+{
+#ifdef Q_OS_UNIX
+    const Cabinet cabinet;
+    storage::Base ouverte(cabinet.Chemin(u"Medoc.mdb"_s), storage::GenreBase::Medoc);
+    storage::Transaction transaction(ouverte);
+    Cabinet::AjouteDans(ouverte, u"AMLOR"_s);
+    QVERIFY(support::EstVerrouillee(cabinet.Chemin(u"Medoc.mdb"_s)));
+    backup::SauveDuJour(cabinet.LieuDesCopies(), kJour);
+    QVERIFY(support::EstVerrouillee(cabinet.Chemin(u"Medoc.mdb"_s)));
+    QCOMPARE(storage::LitFormatJet(cabinet.Chemin(u"Medoc.mdb"_s)), storage::FormatJet::Aucun);
+    storage::VerifieFichier(cabinet.Chemin(u"Medoc.mdb"_s));
+    QVERIFY(support::EstVerrouillee(cabinet.Chemin(u"Medoc.mdb"_s)));
+#endif
+}
+
+void TestSauvegarde::UneBaseAuTravailEmpecheLaRestauration()
+{
+    const Cabinet cabinet;
+    backup::SauveDuJour(cabinet.LieuDesCopies(), kJour);
+    cabinet.AjouteMedicament(u"AMLOR"_s);
+    QString phrase;
+    {
+        storage::Base ouverte(cabinet.Chemin(u"Medoc.mdb"_s), storage::GenreBase::Medoc);
+        storage::Transaction transaction(ouverte);
+        Cabinet::AjouteDans(ouverte, u"PAS ENCORE"_s);
+        phrase = support::PhraseDEchec([&] {
+            backup::Restaure(cabinet.LieuDesCopies(),
+                             backup::ListeSauvegardes(cabinet.LieuDesCopies()).first(), kMoment);
+        });
+    }
+    QVERIFY2(phrase.contains(u"Medoc.mdb"_s), qPrintable(phrase));
+    QCOMPARE(cabinet.Medicaments(), (QStringList{u"DOLIPRANE"_s, u"AMLOR"_s}));
+    QVERIFY(!backup::RestaurationEnCours(cabinet.Arbre()));
+    QVERIFY(!common::FichierExiste(cabinet.Chemin(u"Restauration.tmp"_s)));
+}
+
+void TestSauvegarde::NeSauvePasDeuxFoisALaFois()
+{
+    const Cabinet cabinet;
+    const Lieu lieu = cabinet.LieuDesCopies();
+    common::CreeDossier(lieu.Dossier + u"/abcdef.tmp"_s); // of the other one
+    {
+        const backup::VerrouArbre autre(lieu.Dossier);
+        QVERIFY(!backup::SauveDuJour(lieu, kJour));
+        QVERIFY(common::DossierExiste(lieu.Dossier + u"/abcdef.tmp"_s));
+    }
+    QVERIFY(backup::SauveDuJour(lieu, kJour));
+    QVERIFY(!common::DossierExiste(lieu.Dossier + u"/abcdef.tmp"_s));
+}
+
+void TestSauvegarde::RetireUneEbauche()
+{
+    const Cabinet cabinet;
+    common::EcritFichier(cabinet.Chemin(u"Restauration.tmp"_s), "à moitié");
+    QVERIFY(!backup::FinitRestauration(cabinet.Arbre()));
+    QVERIFY(!common::FichierExiste(cabinet.Chemin(u"Restauration.tmp"_s)));
 }
 
 QTEST_GUILESS_MAIN(TestSauvegarde)

@@ -1,12 +1,18 @@
+#include "backup/Restauration.h"
+#include "backup/Sauvegarde.h"
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
+#include "storage/Archive.h"
 #include "storage/Base.h"
 #include "storage/Schema.h"
+#include "support/BaseDeTest.h"
+#include "support/SansPrivilege.h"
 #include "transfer/CopieArbre.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QMap>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -80,6 +86,15 @@ private Q_SLOTS:
     void FinitUneCopieEntiere();
     void JetteUneEbauche();
     void CopieUneBaseOuverte();
+    void JoueLeJournalDUneCoupure();
+    void UnDossierIllisibleEstDit();
+    void SuitUnLienDeLArbre();
+    void UneSourceVideEstDite();
+    void UneSourceInacheveeEstRefusee();
+    void UneBaseAuTravailEstRefusee();
+    void UnAutrePosteAttend();
+    void FinitAussiDansUnDossierDeLArbre();
+    void UneRestaurationCoupeeNEcrasePasLaCopie();
 };
 
 void TestCopieArbre::Compare_data()
@@ -230,6 +245,140 @@ void TestCopieArbre::CopieUneBaseOuverte()
     copie.Parcourt(u"select CIP from MedUtile"_s, {}, [&](const storage::Rangee&) { ++lignes; });
     QCOMPARE(lignes, 0);
     transaction.Valide();
+}
+
+/// A program that was cut while it wrote leaves a journal: its half transaction is none of the copy.
+void TestCopieArbre::JoueLeJournalDUneCoupure()
+{
+    const DeuxArbres arbres;
+    const QString base = arbres.Source(u"Medoc.mdb"_s);
+    {
+        storage::Base ouverte(base, storage::GenreBase::Medoc);
+        storage::Transaction transaction(ouverte);
+        ouverte.Execute(u"pragma cache_size=1"_s);
+        for (int i = 0; i < 3000; ++i) {
+            ouverte.Execute(u"insert into MedUtile(CIP) values(?)"_s, {QString::number(i)});
+        }
+        QProcess::execute(u"cp"_s, {base, arbres.Racine() + u"/coupee"_s});
+        QProcess::execute(u"cp"_s, {base + u"-journal"_s, arbres.Racine() + u"/journal"_s});
+    }
+    common::CopieFichier(arbres.Racine() + u"/coupee"_s, base);
+    common::CopieFichier(arbres.Racine() + u"/journal"_s, base + u"-journal"_s);
+    transfer::CopieArbre(arbres.Source(), arbres.Cible());
+    storage::Base copie(arbres.Cible(u"Medoc.mdb"_s), storage::GenreBase::Medoc);
+    int lignes = 0;
+    copie.Parcourt(u"select CIP from MedUtile"_s, {}, [&](const storage::Rangee&) { ++lignes; });
+    QCOMPARE(lignes, 0);
+}
+
+void TestCopieArbre::UnDossierIllisibleEstDit()
+{
+#ifdef Q_OS_UNIX
+    const DeuxArbres arbres;
+    QFile::setPermissions(arbres.Source(u"DR NEIBRE"_s), {});
+    for (const QString& dossier : {arbres.Racine(), arbres.Racine() + u"/a"_s, arbres.Source()}) {
+        support::OuvreATous(dossier);
+    }
+    QString phrase;
+    {
+        const support::SansPrivilege prive;
+        phrase = support::PhraseDEchec(
+            [&] { backup::FichiersDeLArbre(arbres.Source(), backup::Etendue::Transfert); });
+    }
+    QFile::setPermissions(arbres.Source(u"DR NEIBRE"_s),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY2(phrase.contains(u"DR NEIBRE"_s), qPrintable(phrase));
+#endif
+}
+
+void TestCopieArbre::SuitUnLienDeLArbre()
+{
+    const DeuxArbres arbres;
+    common::CreeDossier(arbres.Racine() + u"/ailleurs"_s);
+    common::EcritFichier(arbres.Racine() + u"/ailleurs/logo.png"_s, "image");
+    if (!QFile::link(arbres.Racine() + u"/ailleurs"_s, arbres.Source(u"DR NEIBRE/Images"_s)) ||
+        !QFile::link(arbres.Source(), arbres.Source(u"DR NEIBRE/boucle"_s))) {
+        QSKIP("no links here");
+    }
+    transfer::CopieArbre(arbres.Source(), arbres.Cible());
+    QCOMPARE(common::LitFichier(arbres.Cible(u"DR NEIBRE/Images/logo.png"_s)), "image");
+    QVERIFY(!QFileInfo::exists(arbres.Cible(u"DR NEIBRE/boucle"_s)));
+}
+
+void TestCopieArbre::UneSourceVideEstDite()
+{
+    const DeuxArbres arbres;
+    const auto avant = Contenu(arbres.Cible());
+    const QString vide = arbres.Racine() + u"/vide/DataScriptelle"_s;
+    const QString phrase = support::PhraseDEchec([&] { transfer::CopieArbre(vide, arbres.Cible()); });
+    QVERIFY2(phrase.contains(u"aucun fichier"_s), qPrintable(phrase));
+    QCOMPARE(Contenu(arbres.Cible()), avant);
+}
+
+void TestCopieArbre::UneSourceInacheveeEstRefusee()
+{
+    const DeuxArbres arbres;
+    const auto avant = Contenu(arbres.Cible());
+    common::CreeDossier(arbres.Source(u"Transfert.pret"_s));
+    const QString phrase =
+        support::PhraseDEchec([&] { transfer::CopieArbre(arbres.Source(), arbres.Cible()); });
+    QVERIFY2(phrase.contains(u"attend la fin"_s), qPrintable(phrase));
+    QCOMPARE(Contenu(arbres.Cible()), avant);
+}
+
+void TestCopieArbre::UneBaseAuTravailEstRefusee()
+{
+    const DeuxArbres arbres;
+    common::SupprimeFichier(arbres.Cible(u"Medoc.mdb"_s));
+    storage::CreeBase(arbres.Cible(u"Medoc.mdb"_s), storage::GenreBase::Medoc);
+    const auto avant = Contenu(arbres.Cible());
+    QString phrase;
+    {
+        storage::Base ouverte(arbres.Cible(u"Medoc.mdb"_s), storage::GenreBase::Medoc);
+        storage::Transaction transaction(ouverte);
+        ouverte.Execute(u"insert into MedUtile(CIP) values(?)"_s, {u"1"_s});
+        phrase = support::PhraseDEchec([&] { transfer::CopieArbre(arbres.Source(), arbres.Cible()); });
+    }
+    QVERIFY2(phrase.contains(u"Medoc.mdb"_s), qPrintable(phrase));
+    QCOMPARE(Contenu(arbres.Cible()), avant);
+}
+
+/// A start on the tree that another station is filling neither removes its draft nor finishes it.
+void TestCopieArbre::UnAutrePosteAttend()
+{
+    const DeuxArbres arbres;
+    QString phrase;
+    transfer::CopieArbre(arbres.Source(), arbres.Cible(), [&](int fichier, int) {
+        if (fichier == 2) {
+            phrase = support::PhraseDEchec([&] { transfer::FinitTransfert(arbres.Cible()); });
+        }
+    });
+    QVERIFY2(phrase.contains(u"Attendez"_s), qPrintable(phrase));
+    QCOMPARE(Contenu(arbres.Cible()).value(u"Medecin.ini"_s), "nouveau");
+}
+
+void TestCopieArbre::FinitAussiDansUnDossierDeLArbre()
+{
+    const DeuxArbres arbres;
+    const QString pret = arbres.Cible(u"DR AUTRE/Transfert.pret"_s);
+    common::CreeDossier(pret);
+    common::EcritFichier(pret + u"/Options.cfg"_s, "nouveau");
+    QVERIFY(transfer::FinitTransfert(arbres.Cible()));
+    QCOMPARE(common::LitFichier(arbres.Cible(u"DR AUTRE/Options.cfg"_s)), "nouveau");
+    QVERIFY(!common::DossierExiste(pret));
+}
+
+void TestCopieArbre::UneRestaurationCoupeeNEcrasePasLaCopie()
+{
+    const DeuxArbres arbres;
+    {
+        storage::Archive archive(arbres.Cible(u"Restauration.sqlar"_s), storage::Archive::Mode::Creation);
+        archive.Ajoute(u"Medecin.ini"_s, "d'autrefois", QDateTime::currentDateTime());
+        archive.Valide();
+    }
+    transfer::CopieArbre(arbres.Source(), arbres.Cible());
+    QVERIFY(!backup::FinitRestauration(arbres.Cible()));
+    QCOMPARE(common::LitFichier(arbres.Cible(u"Medecin.ini"_s)), "nouveau");
 }
 
 QTEST_GUILESS_MAIN(TestCopieArbre)

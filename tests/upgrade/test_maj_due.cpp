@@ -1,3 +1,4 @@
+#include "application/messages.h"
 #include "common/Erreur.h"
 #include "startup/DialoguesStockage.h"
 #include "startup/MondeDemarrage.h"
@@ -208,7 +209,8 @@ void TestMajDue::redemarreImpossible()
 {
     support::Monde monde;
     monde.Lanceur.Reussit = false;
-    monde.Boites.AttendInformation(messages::Redemarrage()).AttendStop(messages::RedemarrageImpossible());
+    monde.Boites.AttendInformation(messages::Redemarrage())
+        .AttendStop(application::messages::RedemarrageImpossible());
     upgrade::Redemarre(monde.Contexte);
 }
 

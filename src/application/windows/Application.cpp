@@ -4,8 +4,6 @@
 #include "application/windows/BarreAttente.h"
 #include "application/windows/Sablier.h"
 #include "backup/Sauvegarde.h"
-#include "backup/messages.h"
-#include "common/Erreur.h"
 #include "drugbank/windows/FrmI.h"
 #include "medication/windows/FrmPoso.h"
 #include "outside/Boites.h"
@@ -17,7 +15,6 @@
 #include "startup/windows/FrmDepart.h"
 
 #include <QApplication>
-#include <QThreadPool>
 
 namespace application {
 
@@ -50,7 +47,7 @@ Application::Application(const Dehors& dehors, const QString& cheminProgramme,
 Application::~Application()
 {
     contexte_.Dehors.Plateau.Ecoute({});
-    QThreadPool::globalInstance()->waitForDone(); // the safety copy of the day
+    backup::AttendLaSauvegarde();
 }
 
 bool Application::Demarre()
@@ -71,15 +68,10 @@ void Application::SauveDuJour()
 {
     const backup::Lieu lieu = backup::LieuDuTravail(contexte_.Chemins);
     const QDate jour = contexte_.Dehors.Horloge.Aujourdhui();
-    QThreadPool::globalInstance()->start([this, lieu, jour] {
-        try {
-            backup::SauveDuJour(lieu, jour);
-        } catch (const common::Erreur& erreur) {
-            const QString phrase = backup::messages::SauvegardeEchouee(erreur.Phrase());
-            QMetaObject::invokeMethod(
-                &etat_.Signaux, [this, phrase] { Q_EMIT etat_.Signaux.SauvegardeEchouee(phrase); },
-                Qt::QueuedConnection);
-        }
+    backup::SauveEnFond(lieu, jour, [this](const QString& phrase) {
+        QMetaObject::invokeMethod(
+            &etat_.Signaux, [this, phrase] { Q_EMIT etat_.Signaux.SauvegardeEchouee(phrase); },
+            Qt::QueuedConnection);
     });
 }
 

@@ -1,5 +1,6 @@
 #include "backup/windows/FrmRestaure.h"
 
+#include "application/Relance.h"
 #include "application/Signaux.h"
 #include "application/windows/Sablier.h"
 #include "application/windows/Style.h"
@@ -8,16 +9,13 @@
 #include "common/Erreur.h"
 #include "outside/Boites.h"
 #include "outside/Horloge.h"
-#include "outside/Lanceur.h"
 #include "startup/Chemins.h"
 #include "storage/Bases.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QThreadPool>
 #include <QVBoxLayout>
 
 namespace backup {
@@ -41,7 +39,12 @@ FrmRestaure::FrmRestaure(application::Contexte& contexte, application::Fenetres&
     setObjectName(QStringLiteral("FrmRestaure"));
     setWindowTitle(QStringLiteral("Restaurer une sauvegarde"));
     Dispose();
+    Branche();
     Remplit();
+}
+
+void FrmRestaure::Branche()
+{
     connect(CmdAnnuler_, &QPushButton::clicked, this, &FrmRestaure::reject);
     connect(CmdOK_, &QPushButton::clicked, this, &FrmRestaure::Restaure);
     connect(LstSauvegardes_, &QListWidget::itemSelectionChanged, this,
@@ -82,7 +85,7 @@ void FrmRestaure::Dispose()
 
 void FrmRestaure::Remplit()
 {
-    QThreadPool::globalInstance()->waitForDone(); // that of today may be on its way
+    AttendLaSauvegarde(); // that of today may be on its way
     sauvegardes_ = ListeSauvegardes(lieu_);
     for (const Sauvegarde& sauvegarde : std::as_const(sauvegardes_)) {
         LstSauvegardes_->addItem(Ligne(sauvegarde));
@@ -90,6 +93,8 @@ void FrmRestaure::Remplit()
     if (sauvegardes_.isEmpty()) {
         LstSauvegardes_->setEnabled(false);
         LstSauvegardes_->addItem(messages::AucuneSauvegarde());
+    } else {
+        LstSauvegardes_->setCurrentRow(0);
     }
 }
 
@@ -103,7 +108,7 @@ void FrmRestaure::Restaure()
         return;
     }
     accept();
-    contexte_.Dehors.Lanceur.Lance(QCoreApplication::applicationFilePath());
+    application::Relance(contexte_);
     Q_EMIT contexte_.Signaux.FinDemandee();
 }
 

@@ -20,6 +20,7 @@ public:
 
 private:
     void Dispose();
+    void Branche();
     void Remplit();
     void Restaure();
     /// False when nothing was changed: the doctor has read why.

@@ -77,11 +77,13 @@ void FrmJournal::Lit(const QString& chemin)
     LblEtat_->clear();
     PB_->setValue(0);
     PB_->show();
+    layout()->activate(); // the bar is painted in its place
     const bool entier = JournalEntrees_.Lit(chemin, [this](qint64 lus, qint64 total) { Avance(lus, total); });
     PB_->hide();
     LblEtat_->setText(entier ? messages::JournalLu(JournalEntrees_.Nombre())
                              : messages::JournalLuEnPartie(JournalEntrees_.Nombre()));
     Remplit();
+    (OptDate_->isChecked() ? LstDate_ : LstPat_)->setFocus();
 }
 
 void FrmJournal::Avance(qint64 lus, qint64 total)

@@ -1,9 +1,9 @@
 #include "application/windows/Style.h"
+#include "patients/windows/ListeChoix.h"
 #include "prescription/windows/FrmJournal.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListView>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
@@ -59,13 +59,10 @@ QLabel* FrmJournal::FaitLegende(const char* nom, const QString& texte, QRadioBut
 QListView* FrmJournal::FaitListe(const char* nom, ListeJournal& rangs, QVBoxLayout* colonne,
                                  const QString& titre)
 {
-    auto* liste = new QListView(this);
+    auto* liste = new patients::ListeChoix(this);
     liste->setObjectName(QLatin1String(nom));
     liste->setModel(&rangs);
-    liste->setEditTriggers(QListView::NoEditTriggers);
     liste->setUniformItemSizes(true);
-    liste->setTextElideMode(Qt::ElideRight);
-    liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     liste->setAccessibleName(QString(titre).remove(u'&'));
     colonne->addWidget(style::Titre({}, titre, this, liste));
     colonne->addWidget(liste, 1);

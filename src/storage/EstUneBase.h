@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace storage {
+
+/// Whether the file is one of the database engine, by its first bytes. They are asked of the engine, not
+/// read here: a program that closes a file which it has open as a database too loses the locks on it, where
+/// the system counts them by program. False when it cannot be opened. Safe from every thread.
+bool EstUneBase(const QString& chemin);
+
+} // namespace storage
