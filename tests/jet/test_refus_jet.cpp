@@ -53,6 +53,7 @@ private Q_SLOTS:
     void RefuseUnMauvaisLecteur();
     void DitQueLeSupportEstParti();
     void RefuseUneBaseSansNosTables();
+    void RefuseUneTableRenommeeParAccident_data();
     void RefuseUneTableRenommeeParAccident();
     void SupporteDesCopiesAbimees();
     void AttendLAutrePoste();
@@ -217,15 +218,31 @@ void TestRefusJet::RefuseUneBaseSansNosTables()
 }
 
 /// One letter of a name in the catalogue: a whole table would be lost without a word.
+void TestRefusJet::RefuseUneTableRenommeeParAccident_data()
+{
+    QTest::addColumn<QString>("fichier");
+    QTest::addColumn<QByteArray>("nom");
+    QTest::newRow("lines") << kPetit << QByteArray("OrdoEnr");
+    QTest::newRow("patients") << kPetit << QByteArray("Patients");
+    QTest::newRow("patients of version 1") << QStringLiteral("ancien/Ordo.mdb") << QByteArray("Patients");
+}
+
 void TestRefusJet::RefuseUneTableRenommeeParAccident()
 {
     if (!DonneesJet::Presentes()) {
         QSKIP("the Jet files are not here");
     }
-    CopieJet copie(kPetit);
+    QFETCH(QString, fichier);
+    QFETCH(QByteArray, nom);
+    CopieJet copie(fichier);
     QByteArray octets = copie.Contenu();
-    octets.replace("OrdoEnr", "OrdoEnq");
-    octets.replace(QByteArray("O\0r\0d\0o\0E\0n\0r\0", 14), QByteArray("O\0r\0d\0o\0E\0n\0q\0", 14));
+    // Jet 4 keeps a name in its short form, one byte a character, or in two.
+    QByteArray large;
+    for (const char lettre : std::as_const(nom)) {
+        large.append(lettre).append('\0');
+    }
+    octets.replace(nom, nom.chopped(1) + 'q');
+    octets.replace(large, large.chopped(2) + QByteArray("q\0", 2));
     QVERIFY(octets != copie.Contenu());
     copie.Ecris(octets);
     const QString phrase = copie.Convertit();

@@ -71,12 +71,13 @@ bool Ressemble(const storage::TableJet& jet, const storage::Table& table)
 /// under a name that damage has made: a whole table would be lost without a word.
 void VerifieAbsentes(const Fichier& fichier, Entrees entrees, storage::GenreBase genre)
 {
-    for (const storage::Table& table : storage::Tables(genre)) {
+    const QList<storage::Table> connues = storage::TablesConnues(genre);
+    for (const storage::Table& table : connues) {
         if (std::ranges::any_of(entrees, [&](const auto* entree) { return SeNomme(*entree, table.Nom); })) {
             continue;
         }
         for (MdbCatalogEntry* entree : entrees) {
-            if (mdb_is_user_table(entree) && !Cherche(storage::TablesConnues(genre), *entree) &&
+            if (mdb_is_user_table(entree) && !Cherche(connues, *entree) &&
                 Ressemble(Table(fichier, *entree).Description(), table)) {
                 throw Defaut("a table of ours under another name");
             }

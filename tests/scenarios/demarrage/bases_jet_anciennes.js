@@ -39,3 +39,31 @@ if (!existe(jeux + "ancien/Medoc.mdb")) {
     joue("ancien");
     joue("ancien_jet3");
 }
+
+// Le même arbre apporté sur une clef
+if (existe(jeux + "ancien/Medoc.mdb")) {
+    const clef = utilisateur + "/clef d'été";
+    const arbre = clef + "/DataScriptelle";
+    creerDossier(clef);
+    copier(data, arbre);
+    copier(jeux + "ancien/Medoc.mdb", arbre + "/Medoc.mdb");
+    copier(jeux + "ancien/Ordo.mdb", arbre + "/Ordo.mdb");
+    copier(jeux + "ancien/Ordo.mdb", arbre + "/DR NEIBRE/Ordo.mdb");
+    ecrire(arbre + "/Medoc.ldb", "POSTE1");
+    lancer();
+    choisir("FrmChoixBase.CboBase", 1);
+    clic("FrmChoixBase.CmdSuite");
+    boites([[/^\nVous avez choisi de travailler avec vos données enregistrées sur un support externe/, "OK"],
+        ["Sélectionnez uniquement le NOM du lecteur (ou support)", clef],
+        [/^La base de données « Medoc\.mdb » semble ouverte dans l'ancien programme : le fichier « Medoc\.ldb » est à côté d'elle\./, "OK"]]);
+    aucuneBoite();
+    egal(lireOctets(arbre + "/Medoc.mdb"), lireOctets(jeux + "ancien/Medoc.mdb"), "rien n'est touché");
+    effacer(arbre + "/Medoc.ldb");
+    clic("FrmDepart.CmdNO");
+    clic("FrmOrdo.CmdPatient");
+    aucuneBoite();
+    egal(lignes("FrmPatient.LstPatient").length, 43, "l'ancien programme fermé, tous les patients de la clef");
+    egal(lireOctets(arbre + "/Medoc (Jet).mdb"), lireOctets(jeux + "ancien/Medoc.mdb"), "l'original y reste");
+    fermer("FrmPatient");
+    fermer("FrmOrdo");
+}
