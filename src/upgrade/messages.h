@@ -98,7 +98,8 @@ inline QString MiseEnPlace()
 inline QString Abandonnee(const QString& cause)
 {
     return cause + QStringLiteral("\n\nLa mise à jour n'a pas été faite : vos bases de données sont telles "
-                                  "qu'elles étaient. Elle sera proposée de nouveau au prochain lancement.");
+                                  "qu'elles étaient, et vous pouvez travailler. Elle sera proposée de "
+                                  "nouveau au prochain lancement.");
 }
 
 inline QString Inachevee(const QString& cause)
