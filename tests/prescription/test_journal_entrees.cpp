@@ -61,6 +61,8 @@ private Q_SLOTS:
     void NommeLeMedecin_data();
     void NommeLeMedecin();
     void RemplitUneListe();
+    void UneLigneSansFinNeRetientPersonne();
+    void UneDateSeTapeSansBlanc();
 };
 
 void TestJournalEntrees::LitUneOrdonnance()
@@ -203,6 +205,28 @@ void TestJournalEntrees::RemplitUneListe()
     QCOMPARE(patients.index(0).data(Qt::UserRole).toInt(), 1);
     dates.Vide();
     QCOMPARE(dates.rowCount(), 0);
+}
+
+/// A file that is no journal, or one whose end is lost.
+void TestJournalEntrees::UneLigneSansFinNeRetientPersonne()
+{
+    const Lu lu("20/11/2026*A*1*B\n" + QByteArray(5'000'000, 'x') + "\n21/11/2026*" +
+                QByteArray(5'000'000, 'n') + "*1*" + QByteArray(5'000'000, 'p') + "\n");
+    QCOMPARE(lu.Journal.Nombre(), 3);
+    QCOMPARE(lu.Journal.Prescription(0), u"\r\n  B\r\n"_s);
+    QVERIFY(lu.Journal.Date(1).size() <= 1000);
+    QVERIFY(lu.Journal.Patient(2).size() < 2100);
+    QVERIFY(lu.Journal.Prescription(2).size() < 1'100'000);
+}
+
+void TestJournalEntrees::UneDateSeTapeSansBlanc()
+{
+    const Lu lu("20/11/2026*A*1*B\n21/11/2026*C*1*D\n");
+    ListeJournal dates(lu.Journal, RangJournal::Date);
+    dates.Remplit(lu.Journal.Dates(), false);
+    const auto trouves = dates.match(dates.index(0), Qt::DisplayRole, u"21"_s, 1, Qt::MatchStartsWith);
+    QCOMPARE(trouves.size(), 1);
+    QCOMPARE(trouves.first().row(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestJournalEntrees)

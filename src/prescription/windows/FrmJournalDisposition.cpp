@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 // What FrmJournal is made of.
@@ -79,6 +80,9 @@ QLayout* FrmJournal::FaitListes()
         return style::DansCarte(carte);
     };
     LstDate_ = FaitListe("LstDate", dates_, colonne(2), QStringLiteral("D&ates"));
+    const int autour = LstDate_->verticalScrollBar()->sizeHint().width() + 2 * style::kEntreGroupes;
+    LstDate_->setMinimumWidth(LstDate_->fontMetrics().horizontalAdvance(QStringLiteral(" 00/00/0000")) +
+                              autour);
     LstPat_ = FaitListe("LstPat", patients_, colonne(4), QStringLiteral("Pat&ients"));
     QVBoxLayout* texte = colonne(5);
     TxtPresc_ = new QPlainTextEdit(this);
