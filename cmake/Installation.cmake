@@ -11,7 +11,7 @@ install(CODE "set(DOSSIER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${SCRIPTELLE_
 set(MODELE \"${CMAKE_BINARY_DIR}/installation/BasesInstal/Copie de Medoc.mdb\")
 include(\"${CMAKE_CURRENT_LIST_DIR}/DeclencheMaj.cmake\")")
 
-install(TARGETS Scriptelle scriptelle-banque RUNTIME DESTINATION ${SCRIPTELLE_DOSSIER})
+install(TARGETS Scriptelle Utile scriptelle-banque RUNTIME DESTINATION ${SCRIPTELLE_DOSSIER})
 if(TARGET scriptelle-jet)
     install(TARGETS scriptelle-jet RUNTIME DESTINATION ${SCRIPTELLE_DOSSIER})
 endif()

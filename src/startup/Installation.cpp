@@ -19,6 +19,16 @@ bool PeutEcrire(const QString& dossier)
     return essai.open();
 }
 
+QString Configuration()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+}
+
+QString ParConfiguration(const QString& cheminConfiguration)
+{
+    return Joint(cheminConfiguration, QStringLiteral("Scriptelle"));
+}
+
 QString FichierVersion(const QString& installation)
 {
     return Joint(installation, QStringLiteral("Installation.cfg"));
@@ -57,10 +67,14 @@ bool ModeleChange(const QString& cheminProgramme, const QString& installation)
 
 } // namespace
 
+QString TrouveInstallation(const QString& cheminProgramme)
+{
+    return PeutEcrire(cheminProgramme) ? cheminProgramme : ParConfiguration(Configuration());
+}
+
 QString PrepareInstallation(const QString& cheminProgramme)
 {
-    return PrepareInstallation(cheminProgramme,
-                               QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    return PrepareInstallation(cheminProgramme, Configuration());
 }
 
 QString PrepareInstallation(const QString& cheminProgramme, const QString& cheminConfiguration)
@@ -68,7 +82,7 @@ QString PrepareInstallation(const QString& cheminProgramme, const QString& chemi
     if (PeutEcrire(cheminProgramme)) {
         return cheminProgramme;
     }
-    const QString installation = Joint(cheminConfiguration, QStringLiteral("Scriptelle"));
+    const QString installation = ParConfiguration(cheminConfiguration);
     common::CreeDossierPrive(installation);
     CopieInstallation(cheminProgramme, installation);
     return installation;

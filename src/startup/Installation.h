@@ -4,6 +4,9 @@
 
 namespace startup {
 
+/// Where `PrepareInstallation` says that the path files are, without copying anything there.
+QString TrouveInstallation(const QString& cheminProgramme);
+
 /// The directory for path files, "BasesInstal" and an installer's databases: the program directory when
 /// it can be written, else "Scriptelle" of the user's configuration directory, into which what an
 /// installer left is copied once per version. Throws `Erreur`.

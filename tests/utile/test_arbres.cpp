@@ -1,0 +1,153 @@
+#include "Rapport.h"
+
+#include "ArbreDeTest.h"
+#include "Soin.h"
+#include "messages.h"
+
+#include "startup/FichiersChemins.h"
+
+#include <QProcess>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using support::ArbreDeTest;
+using utile::Arbre;
+
+namespace {
+
+void EcritChemins(const QString& installation, const QString& data, const QString& base, quint8 stockage)
+{
+    startup::Chemins chemins;
+    chemins.CheminInstallation = installation;
+    chemins.CheminData = data;
+    chemins.CheminBase = base;
+    chemins.IndexStockage = stockage;
+    startup::EcritCheminData(chemins);
+    startup::EcritCheminBase(chemins, {});
+}
+
+} // namespace
+
+class TestArbres : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TrouveLesBases();
+    void NommeCeQuiNEstPasLa();
+    void TrouveLeSupport();
+    void SansDonnees();
+    void LeProgrammeFaitSonRapport();
+    void UnProgrammeTueLaisseUneBaseEntiere();
+};
+
+void TestArbres::TrouveLesBases()
+{
+    const ArbreDeTest arbre;
+    const QTemporaryDir installation;
+    common::CreeDossier(arbre.Chemin(u"Sauvegardes"_s));
+    common::CopieFichier(arbre.Medoc().Chemin, arbre.Chemin(u"Sauvegardes/Medoc.mdb"_s));
+    common::CopieFichier(arbre.Ordo().Chemin, arbre.Chemin(u"ordo.mdb"_s));
+    EcritChemins(installation.path(), arbre.Racine(), arbre.Racine(), 0);
+    const auto arbres = utile::TrouveArbres(installation.path(), {});
+    QCOMPARE(arbres.size(), 1);
+    QStringList chemins;
+    for (const auto& base : utile::BasesDe(arbres)) {
+        chemins.append(QDir(arbre.Racine()).relativeFilePath(base.Chemin));
+    }
+    QCOMPARE(chemins, (QStringList{u"Medoc.mdb"_s, u"ordo.mdb"_s, u"DR NEIBRE/Ordo.mdb"_s}));
+}
+
+void TestArbres::NommeCeQuiNEstPasLa()
+{
+    const ArbreDeTest arbre;
+    const QTemporaryDir installation;
+    EcritChemins(installation.path(), arbre.Racine(), u"/absent/serveur/DataScriptelle"_s, 1);
+    const auto arbres = utile::TrouveArbres(installation.path(), {});
+    QCOMPARE(arbres.size(), 3);
+    const QString rapport = utile::Rapport(arbres, {});
+    QVERIFY2(rapport.contains(u"Serveur : /absent/serveur/DataScriptelle n'est pas accessible"_s),
+             qPrintable(rapport));
+    QVERIFY2(rapport.contains(u"Support amovible n'est pas branché"_s), qPrintable(rapport));
+    QCOMPARE(utile::CodeDe(arbres, {}), utile::kAttention);
+}
+
+void TestArbres::TrouveLeSupport()
+{
+    const ArbreDeTest arbre;
+    const QTemporaryDir installation;
+    const QTemporaryDir clef;
+    common::CreeDossier(clef.filePath(u"DataScriptelle"_s));
+    EcritChemins(installation.path(), arbre.Racine(), {}, 1);
+    const auto arbres = utile::TrouveArbres(installation.path(), {u"/absent"_s, clef.path()});
+    QCOMPARE(arbres.size(), 2);
+    QCOMPARE(arbres[1].Chemin, clef.filePath(u"DataScriptelle"_s));
+    QVERIFY(arbres[1].Present);
+}
+
+void TestArbres::SansDonnees()
+{
+    const QTemporaryDir installation;
+    const auto arbres = utile::TrouveArbres(installation.path(), {});
+    QVERIFY(arbres.isEmpty());
+    QCOMPARE(utile::CodeDe(arbres, {}), utile::kSansDonnees);
+    QCOMPARE(utile::Rapport(arbres, {}), utile::messages::AucuneDonnee() + u'\n');
+}
+
+void TestArbres::LeProgrammeFaitSonRapport()
+{
+    const ArbreDeTest arbre;
+    arbre.Remplit(300, false);
+    support::Gate(arbre.Medoc().Chemin, 40 * 4096, QByteArray(4096, '\xA5'));
+    const QTemporaryDir programme;
+    const QString utile = programme.filePath(u"Utile"_s);
+    QVERIFY(QFile::copy(QStringLiteral(CHEMIN_UTILE), utile));
+    EcritChemins(programme.path(), arbre.Racine(), {}, 0);
+    QProcess rapport;
+    rapport.start(utile, {u"--rapport"_s});
+    QVERIFY(rapport.waitForFinished());
+    const QString texte = QString::fromUtf8(rapport.readAllStandardOutput());
+    QVERIFY2(texte.contains(u"Endommagée -> Réparée"_s), qPrintable(texte));
+    QVERIFY(texte.contains(u"Patients : 300 lignes gardées"_s));
+    QVERIFY(texte.contains(u"L'ancien fichier est gardé"_s));
+    rapport.start(utile, {u"--rapport"_s});
+    QVERIFY(rapport.waitForFinished());
+    QCOMPARE(rapport.exitCode(), 0);
+    rapport.start(utile, {u"--autre"_s});
+    QVERIFY(rapport.waitForFinished());
+    QCOMPARE(rapport.exitCode(), 2);
+}
+
+void TestArbres::UnProgrammeTueLaisseUneBaseEntiere()
+{
+    const QTemporaryDir programme;
+    const QString utile = programme.filePath(u"Utile"_s);
+    QVERIFY(QFile::copy(QStringLiteral(CHEMIN_UTILE), utile));
+    const ArbreDeTest modele;
+    modele.Remplit(2000);
+    {
+        storage::Base base(modele.Medoc().Chemin, storage::GenreBase::Medoc);
+        base.SupprimeOu(u"OrdoEnr"_s, u"rowid % 2 = 0"_s, {});
+    }
+    const auto avant = support::Contenu(modele.Medoc());
+    EcritChemins(programme.path(), modele.Racine(), {}, 0);
+    const QByteArray octets = support::Octets(modele.Medoc().Chemin);
+    for (int attente = 5; attente < 400; attente += 15) {
+        common::EcritFichier(modele.Medoc().Chemin, octets);
+        QProcess rapport;
+        rapport.start(utile, {u"--rapport"_s});
+        QVERIFY(rapport.waitForStarted());
+        QTest::qWait(attente);
+        rapport.kill();
+        rapport.waitForFinished();
+        QCOMPARE(support::Contenu(modele.Medoc()), avant);
+    }
+    QProcess dernier;
+    dernier.start(utile, {u"--rapport"_s});
+    QVERIFY(dernier.waitForFinished());
+    QCOMPARE(dernier.exitCode(), 0);
+    QVERIFY(QDir(modele.Racine()).entryList({u"*.tmp*"_s}, QDir::Files).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestArbres)
+#include "test_arbres.moc"

@@ -1,0 +1,334 @@
+#pragma once
+
+#include "common/Fichiers.h"
+
+#include <QString>
+
+/// What the maintenance of the databases says to the doctor.
+namespace utile::messages {
+
+/// Stands in the place of a text that could not be read.
+inline QString TexteIllisible()
+{
+    return QStringLiteral("[illisible]");
+}
+
+// The states of a database.
+inline QString AVerifier()
+{
+    return QStringLiteral("À vérifier");
+}
+
+inline QString Saine()
+{
+    return QStringLiteral("Saine");
+}
+
+inline QString Endommagee()
+{
+    return QStringLiteral("Endommagée");
+}
+
+inline QString DispositionIncomplete()
+{
+    return QStringLiteral("Incomplète");
+}
+
+inline QString Reparee()
+{
+    return QStringLiteral("Réparée");
+}
+
+inline QString RepareeAvecPertes()
+{
+    return QStringLiteral("Réparée, avec des pertes");
+}
+
+inline QString Compactee()
+{
+    return QStringLiteral("Saine, compactée");
+}
+
+inline QString DejaCompacte()
+{
+    return QStringLiteral("Saine, déjà compacte");
+}
+
+inline QString Inchangee()
+{
+    return QStringLiteral("Inchangée");
+}
+
+inline QString Absente()
+{
+    return QStringLiteral("Absente");
+}
+
+inline QString Vide()
+{
+    return QStringLiteral("Fichier vide");
+}
+
+inline QString Jet()
+{
+    return QStringLiteral("Format Access");
+}
+
+inline QString Protegee()
+{
+    return QStringLiteral("Chiffrée ou protégée");
+}
+
+inline QString PasUneBase()
+{
+    return QStringLiteral("Pas une base");
+}
+
+inline QString LectureSeule()
+{
+    return QStringLiteral("En lecture seule");
+}
+
+inline QString EnService()
+{
+    return QStringLiteral("Utilisée");
+}
+
+inline QString TropRecente()
+{
+    return QStringLiteral("Trop récente");
+}
+
+inline QString Irreparable()
+{
+    return QStringLiteral("Irréparable");
+}
+
+inline QString Illisible()
+{
+    return QStringLiteral("Illisible");
+}
+
+// The sentences behind them.
+inline QString ResteTelle()
+{
+    return QStringLiteral(" Elle n'a pas été modifiée.");
+}
+
+inline QString BaseAbsente()
+{
+    return QStringLiteral("Le fichier n'est plus là.");
+}
+
+inline QString BaseVide()
+{
+    return QStringLiteral(
+        "Le fichier a une longueur nulle : il ne contient plus rien à réparer. Remettez une "
+        "sauvegarde depuis Scriptelle : Outils, « Restaurer une sauvegarde… ».");
+}
+
+inline QString SeraConvertie()
+{
+    return QStringLiteral("La base est au format Access : elle sera convertie au prochain démarrage de "
+                          "Scriptelle.") +
+           ResteTelle();
+}
+
+inline QString JetProtegee()
+{
+    return QStringLiteral("La base Access est chiffrée ou protégée par un mot de passe : retirez la "
+                          "protection dans Access.") +
+           ResteTelle();
+}
+
+inline QString JetNonLue()
+{
+    return QStringLiteral("La base est au format Access, endommagée ou trop récente : elle ne peut pas être "
+                          "réparée ici.") +
+           ResteTelle();
+}
+
+inline QString Etrangere()
+{
+    return QStringLiteral("Le fichier n'est pas une base de données de Scriptelle, ou il est chiffré. Il n'a "
+                          "pas été modifié.");
+}
+
+inline QString AutreGenre()
+{
+    return QStringLiteral(
+        "Le fichier contient une autre base de Scriptelle que celle que son nom annonce. Il "
+        "n'a pas été modifié.");
+}
+
+inline QString VersionPlusRecente()
+{
+    return QStringLiteral("La base a été créée par une version plus récente de Scriptelle.") + ResteTelle();
+}
+
+inline QString PasLeDroitDEcrire()
+{
+    return QStringLiteral("La base ou son dossier est en lecture seule.") + ResteTelle();
+}
+
+inline QString LectureRefusee()
+{
+    return QStringLiteral("La base ne peut pas être lue : l'accès est refusé.") + ResteTelle();
+}
+
+inline QString UtiliseePar(const QString& programme)
+{
+    const QString par = programme.isEmpty() ? QStringLiteral("un autre poste ou un autre programme")
+                                            : QStringLiteral("le programme « %1 »").arg(programme);
+    return QStringLiteral("La base est utilisée par %1 : fermez Scriptelle sur tous les postes, puis "
+                          "recommencez.")
+               .arg(par) +
+           ResteTelle();
+}
+
+inline QString RienALire()
+{
+    return QStringLiteral("La base est trop endommagée : aucune ligne ne peut en être lue. Remettez une "
+                          "sauvegarde depuis Scriptelle : Outils, « Restaurer une sauvegarde… ».") +
+           ResteTelle();
+}
+
+inline QString LignesPerdues()
+{
+    return QStringLiteral("Des lignes n'ont pas pu être lues en entier. Une sauvegarde d'un jour précédent "
+                          "peut les contenir : dans Scriptelle, Outils, « Restaurer une sauvegarde… ».");
+}
+
+inline QString LignesSansTable(qint64 nombre)
+{
+    return QStringLiteral("%1 lignes retrouvées n'ont pu être attribuées à aucune table ; elles restent dans "
+                          "l'ancien fichier.")
+        .arg(nombre);
+}
+
+inline QString PeutEtreSupprimees()
+{
+    return QStringLiteral(
+        "Le début du fichier était détruit : vérifiez que des fiches supprimées autrefois ne "
+        "sont pas revenues.");
+}
+
+inline QString CopieDifferente()
+{
+    return QStringLiteral("La nouvelle base n'a pas les mêmes lignes que l'ancienne : elle a été écartée.");
+}
+
+inline QString ChangeePendant()
+{
+    return QStringLiteral("La base a été modifiée par un autre poste pendant le travail : recommencez.") +
+           ResteTelle();
+}
+
+inline QString CopieGardee(const QString& copie)
+{
+    return QStringLiteral("L'ancien fichier est gardé : « %1 ».").arg(common::CheminAffiche(copie));
+}
+
+inline QString ArretDemande()
+{
+    return QStringLiteral("Arrêt demandé avant cette base.") + ResteTelle();
+}
+
+/// "Patients : 1200 lignes gardées, 12 perdues".
+inline QString LigneDeTable(const QString& nom, qint64 gardees)
+{
+    return QStringLiteral("%1 : %2 lignes gardées").arg(nom).arg(gardees);
+}
+
+inline QString Perdues(qint64 nombre, bool auPlus)
+{
+    return auPlus ? QStringLiteral(", %1 perdues au plus").arg(nombre)
+                  : QStringLiteral(", %1 perdues").arg(nombre);
+}
+
+inline QString PerduesSansNombre()
+{
+    return QStringLiteral(", des lignes perdues en nombre inconnu");
+}
+
+inline QString Incompletes(qint64 nombre)
+{
+    return QStringLiteral(", dont %1 incomplètes (« [illisible] » remplace le texte perdu)").arg(nombre);
+}
+
+// The trees.
+inline QString DisqueLocal()
+{
+    return QStringLiteral("Disque de l'ordinateur");
+}
+
+inline QString Serveur()
+{
+    return QStringLiteral("Serveur");
+}
+
+inline QString Support()
+{
+    return QStringLiteral("Support amovible");
+}
+
+inline QString ArbreAbsent()
+{
+    return QStringLiteral("n'est pas accessible en ce moment");
+}
+
+inline QString SupportAbsent()
+{
+    return QStringLiteral("n'est pas branché");
+}
+
+inline QString ArbreSansBase()
+{
+    return QStringLiteral("ne contient aucune base");
+}
+
+inline QString AucuneDonnee()
+{
+    return QStringLiteral("Scriptelle n'a encore aucune donnée sur cet ordinateur : démarrez d'abord "
+                          "Scriptelle.");
+}
+
+// The window.
+inline QString TitreFenetre()
+{
+    return QStringLiteral("Réparer et compacter les bases de données");
+}
+
+inline QString Conseil()
+{
+    return QStringLiteral(
+        "Fermez Scriptelle sur tous les postes. Chaque base changée est gardée telle qu'elle "
+        "était, avec sa date, dans « Sauvegardes » ou à côté.");
+}
+
+inline QString EnCours(const QString& base, int rang, int nombre)
+{
+    return QStringLiteral("Base %2 sur %3 : %1").arg(base).arg(rang).arg(nombre);
+}
+
+inline QString ArretApresCelleCi()
+{
+    return QStringLiteral("Arrêt dès que la base en cours est terminée…");
+}
+
+inline QString Fini(qint64 saines, qint64 nombre)
+{
+    return saines == nombre
+               ? QStringLiteral("Terminé : toutes les bases sont saines.")
+               : QStringLiteral("Terminé : %1 bases saines sur %2. Choisissez une base pour en lire "
+                                "le détail.")
+                     .arg(saines)
+                     .arg(nombre);
+}
+
+inline QString Usage()
+{
+    return QStringLiteral("Usage : Utile [--rapport]");
+}
+
+} // namespace utile::messages
