@@ -51,11 +51,11 @@ QString Detail(const Bilan& bilan)
     if (!bilan.Phrase.isEmpty()) {
         lignes.append(bilan.Phrase);
     }
-    for (const BilanTable& table : bilan.Tables) {
-        lignes.append(LigneTable(table));
-    }
     if (!bilan.Copie.isEmpty()) {
         lignes.append(messages::CopieGardee(bilan.Copie));
+    }
+    for (const BilanTable& table : bilan.Tables) {
+        lignes.append(LigneTable(table));
     }
     return lignes.join(u'\n');
 }

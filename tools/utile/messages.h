@@ -318,12 +318,9 @@ inline QString ArretApresCelleCi()
 
 inline QString Fini(qint64 saines, qint64 nombre)
 {
-    return saines == nombre
-               ? QStringLiteral("Terminé : toutes les bases sont saines.")
-               : QStringLiteral("Terminé : %1 bases saines sur %2. Choisissez une base pour en lire "
-                                "le détail.")
-                     .arg(saines)
-                     .arg(nombre);
+    return QStringLiteral("Terminé, bases saines : %1 sur %2. Choisissez une base pour en lire le détail.")
+        .arg(saines)
+        .arg(nombre);
 }
 
 inline QString Usage()
