@@ -5,6 +5,7 @@
 #include "Releve.h"
 #include "messages.h"
 
+#include "backup/VerrouArbre.h"
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
 #include "common/Tolere.h"
@@ -113,9 +114,10 @@ void Chantier::LaisseOccupee(const QString& programme)
 void Chantier::Execute()
 {
     const QString& chemin = bilan_.Base.Chemin;
+    const backup::VerrouArbre arbre(bilan_.Base.Arbre);
     QLockFile verrou(chemin + QStringLiteral(".lock"));
     const QString programme = ProgrammeQuiTient(chemin);
-    if (!programme.isEmpty() || !verrou.tryLock(0)) {
+    if (!programme.isEmpty() || arbre.PrisAilleurs() || !verrou.tryLock(0)) {
         LaisseOccupee(programme);
         return;
     }
