@@ -29,16 +29,6 @@ QStringList TextesZone(const prescription::LignesZone& lignes, const QList<presc
     return textes;
 }
 
-QString ConserveOrdonnance(const Contexte& contexte)
-{
-    try {
-        const QString fichier = SauveOrdonnance(contexte);
-        return fichier.isEmpty() ? QString() : messages::OrdonnanceSauvee(common::CheminAffiche(fichier));
-    } catch (const common::Erreur& erreur) {
-        return messages::OrdonnanceNonSauvee(erreur.Phrase());
-    }
-}
-
 } // namespace
 
 QString TexteOrdonnance(const Contexte& contexte)
@@ -70,6 +60,16 @@ QString SauveOrdonnance(const Contexte& contexte)
     const QString fichier = common::Joint(dossier, QStringLiteral("Ordonnance sauvegardee.txt"));
     common::EcritFichier(fichier, QByteArrayLiteral("\xEF\xBB\xBF") + texte.toUtf8());
     return fichier;
+}
+
+QString ConserveOrdonnance(const Contexte& contexte)
+{
+    try {
+        const QString fichier = SauveOrdonnance(contexte);
+        return fichier.isEmpty() ? QString() : messages::OrdonnanceSauvee(common::CheminAffiche(fichier));
+    } catch (const common::Erreur& erreur) {
+        return messages::OrdonnanceNonSauvee(erreur.Phrase());
+    }
 }
 
 QString FermeSurErreur(Contexte& contexte, const QString& phrase, const QString& lieu)

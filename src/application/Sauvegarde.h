@@ -15,6 +15,9 @@ QString TexteOrdonnance(const Contexte& contexte);
 /// nothing to keep. Throws `Erreur` when it cannot be written.
 QString SauveOrdonnance(const Contexte& contexte);
 
+/// The same, and what a box adds about it, "" when there is none in hand. A failure is part of the text.
+QString ConserveOrdonnance(const Contexte& contexte);
+
 /// What the doctor reads when a failure ends the program; the prescription is kept and the databases
 /// are closed on the way.
 QString FermeSurErreur(Contexte& contexte, const QString& phrase, const QString& lieu);

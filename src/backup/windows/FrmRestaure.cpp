@@ -1,6 +1,7 @@
 #include "backup/windows/FrmRestaure.h"
 
 #include "application/Relance.h"
+#include "application/Sauvegarde.h"
 #include "application/Signaux.h"
 #include "application/windows/Sablier.h"
 #include "application/windows/Style.h"
@@ -122,11 +123,12 @@ bool FrmRestaure::Remet(const Sauvegarde& sauvegarde, const QString& ligne)
         backup::Restaure(lieu_, sauvegarde, contexte_.Dehors.Horloge.Maintenant());
     } catch (const common::Erreur& erreur) {
         const bool commencee = RestaurationEnCours(lieu_.Arbre);
-        boites.Stop(commencee ? messages::RestaurationInterrompue(erreur.Phrase())
+        boites.Stop(commencee ? messages::RestaurationInterrompue(erreur.Phrase()) +
+                                    application::ConserveOrdonnance(contexte_)
                               : messages::RestaurationRefusee(erreur.Phrase()));
         return commencee;
     }
-    boites.Information(messages::Restauree(ligne));
+    boites.Information(messages::Restauree(ligne) + application::ConserveOrdonnance(contexte_));
     return true;
 }
 

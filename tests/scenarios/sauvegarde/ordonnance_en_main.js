@@ -1,0 +1,21 @@
+// Restaurer redémarre le programme : l'ordonnance en main n'est pas perdue pour autant.
+installer();
+const travail = valeur("CheminTravail");
+ajouter("Medoc", "Patients", [1, "Monsieur", "MARTIN  Paul", "20/03/1953", "0", "", "", "", "", "", ""]);
+vider("Medoc", "BddMed");
+ajouter("Medoc", "BddMed", [1, null, null, null, "1 comprimé matin et soir", "ZZTEST 500 MG"]);
+clic("FrmDepart.CmdQuitter");
+horloge("21/11/2026");
+lancer();
+clic("FrmChoixBase.CmdSuite");
+clic("FrmDepart.CmdNO");
+clic("FrmOrdo.CmdNouvelle");
+doubleClic("FrmPatient.LstPatient", 0);
+clic("FrmMedoc.TV", "ZZTEST 500 MG");
+clic("FrmMedoc.CmdAjouter1");
+clic("FrmMedoc.CmdOrdo");
+clic("FrmDepart.mnuRestaure");
+clic("FrmRestaure.CmdOK");
+boites([[/Sauvegarde du 21\/11\/2026/, "Oui"], [/conservée dans le fichier\n.*Ordonnance sauvegardee.txt/, "OK"]]);
+vrai(fini(), "le programme redémarre");
+contient(lire(travail + "/Ordonnance sauvegardee.txt"), "ZZTEST 500 MG", "et l'ordonnance est là");
