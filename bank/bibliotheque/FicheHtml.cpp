@@ -14,15 +14,16 @@ namespace {
 
 using namespace fiche;
 
-/// Colours and sizes for a browser, a text view and paper alike: plain rules on plain elements.
+/// Colours and sizes for a browser, a text view and paper alike: plain rules on plain elements. The headings'
+/// sizes are words: a text view overlooks points there.
 QString Style()
 {
     return QStringLiteral(
         "body { font-family: Inter, Arial, sans-serif; font-size: 10pt; color: #1d2733; background-color: "
         "#ffffff; "
         "margin: 16px; }"
-        "h1 { font-size: 15pt; color: #12344d; margin-top: 0px; margin-bottom: 4px; }"
-        "h2 { font-size: 11pt; color: #12344d; margin-top: 16px; margin-bottom: 4px; }"
+        "h1 { font-size: x-large; color: #12344d; margin-top: 0px; margin-bottom: 4px; }"
+        "h2 { font-size: large; color: #12344d; margin-top: 16px; margin-bottom: 4px; }"
         "p { margin-top: 4px; margin-bottom: 4px; } ul { margin-top: 4px; margin-bottom: 4px; }"
         "table { border-color: #b8c4ce; } th { background-color: #e8eef3; } th, "
         "td { text-align: left; vertical-align: top; }"
@@ -294,12 +295,11 @@ QString FicheHtml(const QSqlDatabase& base, qint64 cis)
                "<!DOCTYPE html>\n<html lang=\"fr\"><head><meta charset=\"utf-8\">\n"
                "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=utf-8\">\n<title>") +
            Sur(specialite.Nom) + QStringLiteral("</title>\n<style>") + Style() +
-           QStringLiteral("</style></head>\n<body>\n<h1>") + Sur(specialite.Nom) +
-           QStringLiteral("</h1>\n<p>") + specialite.Lignes.join(QStringLiteral("<br>\n")) +
-           QStringLiteral("</p>\n") +
+           QStringLiteral("</style></head>\n<body>\n<h1>") + Sur(specialite.Nom) + QStringLiteral("</h1>\n") +
            Encadre(QStringLiteral("alerte"), QStringLiteral("Attention"), specialite.Alertes) +
            Encadre(QStringLiteral("alerte"), QStringLiteral("Disponibilité"), Disponibilites(base, cis)) +
-           Conditions(base, cis) + Composition(base, cis) + Presentations(base, cis) + Groupes(base, cis) +
+           Conditions(base, cis) + QStringLiteral("<p>") + specialite.Lignes.join(QStringLiteral("<br>\n")) +
+           QStringLiteral("</p>\n") + Composition(base, cis) + Presentations(base, cis) + Groupes(base, cis) +
            Avis(base, cis, QStringLiteral("SMR"), QStringLiteral("Service médical rendu (HAS)")) +
            Avis(base, cis, QStringLiteral("ASMR"),
                 QStringLiteral("Amélioration du service médical rendu (HAS)")) +

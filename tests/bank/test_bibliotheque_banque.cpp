@@ -186,6 +186,9 @@ void TestBibliothequeBanque::monographie()
         QVERIFY2(page.contains(QString::fromUtf8(texte)), texte);
     }
     QVERIFY(!page.contains(QLatin1String("<script")));
+    // What binds the prescriber stands first.
+    const qsizetype conditions = page.indexOf(QStringLiteral("Conditions de prescription"));
+    QVERIFY(conditions > 0 && conditions < page.indexOf(QStringLiteral("Forme :")));
     QVERIFY(Page(poste_.Requetes->Monographie(9000001)).contains(QStringLiteral("spécialité de référence")));
     QVERIFY(poste_.Requetes->Monographie(9000112).isEmpty()); // a pack without its medication
     QVERIFY(poste_.Requetes->Monographie(1).isEmpty());
