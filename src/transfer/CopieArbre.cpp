@@ -296,6 +296,13 @@ void CopieArbre(const QString& source, const QString& destination, const Avancem
     Nettoie(destination);
 }
 
+bool TransfertEnAttente(const QString& arbre)
+{
+    return std::ranges::any_of(common::ListeDirectories(arbre), [](const QString& dossier) {
+        return common::DossierExiste(Joint(dossier, kPret));
+    });
+}
+
 bool FinitTransfert(const QString& arbre)
 {
     bool coupe = false;

@@ -23,6 +23,10 @@ using Avancement = std::function<void(int fichier, int nombre)>;
 /// read back and compared. Throws `Erreur` with the file that failed: the destination is as it was then.
 void CopieArbre(const QString& source, const QString& destination, const Avancement& avancement = {});
 
+/// True while the files of a transfer take their place in a tree or in a directory of it, or a cut one has
+/// left some.
+bool TransfertEnAttente(const QString& arbre);
+
 /// Finishes in a tree, and in the directories of it, what a cut transfer has left: the new tree when its copy
 /// was whole, else the former one. False when nothing had been whole. Throws `Erreur`, also while another
 /// program is at it.

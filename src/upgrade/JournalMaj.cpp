@@ -20,6 +20,8 @@ namespace {
 constexpr std::array kEtapes = {QLatin1String("Preparation"), QLatin1String("Echange"),
                                 QLatin1String("Retour"), QLatin1String("Nettoyage")};
 
+constexpr QLatin1String kJournal("MiseAJour.cfg");
+
 /// A program on another machine that holds the journal for longer is taken for dead; here its process is
 /// asked.
 constexpr int kVerrouPerime = 60 * 60 * 1000;
@@ -51,7 +53,7 @@ JournalMaj::JournalMaj(QString arbre, QString cheminData, Suivi& suivi)
 
 QString JournalMaj::Journal() const
 {
-    return Joint(arbre_, QStringLiteral("MiseAJour.cfg"));
+    return Joint(arbre_, kJournal);
 }
 
 QString JournalMaj::Fichier(const QString& base) const
@@ -129,6 +131,11 @@ void JournalMaj::Supprime(const QString& chemin) const
         suivi_.Coupe();
         common::SupprimeFichier(chemin);
     }
+}
+
+bool JournalMaj::EnAttente(const QString& arbre)
+{
+    return FichierExiste(Joint(arbre, kJournal));
 }
 
 JournalMaj::Reprise JournalMaj::Reprend()

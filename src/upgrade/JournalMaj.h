@@ -22,6 +22,8 @@ public:
     JournalMaj(const JournalMaj&) = delete;
     JournalMaj& operator=(const JournalMaj&) = delete;
 
+    /// True while an upgrade of that tree runs, or a cut one has left its journal.
+    static bool EnAttente(const QString& arbre);
     /// Undoes or finishes what an earlier upgrade of this tree left. Throws `Erreur`; the next start tries
     /// again.
     Reprise Reprend();

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void TrouveLesBases();
     void NommeCeQuiNEstPasLa();
     void TrouveLeSupport();
+    void NommeLeTravailInacheve();
     void SansDonnees();
     void LeProgrammeFaitSonRapport();
     void UnProgrammeTueLaisseUneBaseEntiere();
@@ -83,6 +84,25 @@ void TestArbres::TrouveLeSupport()
     QCOMPARE(arbres.size(), 2);
     QCOMPARE(arbres[1].Chemin, clef.filePath(u"DataScriptelle"_s));
     QVERIFY(arbres[1].Present);
+}
+
+/// In the middle of it a database may have no file of its name.
+void TestArbres::NommeLeTravailInacheve()
+{
+    const ArbreDeTest arbre;
+    const QTemporaryDir installation;
+    EcritChemins(installation.path(), arbre.Racine(), {}, 0);
+    common::CreeDossier(arbre.Chemin(u"Transfert.pret"_s));
+    common::CreeDossier(arbre.Chemin(u"Transfert.ancien"_s));
+    common::CopieFichier(arbre.Ordo().Chemin, arbre.Chemin(u"Transfert.pret/Ordo.mdb"_s));
+    common::DeplaceFichier(arbre.Medoc().Chemin, arbre.Chemin(u"Transfert.ancien/Medoc.mdb"_s));
+    QVERIFY(QFile::remove(arbre.Ordo().Chemin));
+    const auto arbres = utile::TrouveArbres(installation.path(), {});
+    QVERIFY(utile::BasesDe(arbres).isEmpty());
+    QCOMPARE(utile::CodeDe(arbres, {}), utile::kAttention);
+    const QString rapport = utile::Rapport(arbres, {});
+    QVERIFY2(rapport.contains(u"Démarrez d'abord Scriptelle sur ces données : "_s), qPrintable(rapport));
+    QVERIFY2(!rapport.contains(u"aucune base"_s), qPrintable(rapport));
 }
 
 void TestArbres::SansDonnees()

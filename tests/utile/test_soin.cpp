@@ -3,6 +3,7 @@
 #include "ArbreDeTest.h"
 #include "messages.h"
 
+#include "backup/VerrouArbre.h"
 #include "support/SansPrivilege.h"
 
 #include <QProcess>
@@ -49,6 +50,9 @@ private Q_SLOTS:
     void UneBaseCompacteNEstPasTouchee();
     void UneAncienneDispositionResteTelle();
     void RangeLaCopieDansSauvegardes();
+    void UnTravailInacheve_data();
+    void UnTravailInacheve();
+    void UnAutreUtileGardeSonEbauche();
     void UneBaseOccupee();
     void UneBaseOuverteAilleurs();
     void UneBaseEnLectureSeule();
@@ -119,6 +123,50 @@ void TestSoin::RangeLaCopieDansSauvegardes()
     const Bilan bilan = Soigne(arbre.Ordo());
     QCOMPARE(bilan.Copie, arbre.Chemin(u"Sauvegardes/Ancien_DR NEIBRE Ordo 2026-11-21 06h52m18 (2).mdb"_s));
     QCOMPARE(Octets(prise), QByteArray("d'avant"));
+}
+
+void TestSoin::UnTravailInacheve_data()
+{
+    QTest::addColumn<QString>("fichier");
+    QTest::addColumn<QString>("travail");
+    QTest::newRow("upgrade") << u"MiseAJour.cfg"_s << u"mise à jour"_s;
+    QTest::newRow("transfer") << u"Transfert.pret/Medoc.mdb"_s << u"transfert"_s;
+    QTest::newRow("transfer into a directory") << u"DR NEIBRE/Transfert.pret/Ordo.mdb"_s << u"transfert"_s;
+    QTest::newRow("restoration") << u"Restauration.sqlar"_s << u"restauration"_s;
+}
+
+/// Scriptelle finishes it at its start, with the files that it left.
+void TestSoin::UnTravailInacheve()
+{
+    QFETCH(const QString, fichier);
+    QFETCH(const QString, travail);
+    const ArbreDeTest arbre;
+    arbre.Remplit(300, false);
+    DetruitPage(arbre.Medoc().Chemin, 40);
+    common::CreeDossier(QFileInfo(arbre.Chemin(fichier)).path());
+    common::EcritFichier(arbre.Chemin(fichier), "Echange\nMedoc.mdb\n");
+    for (const auto& base : {arbre.Medoc(), arbre.Ordo()}) {
+        const QByteArray avant = Octets(base.Chemin);
+        const QStringList fichiers = Fichiers(QFileInfo(base.Chemin).path());
+        const Bilan bilan = Soigne(base);
+        QCOMPARE(bilan.Avant, utile::messages::EnAttente());
+        QCOMPARE(bilan.Apres, utile::messages::Inchangee());
+        QCOMPARE(bilan.Issue, Issue::Laissee);
+        QVERIFY2(bilan.Phrase.startsWith(u"Démarrez d'abord Scriptelle sur ces données : "_s),
+                 qPrintable(bilan.Phrase));
+        QVERIFY2(bilan.Phrase.contains(travail), qPrintable(bilan.Phrase));
+        QCOMPARE(Octets(base.Chemin), avant);
+        QCOMPARE(Fichiers(QFileInfo(base.Chemin).path()), fichiers);
+    }
+}
+
+void TestSoin::UnAutreUtileGardeSonEbauche()
+{
+    const ArbreDeTest arbre;
+    const backup::VerrouArbre autre(arbre.Racine());
+    common::EcritFichier(arbre.Chemin(u"Medoc.mdb.utile.tmp"_s), "en cours");
+    QCOMPARE(Soigne(arbre.Medoc()).Avant, utile::messages::EnService());
+    QCOMPARE(Octets(arbre.Chemin(u"Medoc.mdb.utile.tmp"_s)), QByteArray("en cours"));
 }
 
 void TestSoin::UneBaseOccupee()

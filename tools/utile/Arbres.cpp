@@ -2,8 +2,11 @@
 
 #include "messages.h"
 
+#include "backup/Restauration.h"
 #include "common/Fichiers.h"
 #include "startup/FichiersChemins.h"
+#include "transfer/CopieArbre.h"
+#include "upgrade/JournalMaj.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -36,7 +39,8 @@ void ChercheBases(Arbre& arbre)
     AjouteBases(arbre, arbre.Chemin);
     for (const QString& nom :
          QDir(arbre.Chemin).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
-        if (nom.compare(QLatin1String("Sauvegardes"), Qt::CaseInsensitive) != 0) {
+        const bool transfert = nom.startsWith(QLatin1String("Transfert."));
+        if (!transfert && nom.compare(QLatin1String("Sauvegardes"), Qt::CaseInsensitive) != 0) {
             AjouteBases(arbre, Joint(arbre.Chemin, nom));
         }
     }
@@ -56,6 +60,7 @@ void Ajoute(QList<Arbre>& arbres, const QString& libelle, const QString& chemin)
     }
     if (arbre.Present) {
         ChercheBases(arbre);
+        arbre.Inacheve = TravailInacheve(chemin);
     }
     arbres.append(arbre);
 }
@@ -91,6 +96,17 @@ QList<Arbre> TrouveArbres(const QString& cheminInstallation, const QStringList& 
         AjouteSupports(arbres, volumes);
     }
     return arbres;
+}
+
+QString TravailInacheve(const QString& arbre)
+{
+    if (upgrade::JournalMaj::EnAttente(arbre)) {
+        return messages::MajInachevee();
+    }
+    if (transfer::TransfertEnAttente(arbre)) {
+        return messages::TransfertInacheve();
+    }
+    return backup::RestaurationEnCours(arbre) ? messages::RestaurationInachevee() : QString();
 }
 
 QStringList Volumes()

@@ -1,5 +1,6 @@
 #include "Chantier.h"
 
+#include "Arbres.h"
 #include "Garde.h"
 #include "Reconstruction.h"
 #include "Releve.h"
@@ -17,6 +18,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -86,11 +88,6 @@ Chantier::Chantier(Bilan& bilan, const QDateTime& moment)
       fichier_(bilan.Base.Chemin)
 {}
 
-Chantier::~Chantier()
-{
-    RetireEbauches();
-}
-
 Chantier::EtatFichier Chantier::EtatDuFichier() const
 {
     const QFileInfo info(bilan_.Base.Chemin);
@@ -122,6 +119,7 @@ void Chantier::Execute()
         return;
     }
     RetireEbauches();
+    const auto nettoyage = qScopeGuard([this] { RetireEbauches(); });
     if (!fichier_.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         throw storage::Panne(storage::messages::BaseIllisible, chemin);
     }
@@ -146,6 +144,12 @@ void Chantier::Execute()
 void Chantier::Soigne()
 {
     avant_ = EtatDuFichier();
+    // None can begin from here on: they need the databases.
+    if (const QString travail = TravailInacheve(bilan_.Base.Arbre); !travail.isEmpty()) {
+        Laisse(messages::EnAttente(), travail + messages::ResteTelle());
+        RetireCopie();
+        return;
+    }
     fichier_.seek(0);
     const PagesSqlite entete(fichier_.read(kEntete));
     if (!EstLaNotre(entete)) {

@@ -16,7 +16,6 @@ class Chantier
 {
 public:
     Chantier(Bilan& bilan, const QDateTime& moment);
-    ~Chantier();
     Chantier(const Chantier&) = delete;
     Chantier& operator=(const Chantier&) = delete;
 

@@ -68,6 +68,9 @@ QString LigneArbre(const Arbre& arbre)
     if (!arbre.Present) {
         return nom + u' ' + arbre.Absence;
     }
+    if (!arbre.Inacheve.isEmpty()) {
+        return nom + QStringLiteral(" — ") + arbre.Inacheve;
+    }
     return arbre.Bases.isEmpty() ? nom + u' ' + messages::ArbreSansBase() : nom;
 }
 
@@ -93,8 +96,8 @@ Code CodeDe(const QList<Arbre>& arbres, const QList<Bilan>& bilans)
         return kSansDonnees;
     }
     const auto bonne = [](const Bilan& b) { return b.Issue == Issue::Saine || b.Issue == Issue::Attente; };
-    const bool bonnes = std::ranges::all_of(arbres, &Arbre::Present) && std::ranges::all_of(bilans, bonne);
-    return bonnes ? kBon : kAttention;
+    const auto entier = [](const Arbre& a) { return a.Present && a.Inacheve.isEmpty(); };
+    return std::ranges::all_of(arbres, entier) && std::ranges::all_of(bilans, bonne) ? kBon : kAttention;
 }
 
 } // namespace utile

@@ -1,3 +1,4 @@
+#include "Arbres.h"
 #include "Soin.h"
 #include "messages.h"
 
@@ -60,6 +61,9 @@ Bilan Regarde(const BaseTrouvee& base)
     const QFileInfo info(base.Chemin);
     bilan.TailleAvant = bilan.TailleApres = info.size();
     QFile fichier(base.Chemin);
+    if (const QString travail = TravailInacheve(base.Arbre); !travail.isEmpty()) {
+        return Laisse(bilan, Issue::Laissee, messages::EnAttente(), travail + messages::ResteTelle());
+    }
     if (!info.isFile()) {
         return Laisse(bilan, Issue::Laissee, messages::Absente(), messages::BaseAbsente());
     }

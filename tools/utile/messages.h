@@ -94,6 +94,11 @@ inline QString EnService()
     return QStringLiteral("Utilisée");
 }
 
+inline QString EnAttente()
+{
+    return QStringLiteral("En attente");
+}
+
 inline QString TropRecente()
 {
     return QStringLiteral("Trop récente");
@@ -257,6 +262,26 @@ inline QString Incompletes(qint64 nombre)
 }
 
 // The trees.
+inline QString DemarrezDAbord(const QString& travail)
+{
+    return QStringLiteral("Démarrez d'abord Scriptelle sur ces données : %1.").arg(travail);
+}
+
+inline QString MajInachevee()
+{
+    return DemarrezDAbord(QStringLiteral("une mise à jour des bases y est en cours ou inachevée"));
+}
+
+inline QString TransfertInacheve()
+{
+    return DemarrezDAbord(QStringLiteral("un transfert de données y est en cours ou inachevé"));
+}
+
+inline QString RestaurationInachevee()
+{
+    return DemarrezDAbord(QStringLiteral("la restauration d'une sauvegarde y est en cours ou inachevée"));
+}
+
 inline QString DisqueLocal()
 {
     return QStringLiteral("Disque de l'ordinateur");
