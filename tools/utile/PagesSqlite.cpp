@@ -230,7 +230,7 @@ std::optional<Cellule> PageArbre::Ligne(int rang) const
         return {};
     }
     const qint64 part = PartDansLaPage(*longueur, pages_.Utiles());
-    Cellule cellule{*cle, *longueur, {}};
+    Cellule cellule{*cle, *longueur, {}, place, static_cast<qsizetype>(part)};
     cellule.Contenu = octets_.sliced(place, std::min<qint64>(part, octets_.size() - place)).toByteArray();
     if (cellule.Contenu.size() == part && part < *longueur) {
         CompleteParChaine(cellule, place + part);
@@ -281,10 +281,12 @@ std::optional<Champs> Demonte(const Cellule& cellule)
             champs.Manquants.append(static_cast<int>(champs.Valeurs.size()));
         }
         const bool nul = genre == 0 || !present;
+        champs.Debuts.append(debut);
         champs.Valeurs.append(nul ? QVariant()
                                   : Valeur(genre, QByteArrayView(cellule.Contenu).sliced(debut, taille)));
         debut += taille;
     }
+    champs.Debuts.append(debut);
     // A text that is not there is told from a number that is not.
     for (int& manquant : champs.Manquants) {
         const qint64 genre = lus[manquant];

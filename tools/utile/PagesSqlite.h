@@ -44,6 +44,8 @@ struct Cellule
     qint64 Cle = 0;
     qint64 Longueur = 0; ///< of its content, of which less may be there
     QByteArray Contenu;
+    qsizetype Place = 0;    ///< of the content in its page, behind the length and the key
+    qsizetype DansPage = 0; ///< how much of the content lies in the page itself
 };
 
 /// The kinds of pages that make a tree.
@@ -65,9 +67,10 @@ public:
     /// The child of a node, and the highest key below it; nothing when the cell is broken. The rank behind
     /// the last one is the child that has no key.
     std::optional<std::pair<quint32, qint64>> Enfant(int rang) const;
+    /// Where a cell begins in its page; -1 when it cannot be there.
+    qsizetype Place(int rang) const;
 
 private:
-    qsizetype Place(int rang) const;
     bool CompleteParChaine(Cellule& cellule, qsizetype suite) const;
 
     const PagesSqlite& pages_;
@@ -82,6 +85,7 @@ struct Champs
 {
     QVariantList Valeurs; ///< an invalid one is null
     QList<int> Manquants;
+    QList<qint64> Debuts; ///< where each begins in the content, and where the last one ends
 };
 
 /// Takes a row's content apart; nothing when it is none.

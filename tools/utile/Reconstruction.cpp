@@ -1,5 +1,6 @@
 #include "Reconstruction.h"
 
+#include "LecteurLignes.h"
 #include "messages.h"
 
 #include "storage/Base.h"
@@ -53,7 +54,8 @@ QString InstructionPour(const storage::Table& table)
         .arg(Cite(table.Nom), colonnes.join(u','), places.join(u','));
 }
 
-/// The row as it is stored again; empty when nothing of it is left.
+/// The row as it is stored again; empty when nothing of it is left, or nothing in it would tell that numbers
+/// are missing.
 QVariantList Ligne(const storage::Table& table, qint64 cle, Champs champs, bool& incomplete)
 {
     const auto presents =
@@ -65,7 +67,7 @@ QVariantList Ligne(const storage::Table& table, qint64 cle, Champs champs, bool&
             ++textes;
         }
     }
-    if (!champs.Manquants.isEmpty() && presents == textes) {
+    if (!champs.Manquants.isEmpty() && (presents == textes || textes == 0)) {
         return {};
     }
     incomplete = !champs.Manquants.isEmpty();
@@ -114,10 +116,10 @@ BilanTable Recopie(Base& base, const PagesSqlite& pages, const TableRelevee& rel
 {
     BilanTable bilan{relevee.Table.Nom};
     const QString instruction = InstructionPour(relevee.Table);
+    LecteurLignes lecteur(pages);
     for (const auto& [cle, lieu] : relevee.Lignes) {
         bool incomplete = false;
-        const Champs champs = *Demonte(*PageArbre(pages, lieu.Page).Ligne(lieu.Rang));
-        const QVariantList ligne = Ligne(relevee.Table, cle, champs, incomplete);
+        const QVariantList ligne = Ligne(relevee.Table, cle, lecteur.Lit(lieu), incomplete);
         if (!ligne.isEmpty()) {
             base.Execute(instruction, ligne);
             ++bilan.Gardees;

@@ -1,5 +1,7 @@
 #include "Releve.h"
 
+#include "LecteurLignes.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -79,6 +81,26 @@ bool ConvientColonne(TypeColonne type, const QVariant& valeur)
     }
 }
 
+/// Columns that were added to a table are missing at the end of the rows that were there.
+bool ConvientAuDebut(const storage::Table& table, const Champs& champs)
+{
+    for (int i = 0; i < champs.Valeurs.size(); ++i) {
+        if (!champs.Manquants.contains(i) && !ConvientColonne(table.Colonnes[i].Type, champs.Valeurs[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The lists of the file itself and trees without a name are read with columns of no name.
+bool PeutEtreDe(const storage::Table& table, const Champs& champs)
+{
+    if (champs.Valeurs.size() > std::max<qsizetype>(1, table.Colonnes.size())) {
+        return false;
+    }
+    return table.Nom.isEmpty() || ConvientAuDebut(table, champs);
+}
+
 bool SeTouchent(const Trou& trou, qint64 premiere, qint64 derniere)
 {
     return derniere > trou.Bas && premiere <= trou.Haut;
@@ -98,15 +120,7 @@ bool SontDesCip(const QList<Champs>& lignes)
 
 bool Convient(const storage::Table& table, const Champs& champs)
 {
-    if (champs.Valeurs.size() != table.Colonnes.size()) {
-        return false;
-    }
-    for (int i = 0; i < champs.Valeurs.size(); ++i) {
-        if (!champs.Manquants.contains(i) && !ConvientColonne(table.Colonnes[i].Type, champs.Valeurs[i])) {
-            return false;
-        }
-    }
-    return true;
+    return champs.Valeurs.size() == table.Colonnes.size() && ConvientAuDebut(table, champs);
 }
 
 Releve::Releve(const PagesSqlite& pages, storage::GenreBase genre) : pages_(pages), vues_(pages.Libres())
@@ -125,10 +139,11 @@ void Releve::LitListe(storage::GenreBase genre)
     liste.Table.Colonnes = QList<storage::Colonne>(5);
     Suit(liste, 1, kTout, 0);
     vues_.insert(1);
+    LecteurLignes lecteur(pages_);
     for (const auto& [cle, lieu] : liste.Lignes) {
-        const auto champs = Demonte(*PageArbre(pages_, lieu.Page).Ligne(lieu.Rang));
-        if (champs && champs->Manquants.isEmpty()) {
-            LitEntree(champs->Valeurs, genre);
+        const auto champs = lecteur.Lit(lieu);
+        if (champs.Manquants.isEmpty()) {
+            LitEntree(champs.Valeurs, genre);
         }
     }
     listeEntiere_ = liste.Trous.isEmpty() && liste.Brisees == 0 && !liste.Lignes.empty();
@@ -185,11 +200,12 @@ void Releve::LitCompteurs()
     if (compteurs_ > 1) {
         Suit(compteurs, compteurs_, kTout, 0);
     }
+    LecteurLignes lecteur(pages_);
     for (const auto& [cle, lieu] : compteurs.Lignes) {
-        const auto champs = Demonte(*PageArbre(pages_, lieu.Page).Ligne(lieu.Rang));
+        const Champs champs = lecteur.Lit(lieu);
         for (TableRelevee& table : tables_) {
-            if (champs && table.Table.Nom == champs->Valeurs.value(0).toString()) {
-                table.DerniereCle = champs->Valeurs.value(1).toLongLong();
+            if (champs.Manquants.isEmpty() && table.Table.Nom == champs.Valeurs.value(0).toString()) {
+                table.DerniereCle = champs.Valeurs.value(1).toLongLong();
             }
         }
     }
@@ -211,7 +227,7 @@ void Releve::CompteIndexes()
 std::optional<qint64> Releve::Compte(quint32 page, int profondeur)
 {
     const PageArbre lue(pages_, page);
-    if (lue.Genre() == GenrePage::FeuilleIndex) {
+    if (lue.Genre() == GenrePage::FeuilleIndex && lue.EstCoherente()) {
         return lue.NbCellules();
     }
     if (lue.Genre() != GenrePage::NoeudIndex || profondeur > kProfondeur) {
@@ -268,7 +284,7 @@ void Releve::Suit(TableRelevee& table, quint32 page, Trou bornes, int profondeur
     vues_.insert(page);
     const PageArbre lue(pages_, page);
     if (lue.Genre() == GenrePage::Feuille) {
-        LitFeuille(table, page, lue, bornes);
+        LitFeuille(table, page, Feuille(pages_, page), bornes);
     } else {
         SuitNoeud(table, lue, bornes, profondeur);
     }
@@ -291,21 +307,20 @@ void Releve::SuitNoeud(TableRelevee& table, const PageArbre& noeud, Trou bornes,
     }
 }
 
-void Releve::LitFeuille(TableRelevee& table, quint32 page, const PageArbre& feuille, Trou bornes)
+void Releve::LitFeuille(TableRelevee& table, quint32 page, const Feuille& feuille, Trou bornes)
 {
     QList<std::pair<int, qint64>> lignes;
     bool croissantes = true;
-    for (int i = 0; i < feuille.NbCellules(); ++i) {
-        const auto cellule = feuille.Ligne(i);
-        const auto champs = cellule ? Demonte(*cellule) : std::nullopt;
-        const bool dedans = champs && cellule->Cle > bornes.Bas && cellule->Cle <= bornes.Haut;
-        if (dedans && champs->Valeurs.size() <= std::max<qsizetype>(1, table.Table.Colonnes.size())) {
-            croissantes = croissantes && (lignes.isEmpty() || lignes.last().second < cellule->Cle);
-            lignes.append({i, cellule->Cle});
+    for (int i = 0; i < feuille.Page().NbCellules(); ++i) {
+        const auto ligne = feuille.Ligne(i);
+        const bool dedans = ligne && ligne->first > bornes.Bas && ligne->first <= bornes.Haut;
+        if (dedans && PeutEtreDe(table.Table, ligne->second)) {
+            croissantes = croissantes && (lignes.isEmpty() || lignes.last().second < ligne->first);
+            lignes.append({i, ligne->first});
         }
     }
     const auto bonnes = croissantes ? lignes : Croissantes(lignes);
-    table.Brisees += feuille.NbCellules() - bonnes.size();
+    table.Brisees += feuille.Page().NbCellules() - bonnes.size();
     for (const auto& [rang, cle] : bonnes) {
         table.Lignes.try_emplace(cle, TableRelevee::Lieu{page, rang});
     }
@@ -349,8 +364,9 @@ void Releve::Adopte(const TableRelevee& orpheline)
         return;
     }
     QList<Champs> lignes;
+    LecteurLignes lecteur(pages_);
     for (const auto& [cle, lieu] : orpheline.Lignes) {
-        lignes.append(*Demonte(*PageArbre(pages_, lieu.Page).Ligne(lieu.Rang)));
+        lignes.append(lecteur.Lit(lieu));
     }
     QList<TableRelevee*> possibles;
     for (TableRelevee& table : tables_) {

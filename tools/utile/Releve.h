@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PagesSqlite.h"
+#include "Feuille.h"
 
 #include "storage/Schema.h"
 
@@ -59,7 +59,7 @@ private:
     std::optional<qint64> Compte(quint32 page, int profondeur);
     void Suit(TableRelevee& table, quint32 page, TableRelevee::Trou bornes, int profondeur);
     void SuitNoeud(TableRelevee& table, const PageArbre& noeud, TableRelevee::Trou bornes, int profondeur);
-    void LitFeuille(TableRelevee& table, quint32 page, const PageArbre& feuille, TableRelevee::Trou bornes);
+    void LitFeuille(TableRelevee& table, quint32 page, const Feuille& feuille, TableRelevee::Trou bornes);
     bool EstPlausible(const TableRelevee& table, quint32 page, TableRelevee::Trou bornes, int profondeur);
     void PlaceOrphelines();
     void Adopte(const TableRelevee& orpheline);
