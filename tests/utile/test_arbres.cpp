@@ -40,6 +40,8 @@ private Q_SLOTS:
     void SansDonnees();
     void LeProgrammeFaitSonRapport();
     void UnProgrammeTueLaisseUneBaseEntiere();
+    void UneReparationTueeLaisseLAncienneOuLaNouvelle();
+    void DeuxProgrammesALaFois();
 };
 
 void TestArbres::TrouveLesBases()
@@ -127,7 +129,8 @@ void TestArbres::LeProgrammeFaitSonRapport()
     rapport.start(utile, {u"--rapport"_s});
     QVERIFY(rapport.waitForFinished());
     const QString texte = QString::fromUtf8(rapport.readAllStandardOutput());
-    QVERIFY2(texte.contains(u"Endommagée -> Réparée"_s), qPrintable(texte));
+    QVERIFY2(texte.contains(u"Endommagée -> Réparée, avec des pertes"_s), qPrintable(texte));
+    QCOMPARE(rapport.exitCode(), 1);
     QVERIFY(texte.contains(u"Patients : 300 lignes gardées"_s));
     QVERIFY(texte.contains(u"L'ancien fichier est gardé"_s));
     rapport.start(utile, {u"--rapport"_s});
@@ -167,6 +170,83 @@ void TestArbres::UnProgrammeTueLaisseUneBaseEntiere()
     QVERIFY(dernier.waitForFinished());
     QCOMPARE(dernier.exitCode(), 0);
     QVERIFY(QDir(modele.Racine()).entryList({u"*.tmp*"_s}, QDir::Files).isEmpty());
+}
+
+namespace {
+
+QStringList Gardees(const ArbreDeTest& arbre)
+{
+    return QDir(arbre.Racine()).entryList({u"Ancien_*.mdb"_s}, QDir::Files);
+}
+
+} // namespace
+
+void TestArbres::UneReparationTueeLaisseLAncienneOuLaNouvelle()
+{
+    const QTemporaryDir programme;
+    const QString utile = programme.filePath(u"Utile"_s);
+    QVERIFY(QFile::copy(QStringLiteral(CHEMIN_UTILE), utile));
+    const ArbreDeTest arbre;
+    arbre.Remplit(2000);
+    support::Gate(arbre.Medoc().Chemin, 40 * 4096, QByteArray(4096, '\xA5'));
+    const QByteArray abimee = support::Octets(arbre.Medoc().Chemin);
+    EcritChemins(programme.path(), arbre.Racine(), {}, 0);
+    QCOMPARE(utile::Soigne(arbre.Medoc(), QDateTime::currentDateTime()).Issue, utile::Issue::Pertes);
+    const auto reparee = support::Contenu(arbre.Medoc());
+    int anciennes = 0;
+    int nouvelles = 0;
+    for (int attente = 5; attente < 4000 && nouvelles < 3; attente += 10 + attente / 10) {
+        common::EcritFichier(arbre.Medoc().Chemin, abimee);
+        QProcess rapport;
+        rapport.start(utile, {u"--rapport"_s});
+        QVERIFY(rapport.waitForStarted());
+        rapport.waitForFinished(attente);
+        rapport.kill();
+        rapport.waitForFinished();
+        const bool ancienne = support::Octets(arbre.Medoc().Chemin) == abimee;
+        QVERIFY(ancienne || support::Contenu(arbre.Medoc()) == reparee);
+        ++(ancienne ? anciennes : nouvelles);
+        for (const QString& garde : Gardees(arbre)) {
+            QCOMPARE(support::Octets(arbre.Chemin(garde)), abimee);
+        }
+    }
+    QVERIFY(anciennes > 0 && nouvelles > 0);
+    QProcess dernier;
+    dernier.start(utile, {u"--rapport"_s});
+    QVERIFY(dernier.waitForFinished());
+    QCOMPARE(dernier.exitCode(), 0);
+    QVERIFY(QDir(arbre.Racine()).entryList({u"*.tmp*"_s, u"*.lock"_s}, QDir::Files).isEmpty());
+}
+
+void TestArbres::DeuxProgrammesALaFois()
+{
+    const QTemporaryDir programme;
+    const QString utile = programme.filePath(u"Utile"_s);
+    QVERIFY(QFile::copy(QStringLiteral(CHEMIN_UTILE), utile));
+    const ArbreDeTest arbre;
+    arbre.Remplit(1000, false);
+    support::Gate(arbre.Medoc().Chemin, 40 * 4096, QByteArray(4096, '\xA5'));
+    const QByteArray abimee = support::Octets(arbre.Medoc().Chemin);
+    EcritChemins(programme.path(), arbre.Racine(), {}, 0);
+    for (int attente = 0; attente < 200; attente += 40) {
+        common::EcritFichier(arbre.Medoc().Chemin, abimee);
+        const qsizetype gardees = Gardees(arbre).size();
+        std::array<QProcess, 2> programmes;
+        QStringList textes;
+        for (QProcess& un : programmes) {
+            un.start(utile, {u"--rapport"_s});
+            QVERIFY(un.waitForStarted());
+            QTest::qSleep(attente);
+        }
+        for (QProcess& un : programmes) {
+            QVERIFY(un.waitForFinished());
+            textes.append(QString::fromUtf8(un.readAllStandardOutput()));
+        }
+        const QString ensemble = textes.join(u'\n');
+        QVERIFY2(ensemble.count(u"Endommagée -> Réparée"_s) == 1, qPrintable(ensemble));
+        QCOMPARE(Gardees(arbre).size(), gardees + 1);
+        QCOMPARE(utile::Soigne(arbre.Medoc(), QDateTime::currentDateTime()).Issue, utile::Issue::Saine);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestArbres)

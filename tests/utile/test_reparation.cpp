@@ -91,6 +91,9 @@ private Q_SLOTS:
     void UnEnteteDetruit();
     void UneSuiteDeTexteDetruite();
     void UnFichierCoupe();
+    void UneAncienneDispositionAbimee();
+    void UnSecteurDetruit_data();
+    void UnSecteurDetruit();
 };
 
 void TestReparation::UnePageDeFeuilleDetruite()
@@ -230,6 +233,55 @@ void TestReparation::UnFichierCoupe()
         QCOMPARE(Octets(bilan.Copie), sains.first(taille));
     }
     QVERIFY(dernier > Nombre(avant) * 9 / 10);
+}
+
+void TestReparation::UneAncienneDispositionAbimee()
+{
+    const ArbreDeTest arbre;
+    arbre.Remplit(600, false);
+    {
+        storage::Base base(arbre.Medoc().Chemin, storage::GenreBase::Medoc);
+        base.Execute(u"drop table Vidal"_s);
+        base.Execute(u"alter table ListeOrdos drop column Datenais"_s);
+        base.Execute(u"pragma user_version = 0"_s);
+    }
+    const auto avant = Contenu(arbre.Medoc());
+    const auto feuilles = PagesDe(arbre.Medoc().Chemin, GenrePage::Feuille);
+    DetruitPage(arbre.Medoc().Chemin, feuilles[feuilles.size() / 3]);
+    const Bilan bilan = Soigne(arbre.Medoc());
+    QCOMPARE(bilan.Apres, utile::messages::RepareeAvecPertes());
+    auto apres = Contenu(arbre.Medoc());
+    QCOMPARE(apres.take(u"Vidal"_s), QStringList());
+    QCOMPARE(Nombre(avant) - Nombre(apres), Perdues(bilan));
+    QCOMPARE(apres.value(u"ListeOrdos"_s).size(), 600);
+    apres.remove(u"ListeOrdos"_s); // it has its column again
+    QVERIFY(EstUnePartie(apres, avant));
+    const storage::Base courante(arbre.Medoc().Chemin, storage::GenreBase::Medoc);
+}
+
+void TestReparation::UnSecteurDetruit_data()
+{
+    QTest::addColumn<QByteArray>("octets");
+    QTest::newRow("zeros") << QByteArray(512, '\0');
+    QTest::newRow("ones") << QByteArray(512, '\xFF');
+}
+
+/// Half a row looks as whole as the others.
+void TestReparation::UnSecteurDetruit()
+{
+    QFETCH(const QByteArray, octets);
+    const ArbreDeTest arbre;
+    arbre.Remplit(400, false);
+    const auto avant = Contenu(arbre.Medoc());
+    const auto feuilles = PagesDe(arbre.Medoc().Chemin, GenrePage::Feuille);
+    for (qsizetype i = 0; i < feuilles.size(); i += 7) {
+        Gate(arbre.Medoc().Chemin, (feuilles[i] - 1LL) * kPage + 2048, octets);
+    }
+    const Bilan bilan = Soigne(arbre.Medoc());
+    const auto apres = Contenu(arbre.Medoc());
+    QVERIFY(EstUnePartie(apres, avant));
+    QCOMPARE(Nombre(avant) - Nombre(apres), Perdues(bilan));
+    QVERIFY(Perdues(bilan) > 0 && Nombre(apres) > Nombre(avant) * 9 / 10);
 }
 
 QTEST_GUILESS_MAIN(TestReparation)

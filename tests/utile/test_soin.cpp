@@ -9,6 +9,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include <filesystem>
+
 #ifdef Q_OS_LINUX
 #include <sys/mount.h>
 #include <unistd.h>
@@ -50,6 +52,7 @@ private Q_SLOTS:
     void UneBaseCompacteNEstPasTouchee();
     void UneAncienneDispositionResteTelle();
     void RangeLaCopieDansSauvegardes();
+    void RetireLeSecondNomDUneBase();
     void UnTravailInacheve_data();
     void UnTravailInacheve();
     void UnAutreUtileGardeSonEbauche();
@@ -123,6 +126,21 @@ void TestSoin::RangeLaCopieDansSauvegardes()
     const Bilan bilan = Soigne(arbre.Ordo());
     QCOMPARE(bilan.Copie, arbre.Chemin(u"Sauvegardes/Ancien_DR NEIBRE Ordo 2026-11-21 06h52m18 (2).mdb"_s));
     QCOMPARE(Octets(prise), QByteArray("d'avant"));
+}
+
+/// A program that was killed before the new file took its place leaves the base with two names: the second
+/// would change with it.
+void TestSoin::RetireLeSecondNomDUneBase()
+{
+    const ArbreDeTest arbre;
+    const QString second = arbre.Chemin(u"Ancien_Medoc 2026-11-20 06h52m18.mdb"_s);
+    const QString copie = arbre.Chemin(u"Ancien_Medoc 2026-11-19 06h52m18.mdb"_s);
+    std::filesystem::create_hard_link(QFile(arbre.Medoc().Chemin).filesystemFileName(),
+                                      QFile(second).filesystemFileName());
+    common::CopieFichier(arbre.Medoc().Chemin, copie);
+    QCOMPARE(Soigne(arbre.Medoc()).Issue, Issue::Saine);
+    QVERIFY(!QFile::exists(second));
+    QVERIFY(QFile::exists(copie));
 }
 
 void TestSoin::UnTravailInacheve_data()

@@ -119,6 +119,7 @@ void Chantier::Execute()
         return;
     }
     RetireEbauches();
+    RetireSecondsNoms(bilan_.Base);
     const auto nettoyage = qScopeGuard([this] { RetireEbauches(); });
     if (!fichier_.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         throw storage::Panne(storage::messages::BaseIllisible, chemin);

@@ -2,9 +2,11 @@
 
 #include "common/Erreur.h"
 #include "common/Fichiers.h"
+#include "common/Tolere.h"
 #include "storage/Pannes.h"
 #include "storage/messages.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -34,24 +36,46 @@ void Recopie(QFile& fichier, const QString& copie)
     }
 }
 
-} // namespace
-
-QString CheminDeGarde(const BaseTrouvee& base, const QDateTime& moment)
+/// The beginning of the paths of all kept files of a database.
+QString DebutDeGarde(const BaseTrouvee& base)
 {
     const QFileInfo info(base.Chemin);
     const QString sauvegardes = Joint(base.Arbre, QStringLiteral("Sauvegardes"));
     const bool rangee = common::DossierExiste(sauvegardes);
-    const QString dossier = rangee ? sauvegardes : info.path();
     const bool duMedecin = rangee && QFileInfo(info.path()) != QFileInfo(base.Arbre);
     const QString medecin = duMedecin ? QFileInfo(info.path()).fileName() + u' ' : QString();
-    const QString debut = QStringLiteral("Ancien_%1%2 %3")
-                              .arg(medecin, info.completeBaseName(),
-                                   moment.toString(QStringLiteral("yyyy-MM-dd HH'h'mm'm'ss")));
-    QString copie = Joint(dossier, debut + QStringLiteral(".mdb"));
+    return Joint(rangee ? sauvegardes : info.path(),
+                 QStringLiteral("Ancien_%1%2 ").arg(medecin, info.completeBaseName()));
+}
+
+} // namespace
+
+QString CheminDeGarde(const BaseTrouvee& base, const QDateTime& moment)
+{
+    const QString debut = DebutDeGarde(base) + moment.toString(QStringLiteral("yyyy-MM-dd HH'h'mm'm'ss"));
+    QString copie = debut + QStringLiteral(".mdb");
     for (int numero = 2; QFileInfo::exists(copie); ++numero) {
-        copie = Joint(dossier, debut + QStringLiteral(" (%1).mdb").arg(numero));
+        copie = debut + QStringLiteral(" (%1).mdb").arg(numero);
     }
     return copie;
+}
+
+void RetireSecondsNoms(const BaseTrouvee& base)
+{
+    const std::filesystem::path fichier = QFile(base.Chemin).filesystemFileName();
+    std::error_code refus;
+    if (std::filesystem::hard_link_count(fichier, refus) < 2 || refus) {
+        return;
+    }
+    const QString debut = DebutDeGarde(base);
+    const QDir dossier = QFileInfo(debut).dir();
+    for (const QString& nom : dossier.entryList(QDir::Files)) {
+        const QString chemin = dossier.filePath(nom);
+        if (chemin.startsWith(debut) &&
+            std::filesystem::equivalent(fichier, QFile(chemin).filesystemFileName(), refus)) {
+            common::Tolere([&] { common::SupprimeFichier(chemin); }); // it stays the same file
+        }
+    }
 }
 
 void Garde(QFile& fichier, const QString& copie)

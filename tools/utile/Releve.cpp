@@ -1,5 +1,6 @@
 #include "Releve.h"
 
+#include "Convenance.h"
 #include "LecteurLignes.h"
 
 #include <QRegularExpression>
@@ -9,7 +10,6 @@
 
 namespace utile {
 
-using storage::TypeColonne;
 using Trou = TableRelevee::Trou;
 
 namespace {
@@ -63,44 +63,6 @@ QList<std::pair<int, qint64>> Croissantes(const QList<std::pair<int, qint64>>& l
     return gardees;
 }
 
-bool ConvientColonne(TypeColonne type, const QVariant& valeur)
-{
-    if (!valeur.isValid()) {
-        return true;
-    }
-    const bool texte = valeur.typeId() == QMetaType::QString;
-    switch (type) {
-    case TypeColonne::Compteur:
-        return false;
-    case TypeColonne::Texte:
-        return texte;
-    case TypeColonne::OuiNon:
-        return valeur.typeId() == QMetaType::LongLong && qAbs(valeur.toLongLong()) <= 1;
-    default:
-        return !texte && valeur.typeId() != QMetaType::QByteArray;
-    }
-}
-
-/// Columns that were added to a table are missing at the end of the rows that were there.
-bool ConvientAuDebut(const storage::Table& table, const Champs& champs)
-{
-    for (int i = 0; i < champs.Valeurs.size(); ++i) {
-        if (!champs.Manquants.contains(i) && !ConvientColonne(table.Colonnes[i].Type, champs.Valeurs[i])) {
-            return false;
-        }
-    }
-    return true;
-}
-
-/// The lists of the file itself and trees without a name are read with columns of no name.
-bool PeutEtreDe(const storage::Table& table, const Champs& champs)
-{
-    if (champs.Valeurs.size() > std::max<qsizetype>(1, table.Colonnes.size())) {
-        return false;
-    }
-    return table.Nom.isEmpty() || ConvientAuDebut(table, champs);
-}
-
 bool SeTouchent(const Trou& trou, qint64 premiere, qint64 derniere)
 {
     return derniere > trou.Bas && premiere <= trou.Haut;
@@ -117,11 +79,6 @@ bool SontDesCip(const QList<Champs>& lignes)
 }
 
 } // namespace
-
-bool Convient(const storage::Table& table, const Champs& champs)
-{
-    return champs.Valeurs.size() == table.Colonnes.size() && ConvientAuDebut(table, champs);
-}
 
 Releve::Releve(const PagesSqlite& pages, storage::GenreBase genre) : pages_(pages), vues_(pages.Libres())
 {

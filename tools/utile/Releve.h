@@ -74,7 +74,4 @@ private:
     qint64 sansTable_ = 0;
 };
 
-/// Whether a row of these fields can be one of that table.
-bool Convient(const storage::Table& table, const Champs& champs);
-
 } // namespace utile

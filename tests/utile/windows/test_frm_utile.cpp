@@ -5,6 +5,7 @@
 #include "support/DehorsFeint.h"
 
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
@@ -31,6 +32,7 @@ class TestFrmUtile : public QObject
 private Q_SLOTS:
     void MontreAvantEtApres();
     void SeFermeApresLaBaseEnCours();
+    void SeMeneAuClavier();
     void SansDonneesNeCommencePas();
 
 private:
@@ -72,6 +74,29 @@ void TestFrmUtile::SeFermeApresLaBaseEnCours()
     QTRY_VERIFY_WITH_TIMEOUT(!fenetre.isVisible(), 20000);
     QVERIFY(!fenetre.Travaille());
     QCOMPARE(support::Contenu(arbre.Medoc()).value(u"Vidal"_s).size(), 2000);
+}
+
+void TestFrmUtile::SeMeneAuClavier()
+{
+    const ArbreDeTest arbre;
+    arbre.Remplit(300, false);
+    support::Gate(arbre.Medoc().Chemin, 40 * 4096, QByteArray(4096, '\xA5'));
+    FrmUtile fenetre(Arbres(arbre), horloge_);
+    fenetre.show();
+    fenetre.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
+    auto* liste = fenetre.findChild<QTreeWidget*>(u"LstBases"_s);
+    const auto* detail = fenetre.findChild<QPlainTextEdit*>(u"TxtDetail"_s);
+    QTest::keyClick(&fenetre, Qt::Key_R, Qt::AltModifier);
+    QTRY_VERIFY_WITH_TIMEOUT(detail->toPlainText().contains(u"Patients : 300 lignes gardées"_s), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(!fenetre.Travaille(), 20000);
+    QCOMPARE(fenetre.focusWidget(), liste);
+    QTest::keyClick(fenetre.focusWidget(), Qt::Key_Down);
+    QVERIFY(!detail->toPlainText().contains(u"Patients"_s));
+    QTest::keyClick(fenetre.focusWidget(), Qt::Key_Tab);
+    QCOMPARE(fenetre.focusWidget(), detail);
+    QTest::keyClick(fenetre.focusWidget(), Qt::Key_Escape);
+    QVERIFY(!fenetre.isVisible());
 }
 
 void TestFrmUtile::SansDonneesNeCommencePas()

@@ -182,6 +182,7 @@ void FrmUtile::Commence()
     if (Travaille()) {
         return;
     }
+    LstBases_->setFocus(); // the button that has it is disabled
     CmdRepare_->setEnabled(false);
     CmdQuitter_->setText(QStringLiteral("&Arrêter"));
     Barre_->setValue(0);
