@@ -53,7 +53,7 @@ void Recherche::Note(const QString& debut, bool premier, QList<quint32>& notes) 
         const quint32 entier = mot->Texte.size() == debut.size() ? 0 : kPasEntier;
         for (const quint32 lieu : mot->Places) {
             const quint32 place = lieu % kPlacesParNom;
-            const quint32 rang = lieu / kPlacesParNom;
+            const auto rang = static_cast<qsizetype>(lieu / kPlacesParNom);
             const quint32 note = entier + place + (premier && place > 0 ? kPasEnTete : 0);
             if (rang < meilleures.size() && note < meilleures[rang]) {
                 meilleures[rang] = note;

@@ -9,9 +9,9 @@ if(SCRIPTELLE_ASAN)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
-# A faster linker and a compiler cache where the machine has them.
+# A faster linker, which writes no Windows programs, and a compiler cache where the machine has them.
 find_program(MOLD mold)
-if(MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+if(MOLD AND NOT WIN32 AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_link_options(-fuse-ld=mold)
 endif()
 find_program(CCACHE ccache)
