@@ -7,16 +7,16 @@ namespace banque {
 
 /// The public files, under their published names.
 namespace sources {
-inline const QString kSpecialites = QStringLiteral("CIS_bdpm.txt");
-inline const QString kPresentations = QStringLiteral("CIS_CIP_bdpm.txt");
-inline const QString kCompositions = QStringLiteral("CIS_COMPO_bdpm.txt");
-inline const QString kGroupes = QStringLiteral("CIS_GENER_bdpm.txt");
-inline const QString kConditions = QStringLiteral("CIS_CPD_bdpm.txt");
-inline const QString kDisponibilites = QStringLiteral("CIS_CIP_Dispo_Spec.txt");
-inline const QString kMitm = QStringLiteral("CIS_MITM.txt");
-inline const QString kLiensAvis = QStringLiteral("HAS_LiensPageCT_bdpm.txt");
-inline const QString kAvisSmr = QStringLiteral("CIS_HAS_SMR_bdpm.txt");
-inline const QString kAvisAsmr = QStringLiteral("CIS_HAS_ASMR_bdpm.txt");
+inline constexpr QLatin1String kSpecialites("CIS_bdpm.txt");
+inline constexpr QLatin1String kPresentations("CIS_CIP_bdpm.txt");
+inline constexpr QLatin1String kCompositions("CIS_COMPO_bdpm.txt");
+inline constexpr QLatin1String kGroupes("CIS_GENER_bdpm.txt");
+inline constexpr QLatin1String kConditions("CIS_CPD_bdpm.txt");
+inline constexpr QLatin1String kDisponibilites("CIS_CIP_Dispo_Spec.txt");
+inline constexpr QLatin1String kMitm("CIS_MITM.txt");
+inline constexpr QLatin1String kLiensAvis("HAS_LiensPageCT_bdpm.txt");
+inline constexpr QLatin1String kAvisSmr("CIS_HAS_SMR_bdpm.txt");
+inline constexpr QLatin1String kAvisAsmr("CIS_HAS_ASMR_bdpm.txt");
 } // namespace sources
 
 /// The files that no bank can miss.

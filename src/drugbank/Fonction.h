@@ -1,8 +1,8 @@
 #pragma once
 
+#include "drugbank/Bibliotheque.h"
 #include "drugbank/InterfaceBanque.h"
-
-#include <QLibrary>
+#include "drugbank/NomsExportes.h"
 
 namespace drugbank {
 
@@ -11,7 +11,7 @@ template <typename R, typename... A> class Fonction
 {
 public:
     /// Both arguments outlive the function.
-    Fonction(QLibrary& bibliotheque, const char* nom) : bibliotheque_(bibliotheque), nom_(nom) {}
+    Fonction(Bibliotheque& bibliotheque, const char* nom) : bibliotheque_(bibliotheque), nom_(nom) {}
 
     /// True when the library has it.
     bool Existe() const { return Adresse() != nullptr; }
@@ -33,12 +33,12 @@ private:
     {
         if (!cherchee_) {
             cherchee_ = true;
-            adresse_ = reinterpret_cast<Appel>(bibliotheque_.resolve(nom_));
+            adresse_ = reinterpret_cast<Appel>(bibliotheque_.Adresse(nom_, kOctetsArguments<A...>));
         }
         return adresse_;
     }
 
-    QLibrary& bibliotheque_;
+    Bibliotheque& bibliotheque_;
     const char* nom_;
     mutable bool cherchee_ = false;
     mutable Appel adresse_ = nullptr;

@@ -11,18 +11,6 @@ constexpr Entier kSansFonction = -1;
 
 } // namespace
 
-LiaisonAide::LiaisonAide(const QString& nom) : bibliotheque_(nom)
-{
-    bibliotheque_.load();
-}
-
-LiaisonAide::~LiaisonAide()
-{
-    if (bibliotheque_.isLoaded()) {
-        bibliotheque_.unload();
-    }
-}
-
 Entier LiaisonAide::CheminDeBanque(Entier produit, QString& chemin) const
 {
     if (!VidalHelper_getVidalAPIPath.Existe()) {

@@ -12,18 +12,6 @@ constexpr Entier kLongueurMax = 1'000'000;
 
 } // namespace
 
-LiaisonBanque::LiaisonBanque(const QString& chemin) : bibliotheque_(chemin)
-{
-    bibliotheque_.load();
-}
-
-LiaisonBanque::~LiaisonBanque()
-{
-    if (bibliotheque_.isLoaded() && !gardee_) {
-        bibliotheque_.unload();
-    }
-}
-
 QString LitChaineBanque(const LiaisonBanque& banque, TexteBanque adresse)
 {
     const Entier longueur = banque.Chargee() && adresse ? banque.StringLength(adresse) : -1;

@@ -10,20 +10,16 @@ namespace drugbank {
 class LiaisonBanque
 {
 public:
-    explicit LiaisonBanque(const QString& chemin);
-    ~LiaisonBanque();
-    LiaisonBanque(const LiaisonBanque&) = delete;
-    LiaisonBanque& operator=(const LiaisonBanque&) = delete;
+    explicit LiaisonBanque(const QString& chemin) : bibliotheque_(chemin) {}
 
-    bool Chargee() const { return bibliotheque_.isLoaded(); }
+    bool Chargee() const { return bibliotheque_.Chargee(); }
 
     /// From now on the library stays in memory until the process ends: a start that nobody waited for
     /// still runs in it.
-    void Garde() { gardee_ = true; }
+    void Garde() { bibliotheque_.Garde(); }
 
 private:
-    QLibrary bibliotheque_;
-    bool gardee_ = false;
+    Bibliotheque bibliotheque_;
 
 public:
 #define DECLARE(nom, ...) Fonction<__VA_ARGS__> nom{bibliotheque_, #nom};
