@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace drugbank;
@@ -37,11 +36,9 @@ void TestDecoree::chargeAvecVoisine()
 /// No module of the same name stays from the other tests.
 void TestDecoree::sansVoisine()
 {
-    const QTemporaryDir dossier;
-    const QString seule = dossier.filePath(QStringLiteral("decoree.dll"));
-    QVERIFY(QFile::copy(Chemin(), seule));
+    const QString seule = QCoreApplication::applicationDirPath() + QStringLiteral("/seule/decoree.dll");
+    QVERIFY(QFile::exists(seule));
     QVERIFY(!ChargeBanque(seule));
-    QVERIFY(QFile::remove(seule));
 }
 
 void TestDecoree::lieChaqueForme()
