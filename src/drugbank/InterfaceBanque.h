@@ -6,9 +6,10 @@
 /// It stands alone, so that a library that answers as a bank is built with this header and nothing else.
 ///
 /// Every function is found by its plain name. On 32-bit Windows the calls are `__stdcall`, and a name may
-/// also be decorated, "Name@8" or "_Name@8"; elsewhere they are those of the C compiler. A handle has 32 bits on every system and 0 is
-/// none: a bank of 64 bits numbers its records and keeps their addresses to itself. Text and buffers are
-/// addresses of the system's own width. A program of 64 bits cannot load a bank of 32 bits.
+/// also be decorated, "Name@8" or "_Name@8"; elsewhere they are those of the C compiler. A handle has 32 bits
+/// on every system and 0 is none: a bank of 64 bits numbers its records and keeps their addresses to itself.
+/// Text and buffers are addresses of the system's own width. A program of 64 bits cannot load a bank of 32
+/// bits.
 ///
 /// Text is Windows-1252 and ends in a NUL. A text that the bank gives stays its own, and holds at least
 /// until the record that gave it is released. A path is written in the 8-bit set of the system's file names.
