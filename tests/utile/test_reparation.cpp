@@ -113,7 +113,7 @@ void TestReparation::UnePageDeFeuilleDetruite()
     QCOMPARE(Nombre(avant) - Nombre(apres), Perdues(bilan));
     QVERIFY(Perdues(bilan) > 0 && Perdues(bilan) < 500);
     QCOMPARE(Octets(bilan.Copie), octets);
-    QCOMPARE(Soigne(arbre.Medoc()).Issue, Issue::Saine);
+    QCOMPARE(Soigne(arbre.Medoc()).Apres, utile::messages::DejaCompacte());
 }
 
 void TestReparation::DesOctetsRetournes()

@@ -147,7 +147,7 @@ void Chantier::Soigne()
     avant_ = EtatDuFichier();
     // None can begin from here on: they need the databases.
     if (const QString travail = TravailInacheve(bilan_.Base.Arbre); !travail.isEmpty()) {
-        Laisse(messages::EnAttente(), travail + messages::ResteTelle());
+        Laisse(messages::EnAttente(), travail + messages::BaseResteTelle());
         RetireCopie();
         return;
     }

@@ -68,10 +68,12 @@ QString LigneArbre(const Arbre& arbre)
     if (!arbre.Present) {
         return nom + u' ' + arbre.Absence;
     }
-    if (!arbre.Inacheve.isEmpty()) {
-        return nom + QStringLiteral(" — ") + arbre.Inacheve;
+    // Each base tells what work waits.
+    if (!arbre.Bases.isEmpty()) {
+        return nom;
     }
-    return arbre.Bases.isEmpty() ? nom + u' ' + messages::ArbreSansBase() : nom;
+    return arbre.Inacheve.isEmpty() ? nom + u' ' + messages::ArbreSansBase()
+                                    : nom + QStringLiteral(" — ") + arbre.Inacheve;
 }
 
 QString Rapport(const QList<Arbre>& arbres, const QList<Bilan>& bilans)

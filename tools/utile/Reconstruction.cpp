@@ -160,7 +160,8 @@ QList<BilanTable> Reconstruit(const PagesSqlite& pages, const Releve& releve, co
         }
         transaction.Valide();
     }
-    const Base completee(ebauche, genre); // brings it to the current layout
+    Base completee(ebauche, genre); // brings it to the current layout
+    completee.Execute(QStringLiteral("vacuum"));
     return bilans;
 }
 

@@ -5,9 +5,9 @@
 
 namespace utile {
 
-/// Makes a new database of the current layout at `ebauche` from all rows of a `Releve`, in stored order and
-/// with their keys, and gives what was kept of each table. Throws `Erreur`; what stands at `ebauche` then is
-/// worth nothing.
+/// Makes a new, compact database of the current layout at `ebauche` from all rows of a `Releve`, in stored
+/// order and with their keys, and gives what was kept of each table. Throws `Erreur`; what stands at
+/// `ebauche` then is worth nothing.
 QList<BilanTable> Reconstruit(const PagesSqlite& pages, const Releve& releve, const QString& ebauche,
                               storage::GenreBase genre);
 

@@ -62,7 +62,7 @@ Bilan Regarde(const BaseTrouvee& base)
     bilan.TailleAvant = bilan.TailleApres = info.size();
     QFile fichier(base.Chemin);
     if (const QString travail = TravailInacheve(base.Arbre); !travail.isEmpty()) {
-        return Laisse(bilan, Issue::Laissee, messages::EnAttente(), travail + messages::ResteTelle());
+        return Laisse(bilan, Issue::Laissee, messages::EnAttente(), travail + messages::BaseResteTelle());
     }
     if (!info.isFile()) {
         return Laisse(bilan, Issue::Laissee, messages::Absente(), messages::BaseAbsente());

@@ -2,7 +2,9 @@
 
 #include "common/Fichiers.h"
 
+#include <QHash>
 #include <QString>
+#include <QStringList>
 
 /// What the maintenance of the databases says to the doctor.
 namespace utile::messages {
@@ -118,6 +120,11 @@ inline QString Illisible()
 inline QString ResteTelle()
 {
     return QStringLiteral(" Elle n'a pas été modifiée.");
+}
+
+inline QString BaseResteTelle()
+{
+    return QStringLiteral(" La base n'a pas été modifiée.");
 }
 
 inline QString BaseAbsente()
@@ -239,16 +246,43 @@ inline QString ArretDemande()
     return QStringLiteral("Arrêt demandé avant cette base.") + ResteTelle();
 }
 
-/// "Patients : 1200 lignes gardées, 12 perdues".
+/// What a doctor knows the rows of a table as; empty for a table of another layout.
+inline QString ContenuDeTable(const QString& nom)
+{
+    static const QHash<QString, QString> contenus{
+        {QStringLiteral("ListeOrdos"), QStringLiteral("ordonnances mémorisées")},
+        {QStringLiteral("OrdoEnr"), QStringLiteral("lignes des ordonnances mémorisées")},
+        {QStringLiteral("BddMed"), QStringLiteral("pharmacie locale")},
+        {QStringLiteral("Biblio"), QStringLiteral("posologies par titre")},
+        {QStringLiteral("Vidal"), QStringLiteral("posologies par code CIP")},
+        {QStringLiteral("MedUtile"), QStringLiteral("conditionnements déjà prescrits")},
+        {QStringLiteral("Entete"), QStringLiteral("en-tête")},
+        {QStringLiteral("Misenpage"), QStringLiteral("mise en page")},
+        {QStringLiteral("CouleurPET"), QStringLiteral("couleur de l'en-tête")},
+        {QStringLiteral("Certificat"), QStringLiteral("police des certificats")}};
+    return contenus.value(nom);
+}
+
+/// "12 lignes gardées", "1 ligne gardée": each word of `mots` in the number.
+inline QString Accorde(qint64 nombre, const QStringList& mots)
+{
+    const QString marque = nombre < 2 ? QString() : QStringLiteral("s");
+    return QString::number(nombre) + u' ' + mots.join(marque + u' ') + marque;
+}
+
+/// "Patients : 1200 lignes gardées", "BddMed (pharmacie locale) : 1 ligne gardée"
 inline QString LigneDeTable(const QString& nom, qint64 gardees)
 {
-    return QStringLiteral("%1 : %2 lignes gardées").arg(nom).arg(gardees);
+    const QString contenu = ContenuDeTable(nom);
+    const QString lignes = Accorde(gardees, {QStringLiteral("ligne"), QStringLiteral("gardée")});
+    return contenu.isEmpty() ? QStringLiteral("%1 : %2").arg(nom, lignes)
+                             : QStringLiteral("%1 (%2) : %3").arg(nom, contenu, lignes);
 }
 
 inline QString Perdues(qint64 nombre, bool auPlus)
 {
-    return auPlus ? QStringLiteral(", %1 perdues au plus").arg(nombre)
-                  : QStringLiteral(", %1 perdues").arg(nombre);
+    const QString perdues = QStringLiteral(", ") + Accorde(nombre, {QStringLiteral("perdue")});
+    return auPlus ? perdues + QStringLiteral(" au plus") : perdues;
 }
 
 inline QString PerduesSansNombre()
@@ -258,7 +292,8 @@ inline QString PerduesSansNombre()
 
 inline QString Incompletes(qint64 nombre)
 {
-    return QStringLiteral(", dont %1 incomplètes (« [illisible] » remplace le texte perdu)").arg(nombre);
+    return QStringLiteral(", dont %1 (« [illisible] » remplace le texte perdu)")
+        .arg(Accorde(nombre, {QStringLiteral("incomplète")}));
 }
 
 // The trees.
