@@ -29,7 +29,6 @@ public:
     /// False at the end.
     bool Suivante(Ligne& ligne);
 
-    Encodage EncodageDuFichier() const { return encodage_; }
     int Vides() const { return vides_; }
     /// True when the last line has no end.
     bool FinOuverte() const { return !octets_.isEmpty() && octets_.back() != '\n'; }
