@@ -3,6 +3,7 @@
 #include "application/windows/Style.h"
 
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace drugbank {
@@ -54,6 +55,13 @@ void FrmIAM::Ouvre(const QString& texte)
     txt_->setPlainText(texte);
     txt_->moveCursor(QTextCursor::End);
     exec();
+}
+
+/// The view has followed the caret by now; the first interaction of a long report would be out of sight.
+void FrmIAM::showEvent(QShowEvent* evenement)
+{
+    QDialog::showEvent(evenement);
+    txt_->verticalScrollBar()->setValue(0);
 }
 
 } // namespace drugbank

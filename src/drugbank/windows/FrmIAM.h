@@ -16,10 +16,14 @@ class FrmIAM : public QDialog
 public:
     FrmIAM(application::Contexte& contexte, application::Fenetres& fenetres);
 
-    /// Shows the text modally, the caret at its end, and returns when the doctor has closed it.
+    /// Shows the text modally from its beginning, the caret at its end, and returns when the doctor has
+    /// closed it.
     void Montre(const QString& texte);
     /// The same for a report of interactions.
     void MontreInteractions(const QString& rapport);
+
+protected:
+    void showEvent(QShowEvent* evenement) override;
 
 private:
     void Nomme(const QString& titre, const QString& nomAccessible);
