@@ -147,8 +147,8 @@ void TestReparationCabinet::initTestCase()
 void TestReparationCabinet::DesDegats_data()
 {
     QTest::addColumn<int>("genre");
-    for (int essai = 0; essai < 27; ++essai) {
-        QTest::addRow("%d", essai) << essai % 9;
+    for (int essai = 0; essai < 9; ++essai) {
+        QTest::addRow("%d", essai) << essai;
     }
 }
 
