@@ -35,6 +35,15 @@ void InstallePolice(QApplication& application)
     QApplication::setFont(police);
 }
 
+/// Windows has a font of its own for each of these, and sets it again whenever its theme changes.
+QString PoliceDesBoites()
+{
+    return QStringLiteral(
+               "QMessageBox QLabel, QMenu, QMenuBar, QToolTip { font-family: \"%1\"; font-size: %2pt; }")
+        .arg(QApplication::font().family())
+        .arg(kPointsTexte);
+}
+
 void InstalleTextes(QApplication& application)
 {
     auto* traducteur = new QTranslator(&application);
@@ -137,7 +146,7 @@ void Installe(QApplication& application)
     InstallePolice(application);
     QApplication::setStyle(new StyleScriptelle);
     QApplication::setPalette(Palette());
-    application.setStyleSheet(FeuilleDeStyle());
+    application.setStyleSheet(FeuilleDeStyle() + PoliceDesBoites());
     QApplication::setWindowIcon(IconeProgramme());
 }
 

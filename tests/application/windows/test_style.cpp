@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFontInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QTest>
@@ -17,6 +18,19 @@ class TestStyle : public QObject
 
 private Q_SLOTS:
     void ThePoliceIsInter() { QCOMPARE(QFontInfo(QApplication::font()).family(), QStringLiteral("Inter")); }
+
+    void BoxesHaveItWhateverTheDesktopSays()
+    {
+        const QFont avant = QApplication::font("QMessageBox");
+        QApplication::setFont(QFont(QStringLiteral("Liberation Mono"), 7), "QMessageBox");
+        QMessageBox boite(QMessageBox::Information, QString(), QStringLiteral("Texte"));
+        boite.ensurePolished();
+        auto* texte = boite.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        texte->ensurePolished();
+        QCOMPARE(QFontInfo(texte->font()).family(), QStringLiteral("Inter"));
+        QCOMPARE(texte->font().pointSizeF(), QApplication::font().pointSizeF());
+        QApplication::setFont(avant, "QMessageBox");
+    }
 
     void QtSpeaksFrench()
     {
