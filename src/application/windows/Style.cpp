@@ -39,7 +39,7 @@ void InstallePolice(QApplication& application)
 QString PoliceDesBoites()
 {
     return QStringLiteral(
-               "QMessageBox QLabel, QMenu, QMenuBar, QToolTip { font-family: \"%1\"; font-size: %2pt; }")
+               "QLabel#qt_msgbox_label, QMenu, QMenuBar, QToolTip { font-family: \"%1\"; font-size: %2pt; }")
         .arg(QApplication::font().family())
         .arg(kPointsTexte);
 }
