@@ -61,7 +61,8 @@ public:
 
     QPixmap scaledPixmap(const QSize& pixels, QIcon::Mode mode, QIcon::State, qreal) override
     {
-        const QColor couleur = Teinte(mode == QIcon::Disabled ? Ton::Eteint : ton_);
+        const Ton ton = mode == QIcon::Disabled ? Ton::Eteint : mode == QIcon::Selected ? Ton::Blanc : ton_;
+        const QColor couleur = Teinte(ton);
         const QString cle = QStringLiteral("icone %1 %2 %3").arg(nom_, couleur.name()).arg(pixels.width());
         QPixmap image;
         if (!QPixmapCache::find(cle, &image)) {

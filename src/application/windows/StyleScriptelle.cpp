@@ -11,6 +11,16 @@ namespace {
 
 constexpr double kCoinRangee = 4;
 
+/// The bar of a row of several columns has its corners at both ends alone: those of a cell within lie outside
+/// of it.
+QRectF Barre(const QStyleOptionViewItem& option)
+{
+    using Item = QStyleOptionViewItem;
+    const bool suivie = option.viewItemPosition == Item::Beginning || option.viewItemPosition == Item::Middle;
+    const bool suit = option.viewItemPosition == Item::Middle || option.viewItemPosition == Item::End;
+    return QRectF(option.rect).adjusted(suit ? -kCoinRangee : 0, 0, suivie ? kCoinRangee : 0, 0);
+}
+
 void PeintRangee(const QStyleOptionViewItem& option, QPainter& peintre)
 {
     const bool choisie = option.state & QStyle::State_Selected;
@@ -26,7 +36,8 @@ void PeintRangee(const QStyleOptionViewItem& option, QPainter& peintre)
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(fond);
-    peintre.drawRoundedRect(option.rect, kCoinRangee, kCoinRangee);
+    peintre.setClipRect(option.rect, Qt::IntersectClip);
+    peintre.drawRoundedRect(Barre(option), kCoinRangee, kCoinRangee);
     peintre.restore();
 }
 

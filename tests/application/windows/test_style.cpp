@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeWidget>
 
 using namespace application;
 
@@ -46,18 +47,50 @@ private Q_SLOTS:
         QCOMPARE(clair.pixelColor(9, 9).name(), QStringLiteral("#ffffff"));
     }
 
+    void AnIconIsWhiteOnASelectedRow()
+    {
+        const QIcon icone = style::Icone(QStringLiteral("plus-lg"), style::Ton::Rouge);
+        QCOMPARE(icone.pixmap(18, 18, QIcon::Selected).toImage().pixelColor(9, 9).name(),
+                 QStringLiteral("#ffffff"));
+    }
+
+    void ASelectedRowIsOneBar()
+    {
+        QTreeWidget arbre;
+        arbre.setColumnCount(2);
+        arbre.setRootIsDecorated(false);
+        auto* rangee = new QTreeWidgetItem(&arbre, {QString(), QString()});
+        arbre.setCurrentItem(rangee);
+        arbre.resize(400, 120);
+        arbre.show();
+        const QImage image = arbre.viewport()->grab().toImage();
+        const QRect place = arbre.visualItemRect(rangee);
+        const int bord = arbre.columnViewportPosition(1);
+        for (const int x : {bord - 1, bord}) {
+            QCOMPARE(image.pixelColor(x, place.top()).name(), style::Teinte(style::Ton::Encre).name());
+            QCOMPARE(image.pixelColor(x, place.bottom()).name(), style::Teinte(style::Ton::Encre).name());
+        }
+    }
+
     void AnIconFollowsThePixelDensity()
     {
         QCOMPARE(style::Icone(QStringLiteral("plus-lg")).pixmap(QSize(18, 18), 2.0).size(), QSize(36, 36));
     }
 
+    void EveryIconOfTheSourcesExists_data()
+    {
+        QTest::addColumn<QString>("dossier");
+        QTest::newRow("src") << QStringLiteral(RACINE_PROJET "/src");
+        QTest::newRow("tools") << QStringLiteral(RACINE_PROJET "/tools");
+    }
+
     void EveryIconOfTheSourcesExists()
     {
+        QFETCH(QString, dossier);
         static const QRegularExpression nom(
             QStringLiteral("(?:Bouton|BoutonPrincipal|BoutonDestructeur|BoutonIcone|Icone)\\((?:[^;]*?)"
                            "QStringLiteral\\(\"([a-z0-9]+(?:-[a-z0-9]+)*)\"\\)"));
-        QDirIterator fichiers(QStringLiteral(RACINE_PROJET "/src"), {QStringLiteral("*.cpp")}, QDir::Files,
-                              QDirIterator::Subdirectories);
+        QDirIterator fichiers(dossier, {QStringLiteral("*.cpp")}, QDir::Files, QDirIterator::Subdirectories);
         while (fichiers.hasNext()) {
             QFile fichier(fichiers.next());
             QVERIFY(fichier.open(QIODevice::ReadOnly));
