@@ -8,6 +8,7 @@
 
 #include <QLocale>
 #include <QThread>
+#include <QThreadPool>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -87,7 +88,10 @@ int JoueUn(const Commande& commande, int argc, char** argv, Fabrique& fabrique)
     Bureau bureau;
     Relais relais;
     relais.SurAction = [&] { session.Horloge.Repart(); };
-    relais.Presse = [&] { return session.Horloge.Presse(); };
+    relais.Presse = [&] {
+        const bool enFond = QThreadPool::globalInstance()->activeThreadCount() > 0; // the copy of the day
+        return enFond || session.Horloge.Presse();
+    };
     session.Horloge.Calme = [&] { return relais.Calme(); };
     Rapport rapport(commande.Fichiers.first());
     const std::unique_ptr<QThread> fil(QThread::create([&] {
