@@ -247,7 +247,7 @@ void TestArbres::DeuxProgrammesALaFois()
         const auto reparations = ensemble.count(u"Endommagée -> Réparée"_s);
         QCOMPARE(Gardees(arbre).size(), gardees + reparations);
         if (reparations == 0) { // each has seen the other at its first look
-            QVERIFY2(ensemble.count(u"« Utile »"_s) == 2, qPrintable(ensemble));
+            QVERIFY2(ensemble.count(u"Medoc.mdb : Utilisée -> Inchangée"_s) == 2, qPrintable(ensemble));
             QCOMPARE(support::Octets(arbre.Medoc().Chemin), abimee);
             continue;
         }
