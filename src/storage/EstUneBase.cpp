@@ -44,8 +44,7 @@ Avis AvisDuMoteur(QSqlDatabase base, const QString& chemin)
 bool CommenceCommeUneBase(const QString& chemin)
 {
     QFile fichier(chemin);
-    const QByteArray entete("SQLite format 3", 16);
-    return fichier.open(QIODevice::ReadOnly) && fichier.read(entete.size()) == entete;
+    return fichier.open(QIODevice::ReadOnly) && fichier.read(kMarqueDuMoteur.size()) == kMarqueDuMoteur;
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "PagesSqlite.h"
 
+#include "storage/EstUneBase.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -109,7 +111,7 @@ PagesSqlite::PagesSqlite(QByteArray octets) : octets_(std::move(octets))
 {
     const quint32 brute = Gros<quint16>(octets_, 16);
     const quint32 ecrite = brute == 1 ? 65536 : brute;
-    entete_ = octets_.startsWith(QByteArray("SQLite format 3", 16));
+    entete_ = octets_.startsWith(storage::kMarqueDuMoteur);
     const bool lisible = entete_ && ecrite >= 512 && std::has_single_bit(ecrite);
     taille_ = lisible ? ecrite : DevineTaille();
     reserve_ = lisible ? static_cast<quint8>(octets_[20]) : 0;

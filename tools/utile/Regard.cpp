@@ -3,6 +3,7 @@
 #include "messages.h"
 
 #include "storage/EnteteJet.h"
+#include "storage/EstUneBase.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,7 +15,6 @@ namespace {
 
 /// The engine takes less than a page for the beginning of a new database, and writes one.
 constexpr qint64 kPage = 4096;
-const QByteArray kMarque("SQLite format 3", 16);
 
 Bilan& Laisse(Bilan& bilan, Issue issue, const QString& etat, const QString& phrase)
 {
@@ -77,7 +77,7 @@ Bilan Regarde(const BaseTrouvee& base)
         return bilan;
     }
     if (info.size() < kPage) {
-        return fichier.read(kMarque.size()) == kMarque
+        return fichier.read(storage::kMarqueDuMoteur.size()) == storage::kMarqueDuMoteur
                    ? Laisse(bilan, Issue::Laissee, messages::Irreparable(), messages::RienALire())
                    : Laisse(bilan, Issue::Laissee, messages::PasUneBase(), messages::Etrangere());
     }
